@@ -1,0 +1,189 @@
+#include "clock/ClockPainter.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr COLORREF PanelColour = RGB(0xE6, 0xE6, 0xE6);
+constexpr COLORREF RunningColour = RGB(0xFF, 0xF1, 0xC2);
+constexpr COLORREF MarkColour = RGB(0x12, 0x8A, 0x3A);
+constexpr COLORREF InkColour = RGB(0x14, 0x14, 0x14);
+constexpr COLORREF EdgeColour = RGB(0x6E, 0x6E, 0x6E);
+constexpr COLORREF BrassColour = RGB(0xE9, 0xB4, 0x4C);
+constexpr COLORREF KeyColour = RGB(0xF7, 0xF7, 0xF7);
+constexpr COLORREF PressedColour = RGB(0xC9, 0xC9, 0xC9);
+constexpr COLORREF DimColour = RGB(0x76, 0x76, 0x76);
+
+struct FaceColours {
+    COLORREF ground, ink, fallenInk;
+};
+constexpr std::array<FaceColours, 2> Faces{
+    FaceColours{RGB(0xFF, 0xFF, 0xFF), RGB(0x10, 0x10, 0x10), RGB(0xC0, 0x10, 0x10)},
+    FaceColours{RGB(0x1B, 0x1B, 0x1B), RGB(0xFF, 0xFF, 0xFF), RGB(0xFF, 0x7A, 0x6A)},
+};
+
+COLORREF Darker(COLORREF colour) {
+    return RGB(GetRValue(colour) * 5 / 8, GetGValue(colour) * 5 / 8, GetBValue(colour) * 5 / 8);
+}
+
+UniqueFont MakeFont(int height, bool bold) {
+    return UniqueFont(CreateFontW(-std::max(height, 1), 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
+                                  DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
+                                  DEFAULT_PITCH | FF_SWISS, L"Arial"));
+}
+
+void Fill(HDC dc, const RECT& rectangle, COLORREF colour) {
+    const UniqueBrush brush(CreateSolidBrush(colour));
+    FillRect(dc, &rectangle, brush.get());
+}
+
+void Frame(HDC dc, const RECT& rectangle, COLORREF colour) {
+    const UniqueBrush brush(CreateSolidBrush(colour));
+    FrameRect(dc, &rectangle, brush.get());
+}
+
+// Draws a control off the screen, so that it changes without flicker.
+class Buffered {
+  public:
+    explicit Buffered(const DRAWITEMSTRUCT& item)
+        : target(item.hDC), at(item.rcItem), memory(CreateCompatibleDC(target)),
+          bitmap(CreateCompatibleBitmap(target, at.right - at.left, at.bottom - at.top)),
+          selection(memory.get(), bitmap.get()) {
+        SetBkMode(memory.get(), TRANSPARENT);
+    }
+    ~Buffered() { BitBlt(target, at.left, at.top, Area().right, Area().bottom, memory.get(), 0, 0, SRCCOPY); }
+    Buffered(const Buffered&) = delete;
+    Buffered& operator=(const Buffered&) = delete;
+
+    HDC Dc() const { return memory.get(); }
+    RECT Area() const { return {0, 0, at.right - at.left, at.bottom - at.top}; }
+
+  private:
+    HDC target;
+    RECT at;
+    UniqueDc memory;
+    UniqueBitmap bitmap;
+    Selection selection;
+};
+
+}  // namespace
+
+ClockPainter::ClockPainter(uint32_t background)
+    : backgroundBrush(CreateSolidBrush(RGB(background >> 16 & 0xFF, background >> 8 & 0xFF, background & 0xFF))),
+      panelBrush(CreateSolidBrush(PanelColour)), runningBrush(CreateSolidBrush(RunningColour)) {}
+
+void ClockPainter::SetLayout(const ClockLayout& layout) {
+    nameFont = MakeFont(layout.nameType, true);
+    blinkFont = MakeFont(layout.blinkType, true);
+    buttonFont = MakeFont(layout.buttonType, true);
+    pauseFont = MakeFont(layout.pauseType, true);
+    textFont = MakeFont(layout.textType, false);
+    faceFont.reset();
+}
+
+void ClockPainter::DrawPanel(HDC dc, const Box& panel, bool running) const {
+    RECT area{panel.left, panel.top, panel.Right(), panel.Bottom()};
+    FillRect(dc, &area, PanelBrush(running));
+    Frame(dc, area, running ? MarkColour : EdgeColour);
+    if (running) {
+        InflateRect(&area, -1, -1);
+        Frame(dc, area, MarkColour);
+    }
+}
+
+void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text, bool fallen) const {
+    const Buffered buffer(item);
+    RECT area = buffer.Area();
+    const FaceColours& colours = Faces[side];
+    Fill(buffer.Dc(), area, colours.ground);
+    Frame(buffer.Dc(), area, EdgeColour);
+    const Selection selection(buffer.Dc(), FaceFont(buffer.Dc(), text, area.right * 94 / 100, area.bottom));
+    SetTextColor(buffer.Dc(), fallen ? colours.fallenInk : colours.ink);
+    DrawTextW(buffer.Dc(), text.c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+HFONT ClockPainter::FaceFont(HDC dc, const std::wstring& text, int width, int height) const {
+    const std::array<int, 3> wanted{static_cast<int>(text.size()), width, height};
+    if (faceFont && faceFontFor == wanted) return faceFont.get();
+    // Digits are all of one width, so the text itself stands for every other of its length.
+    // Digits take seven tenths of the type, so type higher than the box still fits into it.
+    const int highest = height * 6 / 5;
+    UniqueFont tall = MakeFont(highest, true);
+    SIZE size{};
+    {
+        const Selection selection(dc, tall.get());
+        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    }
+    faceFont = size.cx > width ? MakeFont(MulDiv(highest, width, size.cx), true) : std::move(tall);
+    faceFontFor = wanted;
+    return faceFont.get();
+}
+
+void ClockPainter::DrawTurnMark(const DRAWITEMSTRUCT& item, bool arrow) const {
+    const Buffered buffer(item);
+    const RECT area = buffer.Area();
+    if (!arrow) return Fill(buffer.Dc(), area, MarkColour);
+
+    // The arrow's slopes are smoothed by drawing it larger.
+    constexpr int factor = 4;
+    const int width = area.right * factor, height = area.bottom * factor;
+    const UniqueDc large(CreateCompatibleDC(buffer.Dc()));
+    const UniqueBitmap bitmap(CreateCompatibleBitmap(item.hDC, width, height));
+    const Selection bitmapSelection(large.get(), bitmap.get());
+    Fill(large.get(), {0, 0, width, height}, RunningColour);
+    const UniqueBrush brush(CreateSolidBrush(MarkColour));
+    const Selection brushSelection(large.get(), brush.get());
+    const Selection penSelection(large.get(), GetStockObject(NULL_PEN));
+    const std::array<POINT, 3> corners{POINT{0, 0}, POINT{width, height / 2}, POINT{0, height}};
+    Polygon(large.get(), corners.data(), static_cast<int>(corners.size()));
+    SetStretchBltMode(buffer.Dc(), HALFTONE);
+    StretchBlt(buffer.Dc(), 0, 0, area.right, area.bottom, large.get(), 0, 0, width, height, SRCCOPY);
+}
+
+void ClockPainter::DrawPicture(const DRAWITEMSTRUCT& item, const Picture& picture, bool running) const {
+    const Buffered buffer(item);
+    const RECT area = buffer.Area();
+    FillRect(buffer.Dc(), &area, PanelBrush(running));
+    picture.Draw(buffer.Dc(), 0, 0, static_cast<int>(std::min(area.right, area.bottom)));
+}
+
+void ClockPainter::DrawClockButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const {
+    DrawKey(item, text, running, BrassColour, ButtonFont());
+}
+
+void ClockPainter::DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const {
+    DrawKey(item, text, running, KeyColour, PauseFont());
+}
+
+// A key stands out while it can be pressed and lies flat while it cannot.
+void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, COLORREF face,
+                           HFONT font) const {
+    const Buffered buffer(item);
+    RECT area = buffer.Area();
+    FillRect(buffer.Dc(), &area, PanelBrush(running));
+    const bool enabled = !(item.itemState & ODS_DISABLED), down = (item.itemState & ODS_SELECTED) || !enabled;
+    const LONG rise = std::max(area.bottom / 10, LONG{3});
+    const COLORREF colour = enabled ? face : PressedColour;
+
+    Fill(buffer.Dc(), area, Darker(colour));
+    RECT top = area;
+    if (down) {
+        top.top += rise * 2 / 3;
+        RECT gone{area.left, area.top, area.right, top.top};
+        FillRect(buffer.Dc(), &gone, PanelBrush(running));
+        top.bottom -= rise / 3;
+    } else {
+        top.bottom -= rise;
+    }
+    Fill(buffer.Dc(), top, colour);
+    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, enabled ? InkColour : EdgeColour);
+
+    const Selection selection(buffer.Dc(), font);
+    SetTextColor(buffer.Dc(), enabled ? InkColour : DimColour);
+    DrawTextW(buffer.Dc(), text.c_str(), -1, &top, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    if (item.itemState & ODS_FOCUS) {
+        InflateRect(&top, -static_cast<int>(rise / 2), -static_cast<int>(rise / 2));
+        SetTextColor(buffer.Dc(), InkColour);
+        DrawFocusRect(buffer.Dc(), &top);
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "clock/ClockLayout.h"
+#include "platform/Handles.h"
+#include "platform/Picture.h"
+
+#include <windows.h>
+
+#include <array>
+#include <string>
+
+// How the clock window looks: its colours, type and pictures.
+class ClockPainter {
+  public:
+    // `background` as 0xRRGGBB.
+    explicit ClockPainter(uint32_t background);
+
+    // Takes the sizes of a new layout.
+    void SetLayout(const ClockLayout& layout);
+
+    HFONT NameFont() const { return nameFont.get(); }
+    HFONT BlinkFont() const { return blinkFont.get(); }
+    HFONT ButtonFont() const { return buttonFont.get(); }
+    HFONT PauseFont() const { return pauseFont.get(); }
+    HFONT TextFont() const { return textFont.get(); }
+
+    HBRUSH BackgroundBrush() const { return backgroundBrush.get(); }
+    HBRUSH PanelBrush(bool running) const { return running ? runningBrush.get() : panelBrush.get(); }
+
+    void DrawPanel(HDC dc, const Box& panel, bool running) const;
+
+    // The controls, each over the whole of its rectangle.
+    void DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text, bool fallen) const;
+    void DrawTurnMark(const DRAWITEMSTRUCT& item, bool arrow) const;
+    void DrawPicture(const DRAWITEMSTRUCT& item, const Picture& picture, bool running) const;
+    void DrawClockButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const;
+    void DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const;
+
+  private:
+    void DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, COLORREF face, HFONT font) const;
+    HFONT FaceFont(HDC dc, const std::wstring& text, int width, int height) const;
+
+    UniqueBrush backgroundBrush, panelBrush, runningBrush;
+    UniqueFont nameFont, blinkFont, buttonFont, pauseFont, textFont;
+    // The face's type is made for a number of characters and a width.
+    mutable UniqueFont faceFont;
+    mutable std::array<int, 3> faceFontFor{};
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/MessageBoxes.h"
+
+#include <windows.h>
+
+#include <string>
+
+// The help file in the system's help viewer: opened, followed and closed with the program.
+class HelpWindow {
+  public:
+    // `viewer` is the viewer's path, empty when the system has none; `folder` the program's folder.
+    HelpWindow(const Texts& texts, const MessageBoxes& messageBoxes, std::wstring viewer, std::wstring folder)
+        : texts(texts), messageBoxes(messageBoxes), viewer(std::move(viewer)), folder(std::move(folder)) {}
+
+    // Opens the help file of a row, or brings its window to the front when it is open. A missing viewer or file is told
+    // in a message.
+    void Open(HWND owner, TextId file);
+
+    // Looks from `first` downwards in the z-order for the viewer's window and holds it.
+    void Watch(HWND first);
+
+    // Asks a held window to close.
+    void Close();
+
+  private:
+    const Texts& texts;
+    const MessageBoxes& messageBoxes;
+    std::wstring viewer;
+    std::wstring folder;
+    DWORD process = 0;  // of the viewer last started
+    HWND held = nullptr;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// Text of one part of a time, at least two digits: 0 is "00", 7 is "07", 59 is "59", 100 is "100".
+// `part` must not be negative.
+std::string TwoDigitText(int32_t part);
+
+// Seconds as "HH:MM:SS". Hours are not limited to two digits.
+std::string FaceText(int32_t seconds);
+
+// Seconds as "HH:MM"; what is left of the last minute is not shown.
+std::string HoursMinutesText(int32_t seconds);
+
+// Seconds as "MM:SS" for times under an hour; minutes are not limited to two digits.
+std::string MinutesSecondsText(int32_t seconds);

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "clock/ClockCommands.h"
+#include "clock/ClockPainter.h"
+#include "clock/HelpWindow.h"
+#include "clock/TickTimer.h"
+#include "clock/modEnvironment.h"
+#include "platform/Form.h"
+#include "settings/Settings.h"
+#include "settings/SettingsFile.h"
+
+// The main window: two clock panels side by side and the menus.
+class frmClock : public Form, private ClockView {
+  public:
+    // All of them must outlive the window.
+    frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
+             const Texts& texts, const MessageBoxes& messageBoxes);
+    ~frmClock() override;
+
+    // Loads the window with its pictures, texts and an idle clock, and shows it. Closing it ends the message loop.
+    void Open();
+
+    // Menu keys and the keys that move between controls. True: the message is done with.
+    bool TakeMessage(MSG& message);
+
+  private:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // ClockView
+    int32_t SetTimer() override { return timer.Set(); }
+    int32_t KillTimer(int32_t handle) override { return timer.Kill(handle); }
+    void FaceChanged(Side side) override;
+    void MoveNumbersChanged() override;
+    void PhaseChanged() override;
+    void FocusClockButton(Side side) override;
+    void FocusPauseButton(Side side) override;
+    void PlayButtonSound() override;
+    void PlayFlagSound() override;
+    void Inform(Notice notice) override;
+    bool AskReset() override;
+    modClock::TimeControl ReadTimeControl() override;
+
+    void CreateControls();
+    void LoadPictures();
+    void PlaceWindow();
+    void Arrange();
+    void ApplyTexts();
+    void ShowSettings();
+    void ShowBlink();
+    void UpdateMenu();
+
+    std::wstring NoticeText(Notice notice) const;
+    std::wstring WaysToBegin() const;
+    bool SideRuns(Side side) const { return commands.TurnMarksVisible(side); }
+
+    void OnCommand(int id);
+    void OnMouseDown(POINT point, bool rightButton);
+    void OnButtonKey(int id, WPARAM key);
+    bool OnSetCursor();
+    void OnDrawItem(const DRAWITEMSTRUCT& item);
+    HBRUSH OnColour(HDC dc, HWND control) const;
+    void OnPaint();
+    void OnGetMinMaxInfo(MINMAXINFO& info) const;
+    void OnTimer(UINT_PTR id);
+    void FocusRightfulButton();
+    void Unload();
+
+    // Clock and pause buttons act when the mouse button or the key goes down.
+    static LRESULT CALLBACK ButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                            DWORD_PTR self);
+
+    const modEnvironment::Environment& environment;
+    const SettingsFile& settingsFile;
+    Settings& settings;
+
+    ClockCommands commands;
+    TickTimer timer;
+    HelpWindow help;
+    ClockPainter painter;
+    ClockLayout layout{};
+    Picture flagUp, flagDown, hand;
+    UniqueCursor handHit, handPointBlue;
+    UniqueIcon icon;
+    UniqueAccelerators accelerators;
+    HWND toolTips = nullptr;
+    int dpi = 96;
+    std::wstring title;
+    std::wstring pendingMessage;  // shown once the window stands
+};

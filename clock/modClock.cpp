@@ -1,0 +1,165 @@
+#include "clock/modClock.h"
+
+#include "base/RunTimeError.h"
+#include "clock/TimeText.h"
+
+namespace modClock {
+
+bool Clock::Untouched() const {
+    return !state.GameStarted && state.MoveCount[White] == 0 && state.MoveCount[Black] == 0;
+}
+
+bool Clock::CountsOutOfStep() const {
+    const int64_t lead = int64_t{state.MoveCount[White]} - state.MoveCount[Black];
+    return lead != 0 && lead != 1;
+}
+
+std::string Clock::Face(Side side) const {
+    return state.TimeHoursText[side] + ":" + state.TimeMinutesText[side] + ":" + state.TimeSecondsText[side];
+}
+
+void Clock::SetTimeControl(const TimeControl& control) { static_cast<TimeControl&>(state) = control; }
+
+void Clock::Restore(const ClockState& kept) {
+    const int32_t handle = state.TimerHandle;
+    const bool running = state.TimerRunning;
+    state = kept;
+    state.TimerHandle = handle;
+    state.TimerRunning = running;
+    for (Side side : BothSides) ShowClock(side);
+    host.MoveNumbersChanged();
+}
+
+void Clock::InitialiseClock() {
+    state.TurnFlag = false;
+    for (Side side : BothSides) {
+        state.PlayerTime[side] = 0;
+        state.MoveCount[side] = 0;
+        state.SecondPeriodDue[side] = false;
+        state.SecondPeriodArmed[side] = state.SecondPeriodEnabled;
+    }
+    for (Side side : BothSides) ShowClock(side);
+    host.MoveNumbersChanged();
+}
+
+void Clock::AbandonGame() {
+    StopClockTimer();
+    state.GameStarted = false;
+    state.TimerHandle = 0;
+}
+
+void Clock::ShowClock(Side side) {
+    const bool showsLimit = state.CountTimeDown && Untouched();
+    const int32_t time = showsLimit ? state.PeriodLimit[side] : state.PlayerTime[side];
+    state.TimeSeconds[side] = time % 60;
+    state.TimeMinutes[side] = time / 60 % 60;
+    state.TimeHours[side] = time / 3600;
+    state.TimeSecondsText[side] = TwoDigitText(state.TimeSeconds[side]);
+    state.TimeMinutesText[side] = TwoDigitText(state.TimeMinutes[side]);
+    state.TimeHoursText[side] = TwoDigitText(state.TimeHours[side]);
+    host.FaceChanged(side);
+}
+
+void Clock::ClockTick() {
+    state.ActiveSide = TurnSide();
+    if (CountsOutOfStep()) return;
+
+    const Side side = state.ActiveSide;
+    const bool granted = state.SecondPeriodDue[side] && state.SecondPeriodEnabled;
+    if (state.CountTimeDown) {
+        state.PlayerTime[side] = CheckedAdd(state.PlayerTime[side], -1);
+        if (state.PlayerTime[side] == 0) {
+            if (granted) {
+                state.PlayerTime[side] = state.SecondPeriodTime[side];
+                state.SecondPeriodDue[side] = false;
+            }
+            // A second period of no time is none: the time must not run on below zero.
+            if (state.PlayerTime[side] == 0) return FlagFall();
+        }
+    } else {
+        const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
+        // The bonus counts as time used, deliberately.
+        const bool passed = CheckedAdd(state.MoveBonus[side], used) > state.PeriodLimit[side];
+        const int32_t limit =
+            passed && granted ? CheckedAdd(state.PeriodLimit[side], state.SecondPeriodTime[side]) : 0;
+        state.PlayerTime[side] = used;
+        if (passed) {
+            if (!granted) return FlagFall();
+            state.PeriodLimit[side] = limit;
+            state.SecondPeriodDue[side] = false;
+        }
+    }
+    ShowClock(side);
+    host.MoveNumbersChanged();
+}
+
+PressOutcome Clock::PressClock(Side button) {
+    // A press begins the other side's move, and that is the one counted. The divisors differ by one on purpose.
+    const Side counted = Other(button);
+    const int32_t divisor = counted == Black ? state.MovesFirstPeriod : CheckedAdd(state.MovesFirstPeriod, 1);
+    const int32_t moves = CheckedAdd(state.MoveCount[counted], 1);
+    const bool ticking = state.TimerHandle > 1;
+    const int32_t bonus = ticking && state.MoveBonus[button] > 0 ? state.MoveBonus[button] : 0;
+    const int32_t time = CheckedAdd(state.PlayerTime[button], bonus);
+
+    const ClockState before = state;
+    state.TurnFlag = !state.TurnFlag;
+    state.PlayerTime[button] = time;
+    if (!ticking && !state.GameStarted) {
+        state.GameStarted = true;
+        if (state.CountTimeDown) state.PlayerTime = state.PeriodLimit;
+        if (!StartClockTimer()) {
+            state = before;
+            return PressOutcome::TimerNotCreated;
+        }
+    }
+    state.MoveCount[counted] = moves;
+    if (EarnsSecondPeriod(counted, moves, divisor)) {
+        state.SecondPeriodDue[counted] = true;
+        state.SecondPeriodArmed[counted] = false;
+    }
+    ShowClock(button);
+    host.MoveNumbersChanged();
+    return PressOutcome::Counted;
+}
+
+bool Clock::EarnsSecondPeriod(Side side, int32_t moves, int32_t divisor) const {
+    const int32_t second = state.SecondPeriodTime[side];
+    const bool byTime = state.PlayerTime[side] > second && state.SecondPeriodArmed[side];
+    const bool byMoves = moves % divisor == 0 && second >= 1;
+    return byTime || byMoves;
+}
+
+void Clock::FlagFall() {
+    const Side fallen = state.ActiveSide;
+    ShowClock(fallen);
+    StopClockTimer();
+    state.GameStarted = false;
+    state.TurnFlag = false;
+    host.FlagFell(fallen);
+}
+
+bool Clock::StartClockTimer() {
+    state.TimerHandle = host.SetTimer();
+    state.TimerRunning = state.TimerHandle > 1;
+    return state.TimerRunning;
+}
+
+void Clock::PauseClock() {
+    state.TimerHandle = host.KillTimer(state.TimerHandle);
+    state.TimerRunning = false;
+}
+
+bool Clock::ResumeClock() {
+    state.TimerHandle = host.SetTimer();
+    state.TimerRunning = state.TimerHandle != 0;
+    return state.TimerRunning;
+}
+
+bool Clock::StopClockTimer() {
+    if (!state.TimerRunning) return true;
+    PauseClock();
+    return state.TimerHandle != 0;
+}
+
+}  // namespace modClock

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "base/Side.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+// The clock's arithmetic: two sides, one running at a time, in whole seconds. It reads no time of its own: every call
+// of ClockTick counts as exactly one second.
+namespace modClock {
+
+// What a game is played with. Times are whole seconds, per side.
+struct TimeControl {
+    std::array<int32_t, 2> PeriodLimit{};       // first period; counting up it grows when the second is granted
+    std::array<int32_t, 2> SecondPeriodTime{};  // 0: none
+    std::array<int32_t, 2> MoveBonus{};         // added at each press, 0: none
+    bool CountTimeDown = true;                  // false: the clocks show the time used
+    bool SecondPeriodEnabled = false;
+    int32_t MovesFirstPeriod = 40;  // at least 1, it divides
+};
+
+struct ClockState : TimeControl {
+    std::array<int32_t, 2> PlayerTime{};      // seconds left, or used when counting up
+    std::array<bool, 2> SecondPeriodDue{};    // earned, and not yet used
+    std::array<bool, 2> SecondPeriodArmed{};  // the second period may still be earned by the time rule
+    std::array<int32_t, 2> MoveCount{};
+
+    // The split of the time that the face shows.
+    std::array<int32_t, 2> TimeHours{}, TimeMinutes{}, TimeSeconds{};
+    std::array<std::string, 2> TimeHoursText, TimeMinutesText, TimeSecondsText;
+
+    bool TurnFlag = false;  // true: side 0 runs
+    Side ActiveSide = Black;
+    bool GameStarted = false;
+    int32_t TimerHandle = 0;    // what the last SetTimer or KillTimer gave; 1 is what a kill leaves behind
+    bool TimerRunning = false;  // the one-second timer exists
+};
+
+// What the clock needs from the program around it.
+class ClockHost {
+  public:
+    virtual int32_t SetTimer() = 0;                  // handle of a new one-second timer, 0 on failure
+    virtual int32_t KillTimer(int32_t handle) = 0;   // 1, or 0 on failure
+    virtual void FaceChanged(Side side) = 0;         // the texts of the side's face are new
+    virtual void MoveNumbersChanged() = 0;           // at ticks and presses
+    virtual void FlagFell(Side side) = 0;            // the clock has stopped; last step of a flag fall
+
+  protected:
+    ~ClockHost() = default;
+};
+
+enum class PressOutcome { Counted, TimerNotCreated };
+
+class Clock {
+  public:
+    // The host must outlive the clock.
+    explicit Clock(ClockHost& host) : host(host) {}
+
+    const ClockState& State() const { return state; }
+
+    // The side whose turn it is, by the turn flag alone.
+    Side TurnSide() const { return state.TurnFlag ? White : Black; }
+
+    // True until the first press after a reset.
+    bool Untouched() const;
+
+    // True when side 0 has neither as many moves as side 1 nor one more: presses and ticks then change nothing.
+    bool CountsOutOfStep() const;
+
+    // Side's face as "HH:MM:SS", of the parts that ShowClock made.
+    std::string Face(Side side) const;
+
+    // Takes the time control of the next game. InitialiseClock must follow.
+    void SetTimeControl(const TimeControl& control);
+
+    // Takes a whole state as it stands, its timer excepted.
+    void Restore(const ClockState& kept);
+
+    // Times, counts, earned periods and turn back to the start of a game.
+    void InitialiseClock();
+
+    // Stops the clock for good: no timer, no game, no trace of an earlier start. InitialiseClock must follow.
+    void AbandonGame();
+
+    // Splits the side's time and makes its texts. An untouched clock that counts down shows its first period.
+    void ShowClock(Side side);
+
+    // One second of the running side. Throws RunTimeError(Fault::Overflow), with nothing changed.
+    void ClockTick();
+
+    // A press of clock button `button`: its side's move is over. The first one of a game starts the timer; when that
+    // fails everything is as before the press. Throws RunTimeError(Fault::Overflow), with nothing changed.
+    PressOutcome PressClock(Side button);
+
+    // The timer calls. False: the system refused. A start asks for a handle above 1, a resume for any but 0; the two
+    // tests differ on purpose.
+    bool StartClockTimer();
+    void PauseClock();
+    bool ResumeClock();
+    bool StopClockTimer();
+
+  private:
+    bool EarnsSecondPeriod(Side side, int32_t moves, int32_t divisor) const;
+    void FlagFall();
+
+    ClockHost& host;
+    ClockState state;
+};
+
+}  // namespace modClock

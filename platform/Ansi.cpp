@@ -1,0 +1,19 @@
+#include "platform/Ansi.h"
+
+#include <windows.h>
+
+std::wstring FromAnsi(std::string_view text) {
+    const int length = static_cast<int>(text.size());
+    std::wstring wide(text.size(), L'\0');
+    const int written = MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), length);
+    wide.resize(static_cast<size_t>(written));
+    return wide;
+}
+
+std::string ToAnsi(std::wstring_view text) {
+    const int length = static_cast<int>(text.size());
+    const int needed = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string narrow(static_cast<size_t>(needed), '\0');
+    WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
+    return narrow;
+}

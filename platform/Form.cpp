@@ -1,0 +1,79 @@
+#include "platform/Form.h"
+
+#include "base/RunTimeError.h"
+#include "platform/Ansi.h"
+#include "platform/SystemError.h"
+
+Form::~Form() {
+    if (window) DestroyWindow(window);
+}
+
+void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon) {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof(windowClass);
+    windowClass.lpfnWndProc = Procedure;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hIcon = icon;
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = name;
+    // A class that is registered already serves the form's next opening.
+    if (!RegisterClassExW(&windowClass) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
+        throw SystemError(GetLastError(), name);
+    if (!CreateWindowExW(WS_EX_CONTROLPARENT, name, caption.c_str(), style, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr,
+                         nullptr, GetModuleHandleW(nullptr), this))
+        throw SystemError(GetLastError(), name);
+}
+
+LRESULT Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK Form::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* form = static_cast<Form*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        form->window = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+    }
+    auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!form) return DefWindowProcW(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        form->window = nullptr;
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    // An exception must not reach the system, which calls this.
+    try {
+        return form->Handle(message, wParam, lParam);
+    } catch (const std::exception& error) {
+        form->ShowError(error);
+        return 0;
+    }
+}
+
+void Form::ShowError(const std::exception& error) const {
+    std::wstring reason;
+    if (const auto* failure = dynamic_cast<const SystemError*>(&error)) {
+        reason = failure->Thing() + L": " + texts.Reason(failure->Code());
+    } else if (const auto* fault = dynamic_cast<const RunTimeError*>(&error)) {
+        reason = texts(fault->What() == Fault::Overflow ? TextId::ReasonOverflow : TextId::ReasonOutOfRange);
+    } else {
+        reason = FromAnsi(error.what());
+    }
+    messageBoxes.Inform(window, texts.Compose(TextId::UnexpectedError, reason));
+}
+
+HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
+    const HWND control = CreateWindowExW(0, kind, L"", WS_CHILD | style, 0, 0, 0, 0, window,
+                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
+                                         nullptr);
+    if (!control) throw SystemError(GetLastError(), kind);
+    return control;
+}
+
+void Form::SetText(int id, const std::wstring& text) const {
+    // Setting an unchanged text would still repaint the control.
+    const HWND control = Control(id);
+    std::wstring old(static_cast<size_t>(GetWindowTextLengthW(control)), L'\0');
+    GetWindowTextW(control, old.data(), static_cast<int>(old.size()) + 1);
+    if (old != text) SetWindowTextW(control, text.c_str());
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/MessageBoxes.h"
+
+#include <windows.h>
+
+#include <exception>
+#include <string>
+
+// Base of every window of the program: one window class per form, its messages as one virtual function, and the one
+// place where an exception of a handler ends.
+class Form {
+  public:
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    HWND Window() const { return window; }
+
+  protected:
+    // `messageBoxes` must outlive the form.
+    Form(const Texts& texts, const MessageBoxes& messageBoxes) : texts(texts), messageBoxes(messageBoxes) {}
+
+    // Creates the window, hidden and without size. `name` names its class and must be the form's own.
+    // Throws SystemError.
+    void Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon);
+
+    // A message of the window; what a form does not handle it passes on to Form::Handle.
+    virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+    // Shows what stopped a handler. The program runs on.
+    void ShowError(const std::exception& error) const;
+
+    // A child window. Throws SystemError.
+    HWND AddControl(const wchar_t* kind, int id, DWORD style);
+
+    HWND Control(int id) const { return GetDlgItem(window, id); }
+    void SetText(int id, const std::wstring& text) const;
+    void SetVisible(int id, bool visible) const { ShowWindow(Control(id), visible ? SW_SHOWNA : SW_HIDE); }
+    void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }
+
+    const Texts& texts;
+    const MessageBoxes& messageBoxes;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND window = nullptr;
+};

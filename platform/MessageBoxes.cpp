@@ -1,0 +1,91 @@
+#include "platform/MessageBoxes.h"
+
+#include <vector>
+
+namespace {
+
+// Writes the program's texts on the buttons of the next message box that opens: the system would write them in its own
+// language. A hook procedure is given no context, so the one at work is found through a variable of the thread.
+class ButtonTexts {
+  public:
+    explicit ButtonTexts(const Texts& texts)
+        : texts(texts), previous(current),
+          hook(SetWindowsHookExW(WH_CBT, Procedure, nullptr, GetCurrentThreadId())) {
+        current = this;
+    }
+    ~ButtonTexts() {
+        if (hook) UnhookWindowsHookEx(hook);
+        current = previous;
+    }
+    ButtonTexts(const ButtonTexts&) = delete;
+    ButtonTexts& operator=(const ButtonTexts&) = delete;
+
+  private:
+    static LRESULT CALLBACK Procedure(int code, WPARAM wParam, LPARAM lParam) {
+        if (code == HCBT_ACTIVATE && current) current->Write(reinterpret_cast<HWND>(wParam));
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    void Write(HWND box) {
+        const bool question = GetDlgItem(box, IDYES) != nullptr;
+        WriteOne(box, IDYES, TextId::ButtonYes);
+        WriteOne(box, IDNO, TextId::ButtonNo);
+        WriteOne(box, IDOK, TextId::ButtonOk);
+        // The lone OK button has the number of Cancel, so that Escape closes the box.
+        if (!question) WriteOne(box, IDCANCEL, TextId::ButtonOk);
+    }
+
+    void WriteOne(HWND box, int button, TextId text) const {
+        if (const HWND control = GetDlgItem(box, button)) SetWindowTextW(control, texts(text).c_str());
+    }
+
+    static thread_local ButtonTexts* current;
+    const Texts& texts;
+    ButtonTexts* previous;
+    HHOOK hook;
+};
+
+thread_local ButtonTexts* ButtonTexts::current = nullptr;
+
+// Disables the program's other windows: the system itself disables the owner only.
+class OtherWindowsDisabled {
+  public:
+    explicit OtherWindowsDisabled(HWND owner) : owner(owner) {
+        EnumThreadWindows(GetCurrentThreadId(), Disable, reinterpret_cast<LPARAM>(this));
+    }
+    ~OtherWindowsDisabled() {
+        for (HWND window : disabled) EnableWindow(window, TRUE);
+    }
+    OtherWindowsDisabled(const OtherWindowsDisabled&) = delete;
+    OtherWindowsDisabled& operator=(const OtherWindowsDisabled&) = delete;
+
+  private:
+    static BOOL CALLBACK Disable(HWND window, LPARAM self) {
+        auto& scope = *reinterpret_cast<OtherWindowsDisabled*>(self);
+        if (window != scope.owner && IsWindowVisible(window) && IsWindowEnabled(window)) {
+            EnableWindow(window, FALSE);
+            scope.disabled.push_back(window);
+        }
+        return TRUE;
+    }
+
+    HWND owner;
+    std::vector<HWND> disabled;
+};
+
+}  // namespace
+
+int MessageBoxes::Show(HWND owner, const std::wstring& text, TextId title, UINT style) const {
+    const OtherWindowsDisabled others(owner);
+    const ButtonTexts buttons(texts);
+    return MessageBoxW(owner, text.c_str(), texts(title).c_str(), style);
+}
+
+void MessageBoxes::Inform(HWND owner, const std::wstring& text, TextId title) const {
+    Show(owner, text, title, MB_OK | MB_ICONINFORMATION);
+}
+
+bool MessageBoxes::Ask(HWND owner, const std::wstring& text, bool yesIsDefault, TextId title) const {
+    const UINT defaultButton = yesIsDefault ? MB_DEFBUTTON1 : MB_DEFBUTTON2;
+    return Show(owner, text, title, MB_YESNO | MB_ICONQUESTION | defaultButton) == IDYES;
+}

@@ -1,0 +1,122 @@
+#include "platform/Picture.h"
+
+#include "platform/SystemError.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// A top-down 32-bit bitmap whose pixels can be reached.
+struct Canvas {
+    UniqueBitmap bitmap;
+    uint32_t* pixels = nullptr;
+
+    Canvas(int width, int height) {
+        BITMAPINFO info{};
+        info.bmiHeader.biSize = sizeof(info.bmiHeader);
+        info.bmiHeader.biWidth = width;
+        info.bmiHeader.biHeight = -height;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* bits = nullptr;
+        bitmap.reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        if (!bitmap) throw SystemError(ERROR_NOT_ENOUGH_MEMORY, L"DIB");
+        pixels = static_cast<uint32_t*>(bits);
+    }
+};
+
+// What `draw` puts on a plain ground, as pixels.
+template <typename Drawing>
+std::vector<uint32_t> DrawnOn(uint32_t ground, int width, int height, Drawing draw) {
+    const Canvas canvas(width, height);
+    const size_t count = static_cast<size_t>(width) * static_cast<size_t>(height);
+    std::fill_n(canvas.pixels, count, ground);
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
+    const Selection selection(dc.get(), canvas.bitmap.get());
+    draw(dc.get());
+    GdiFlush();
+    return {canvas.pixels, canvas.pixels + count};
+}
+
+// Drawing on black and on white tells how much of the ground shows through each pixel, whatever the source's own form
+// of transparency is.
+template <typename Drawing>
+std::vector<uint32_t> WithTransparency(int width, int height, Drawing draw) {
+    std::vector<uint32_t> onBlack = DrawnOn(0x000000, width, height, draw);
+    const std::vector<uint32_t> onWhite = DrawnOn(0xFFFFFF, width, height, draw);
+    for (size_t i = 0; i < onBlack.size(); ++i) {
+        const uint32_t through = (onWhite[i] & 0xFF) - std::min(onBlack[i] & 0xFF, onWhite[i] & 0xFF);
+        // What was drawn on black is premultiplied already.
+        onBlack[i] = (onBlack[i] & 0xFFFFFF) | (0xFF - through) << 24;
+    }
+    return onBlack;
+}
+
+}  // namespace
+
+Picture::Picture(IPicture& source) {
+    OLE_XSIZE_HIMETRIC sourceWidth = 0;
+    OLE_YSIZE_HIMETRIC sourceHeight = 0;
+    source.get_Width(&sourceWidth);
+    source.get_Height(&sourceHeight);
+    const HDC screen = GetDC(nullptr);
+    constexpr int himetricPerInch = 2540;
+    width = MulDiv(sourceWidth, GetDeviceCaps(screen, LOGPIXELSX), himetricPerInch);
+    height = MulDiv(sourceHeight, GetDeviceCaps(screen, LOGPIXELSY), himetricPerInch);
+    ReleaseDC(nullptr, screen);
+    HRESULT status = S_OK;
+    pixels = WithTransparency(width, height, [&](HDC dc) {
+        const HRESULT rendered =
+            source.Render(dc, 0, 0, width, height, 0, sourceHeight, sourceWidth, -sourceHeight, nullptr);
+        if (FAILED(rendered)) status = rendered;
+    });
+    if (FAILED(status)) throw SystemError(CodeOf(status), L"GIF");
+}
+
+Picture Picture::OfIcon(const wchar_t* resourceName, int size) {
+    const UniqueIcon icon(static_cast<HICON>(
+        LoadImageW(GetModuleHandleW(nullptr), resourceName, IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+    if (!icon) throw SystemError(GetLastError(), resourceName);
+    Picture picture;
+    picture.width = picture.height = size;
+    picture.pixels = WithTransparency(
+        size, size, [&](HDC dc) { DrawIconEx(dc, 0, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL); });
+    return picture;
+}
+
+void Picture::Draw(HDC dc, int left, int top, int size) const {
+    if (Empty() || size <= 0) return;
+    if (readySize != size) {
+        ready = Shrunk(size);
+        readySize = size;
+    }
+    const UniqueDc memory(CreateCompatibleDC(dc));
+    const Selection selection(memory.get(), ready.get());
+    const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    AlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, size, size, blend);
+}
+
+UniqueBitmap Picture::Shrunk(int size) const {
+    Canvas canvas(size, size);
+    for (int y = 0; y < size; ++y) {
+        const int top = y * height / size, bottom = std::max((y + 1) * height / size, top + 1);
+        for (int x = 0; x < size; ++x) {
+            const int left = x * width / size, right = std::max((x + 1) * width / size, left + 1);
+            std::array<uint32_t, 4> sums{};
+            for (int row = top; row < bottom; ++row) {
+                for (int column = left; column < right; ++column) {
+                    const uint32_t pixel = pixels[static_cast<size_t>(row) * static_cast<size_t>(width) +
+                                                  static_cast<size_t>(column)];
+                    for (size_t channel = 0; channel < 4; ++channel) sums[channel] += pixel >> (8 * channel) & 0xFF;
+                }
+            }
+            const uint32_t area = static_cast<uint32_t>((bottom - top) * (right - left));
+            uint32_t mean = 0;
+            for (size_t channel = 0; channel < 4; ++channel)
+                mean |= ((sums[channel] + area / 2) / area) << (8 * channel);
+            canvas.pixels[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
+        }
+    }
+    return std::move(canvas.bitmap);
+}

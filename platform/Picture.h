@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/Handles.h"
+
+#include <windows.h>
+
+#include <olectl.h>
+
+#include <cstdint>
+#include <vector>
+
+// A picture with soft edges that is drawn at any size up to its own. It is kept as premultiplied 32-bit pixels and shrunk
+// by averaging areas; the last size drawn is kept ready.
+class Picture {
+  public:
+    Picture() = default;
+
+    // Of a resource picture with its transparency. Throws SystemError.
+    explicit Picture(IPicture& source);
+
+    // Of an icon resource at the size in pixels that its largest image has. Throws SystemError.
+    static Picture OfIcon(const wchar_t* resourceName, int size);
+
+    bool Empty() const { return pixels.empty(); }
+
+    // Draws the whole picture into a square, over what is there.
+    void Draw(HDC dc, int left, int top, int size) const;
+
+  private:
+    UniqueBitmap Shrunk(int size) const;
+
+    int width = 0, height = 0;
+    std::vector<uint32_t> pixels;  // BGRA, top row first
+    mutable UniqueBitmap ready;
+    mutable int readySize = 0;
+};

@@ -1,0 +1,43 @@
+#include "platform/SystemError.h"
+
+namespace {
+
+// What the scripting runtime's objects report: run-time error numbers of their own facility.
+constexpr HRESULT PermissionDenied = static_cast<HRESULT>(0x800A0046);
+constexpr HRESULT PathNotFound = static_cast<HRESULT>(0x800A004C);
+constexpr HRESULT FileAlreadyExists = static_cast<HRESULT>(0x800A003A);
+
+}  // namespace
+
+TextId ReasonRow(DWORD code) {
+    switch (code) {
+        case ERROR_ACCESS_DENIED:
+        case ERROR_WRITE_PROTECT:
+            return TextId::ReasonAccessDenied;
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+            return TextId::ReasonInUse;
+        case ERROR_DISK_FULL:
+        case ERROR_HANDLE_DISK_FULL:
+            return TextId::ReasonDiskFull;
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_PATH_NOT_FOUND:
+            return TextId::ReasonNotFound;
+        case ERROR_ALREADY_EXISTS:
+        case ERROR_FILE_EXISTS:
+            return TextId::ReasonNameTaken;
+        default:
+            return TextId::ReasonSystemError;
+    }
+}
+
+DWORD CodeOf(HRESULT status) {
+    switch (status) {
+        case PermissionDenied: return ERROR_ACCESS_DENIED;
+        case PathNotFound: return ERROR_PATH_NOT_FOUND;
+        case FileAlreadyExists: return ERROR_FILE_EXISTS;
+        default: break;
+    }
+    if (HRESULT_FACILITY(status) == FACILITY_WIN32) return static_cast<DWORD>(HRESULT_CODE(status));
+    return static_cast<DWORD>(status);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "settings/TextIds.h"
+
+#include <windows.h>
+
+#include <exception>
+#include <string>
+
+// A call of the system that failed on a file, a folder, a picture or a program.
+class SystemError : public std::exception {
+  public:
+    // `code` as of GetLastError; `thing` is what the message names, a path for example.
+    SystemError(DWORD code, std::wstring thing) : code(code), thing(std::move(thing)) {}
+    DWORD Code() const { return code; }
+    const std::wstring& Thing() const { return thing; }
+    const char* what() const noexcept override { return "system error"; }
+
+  private:
+    DWORD code;
+    std::wstring thing;
+};
+
+// The text that explains an error code; ReasonSystemError, which wants the number as %1, for one without a row.
+TextId ReasonRow(DWORD code);
+
+// The code of GetLastError in a status of COM or of the scripting runtime.
+DWORD CodeOf(HRESULT status);

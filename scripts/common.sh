@@ -1,0 +1,69 @@
+# What ./run and ./check share. Sourced from the project's root.
+
+set -euo pipefail
+
+say() { printf '== %s\n' "$*"; }
+
+# Installs the packages that are missing. Debian and what derives from it; elsewhere the missing ones are named.
+ensure_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    say "Installing ${missing[*]}"
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64)
+wine_packages=(wine wine64 fonts-liberation fonts-wine)
+display_packages=(xvfb imagemagick)
+
+# Builds the targets of a preset, all of them when none is named.
+build() {
+    local preset=$1
+    shift
+    say "Building $preset"
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build/$preset.configure.log" || {
+        cat "build/$preset.configure.log"
+        return 1
+    }
+    cmake --build --preset "$preset" ${*:+--target "$@"} -- --quiet
+}
+
+# A Wine of the project's own: the user's settings are left alone, nothing asks to be downloaded, and what the program
+# plays can be caught.
+use_own_wine() {
+    export WINEPREFIX=$PWD/build/wine
+    export WINEDEBUG=${WINEDEBUG:--all}
+    export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
+    export WINEARCH=win64
+    if [ ! -f "$WINEPREFIX/system.reg" ]; then
+        say "Making a Wine prefix in build/wine"
+        mkdir -p "$WINEPREFIX"
+        wineboot --init >/dev/null 2>&1
+        wineserver -w
+    fi
+}
+
+# Starts a virtual display of its own and points DISPLAY at it.
+start_virtual_display() {
+    local size=$1 number_file
+    number_file=$(mktemp)
+    Xvfb -displayfd 3 -screen 0 "$size" -nolisten tcp >/dev/null 2>&1 3>"$number_file" &
+    display_process=$!
+    local tries=0
+    until [ -s "$number_file" ]; do
+        tries=$((tries + 1))
+        if [ "$tries" -gt 100 ] || ! kill -0 "$display_process" 2>/dev/null; then
+            say "The virtual display did not start"
+            return 1
+        fi
+        sleep 0.1
+    done
+    export DISPLAY=:$(cat "$number_file")
+    rm -f "$number_file"
+}

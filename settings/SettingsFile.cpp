@@ -1,0 +1,59 @@
+#include "settings/SettingsFile.h"
+
+#include "platform/Files.h"
+#include "platform/SystemError.h"
+#include "settings/Texts.h"
+
+namespace {
+
+// A slot takes ten bytes at most: what a file holds behind that is not read.
+constexpr size_t LongestRecord = SlotCount * 10;
+
+std::wstring ReasonOf(const RecordError& error, const Texts& texts) {
+    const auto row = [&] {
+        switch (error.rule) {
+            case RecordError::Rule::UnknownTag: return TextId::ReasonUnknownTag;
+            case RecordError::Rule::ShortFile: return TextId::ReasonShortFile;
+            case RecordError::Rule::Overflow: return TextId::ReasonSlotOverflow;
+            case RecordError::Rule::OutOfRange: break;
+        }
+        return TextId::ReasonSlotOutOfRange;
+    }();
+    return texts.Compose(row, std::to_wstring(error.slot));
+}
+
+}  // namespace
+
+int32_t SettingsFile::LoadLanguage() const {
+    try {
+        const auto bytes = ReadFileBytes(path, LongestRecord);
+        SlotRecord record;
+        if (bytes && !DecodeRecord(*bytes, record)) return ReadLanguage(record);
+    } catch (const SystemError&) {
+        // Load, which follows, says so.
+    }
+    return English;
+}
+
+std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
+    try {
+        const auto bytes = ReadFileBytes(path, LongestRecord);
+        if (!bytes) {
+            const int32_t language = settings.LanguageIndex;
+            settings = Settings();
+            settings.LanguageIndex = language;
+            return {};
+        }
+        SlotRecord record;
+        auto error = DecodeRecord(*bytes, record);
+        if (!error) error = ReadSettings(record, settings);
+        if (error) return texts.Compose(TextId::SettingsDamaged, path, ReasonOf(*error, texts));
+        return {};
+    } catch (const SystemError& error) {
+        return texts.Compose(TextId::SettingsNotRead, path, texts.Reason(error.Code()));
+    }
+}
+
+void SettingsFile::Save(const Settings& settings) const {
+    ReplaceFileBytes(path, EncodeRecord(WriteSettings(settings)));
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "settings/Settings.h"
+#include "settings/SlotRecord.h"
+
+// How the settings lie in their record. The names are written character by character, so every later field moves with
+// their lengths; the language has slot 300 and the PGN option slot 301.
+
+// More characters than this in both names together would push the fields into the language's slot.
+inline constexpr int32_t MaxNameCharacters = 284;
+
+// The language of a record: English where its slot is empty, else the number as it stands.
+// A number that fits no 32-bit integer is taken as empty.
+int32_t ReadLanguage(const SlotRecord& record);
+
+// Takes every setting but the language, in the order of the record. On an error what was taken before it stays taken
+// and the rest is as it was. Any numeric slot type is accepted for a number; an empty slot counts as 0.
+std::optional<RecordError> ReadSettings(const SlotRecord& record, Settings& settings);
+
+// The record of all settings; times in whole minutes. Throws RunTimeError(Fault::OutOfRange) when the two names
+// together are longer than MaxNameCharacters.
+SlotRecord WriteSettings(const Settings& settings);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+
+// The record that the settings file and a saved game's clock file hold: 1000 numbered slots, each a 16-bit
+// little-endian type tag followed by its value. Tag 0: empty, no bytes; 3: 32-bit integer; 5: 64-bit IEEE 754 number;
+// 11: 16-bit boolean, -1 for true.
+inline constexpr int32_t SlotCount = 1000;
+
+using SlotValue = std::variant<std::monostate, int32_t, double, bool>;
+using SlotRecord = std::array<SlotValue, SlotCount>;
+
+// What makes a record unreadable, and where.
+struct RecordError {
+    enum class Rule {
+        UnknownTag,  // a type tag that is none of the four
+        ShortFile,   // the bytes end before or in the slot
+        OutOfRange,  // a slot past the record, or a value outside its range
+        Overflow,    // a number that does not fit 32 signed bits, as it stands or in seconds
+    };
+    Rule rule;
+    int32_t slot;
+};
+
+// Reads a record from the start of `bytes`; what stands behind it is ignored. `record` is changed on success only.
+std::optional<RecordError> DecodeRecord(std::span<const uint8_t> bytes, SlotRecord& record);
+
+// The record's bytes, 2000 of tags and the values among them.
+std::string EncodeRecord(const SlotRecord& record);

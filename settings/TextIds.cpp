@@ -1,0 +1,13 @@
+#include "settings/TextIds.h"
+
+TextId OrdinalRow(int32_t number, int32_t language) {
+    if (language == French) return number == 1 ? TextId::OrdinalSt : TextId::OrdinalTh;
+    const int32_t tens = number / 10 % 10;
+    if (tens == 1) return TextId::OrdinalTh;
+    switch (number % 10) {
+        case 1: return TextId::OrdinalSt;
+        case 2: return TextId::OrdinalNd;
+        case 3: return TextId::OrdinalRd;
+        default: return TextId::OrdinalTh;
+    }
+}

@@ -1,0 +1,30 @@
+#include "settings/Texts.h"
+
+#include "platform/SystemError.h"
+
+std::wstring Texts::LookUp(int64_t identifier) const {
+    // String resources have 16-bit numbers.
+    if (identifier < 1 || identifier > 0xFFFF) return {};
+    // With a length of 0 the function gives a pointer to the resource itself, which has no terminating NUL.
+    const wchar_t* text = nullptr;
+    const int length = LoadStringW(GetModuleHandleW(nullptr), static_cast<UINT>(identifier),
+                                   reinterpret_cast<wchar_t*>(&text), 0);
+    return length > 0 ? std::wstring(text, static_cast<size_t>(length)) : std::wstring();
+}
+
+std::wstring Texts::Compose(TextId row, const std::wstring& first, const std::wstring& second) const {
+    const std::wstring pattern = (*this)(row);
+    std::wstring text;
+    for (size_t i = 0; i < pattern.size(); ++i) {
+        const wchar_t next = i + 1 < pattern.size() ? pattern[i + 1] : L'\0';
+        if (pattern[i] == L'%' && (next == L'1' || next == L'2')) {
+            text += next == L'1' ? first : second;
+            ++i;
+        } else {
+            text += pattern[i];
+        }
+    }
+    return text;
+}
+
+std::wstring Texts::Reason(DWORD code) const { return Compose(ReasonRow(code), std::to_wstring(code)); }

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Handles.h"
+
+#include <windows.h>
+
+#include <olectl.h>
+
+#include <string>
+
+// Pictures among the program's resources. Every failure is thrown as SystemError that names the resource.
+namespace modResource {
+
+// The picture of a resource, by way of a temporary file that is deleted at once. Without a file name one is made in
+// the system's temporary folder.
+UniqueCom<IPicture> LoadResourcePicture(const std::string& resourceName, const std::string& resourceType = "GIF",
+                                        std::string temporaryFile = "");
+
+// A new file name in the folder, in the system's temporary folder when that is empty. A unique number of 0 lets the
+// system choose one, and create the file empty.
+std::string MakeTemporaryFileName(const std::string& folder, const std::string& prefix, uint16_t uniqueNumber);
+
+void WriteResourceToFile(const std::string& resourceName, const std::string& resourceType,
+                         const std::string& fileName);
+
+}  // namespace modResource
