@@ -1,0 +1,244 @@
+#include "clock/ClockCommands.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace {
+
+// A window without a window: keeps what it was asked to do, in order.
+struct RecordingView : ClockView {
+    modClock::TimeControl control;
+    bool timersWork = true;
+    int32_t killResult = 1;
+    bool resetAnswer = false;
+    std::vector<std::string> done;
+
+    int32_t SetTimer() override { return timersWork ? 32767 : 0; }
+    int32_t KillTimer(int32_t) override { return killResult; }
+    void FaceChanged(Side) override {}
+    void MoveNumbersChanged() override {}
+    void PhaseChanged() override { done.push_back("show"); }
+    void FocusClockButton(Side side) override { done.push_back("focus clock " + std::to_string(side)); }
+    void FocusPauseButton(Side side) override { done.push_back("focus pause " + std::to_string(side)); }
+    void PlayButtonSound() override { done.push_back("button sound"); }
+    void PlayFlagSound() override { done.push_back("flag sound"); }
+    void Inform(Notice notice) override { done.push_back("notice " + std::to_string(static_cast<int>(notice))); }
+    bool AskReset() override {
+        done.push_back("ask");
+        return resetAnswer;
+    }
+    modClock::TimeControl ReadTimeControl() override {
+        done.push_back("read");
+        return control;
+    }
+};
+
+std::string NoticeOf(Notice notice) { return "notice " + std::to_string(static_cast<int>(notice)); }
+
+class ClockCommandsTest : public testing::Test {
+  protected:
+    RecordingView view;
+    ClockCommands commands{view};
+
+    ClockCommandsTest() {
+        view.control.PeriodLimit.fill(60);
+        commands.Initialise();
+        view.done.clear();
+    }
+
+    using Steps = std::vector<std::string>;
+    Steps Done() { return std::exchange(view.done, {}); }
+
+    void FallFlag() {
+        if (commands.CurrentPhase() == Phase::Idle) commands.Press(White);
+        while (commands.CurrentPhase() == Phase::Running) commands.Tick();
+        view.done.clear();
+    }
+
+    // Enabled clock buttons, then pause buttons: "10 10" for side 0's pair.
+    std::string Enabled() const {
+        std::string text;
+        for (Side side : BothSides) text += commands.ClockButtonEnabled(side) ? '1' : '0';
+        text += ' ';
+        for (Side side : BothSides) text += commands.PauseButtonEnabled(side) ? '1' : '0';
+        return text;
+    }
+};
+
+TEST_F(ClockCommandsTest, EitherButtonStartsSideZero) {
+    for (Side side : BothSides) {
+        EXPECT_EQ(Enabled(), "11 11");
+        EXPECT_TRUE(commands.SetupEnabled());
+        commands.Press(side);
+        EXPECT_EQ(Done(), (Steps{"button sound", "show", "focus clock 0"}));
+        EXPECT_EQ(Enabled(), "10 10");
+        EXPECT_TRUE(commands.TurnMarksVisible(White));
+        EXPECT_FALSE(commands.TurnMarksVisible(Black) || commands.SetupEnabled());
+        commands.Reset();
+        view.done.clear();
+    }
+}
+
+TEST_F(ClockCommandsTest, OnlyTheEnabledButtonPresses) {
+    commands.Press(White);
+    view.done.clear();
+    commands.Press(Black);
+    EXPECT_EQ(Done(), Steps{});
+    commands.Press(White);
+    EXPECT_EQ(Done(), (Steps{"button sound", "show", "focus clock 1"}));
+    EXPECT_EQ(Enabled(), "01 01");
+    commands.PauseOrResume(White);
+    EXPECT_EQ(Done(), Steps{}) << "the waiting side's pause button";
+}
+
+TEST_F(ClockCommandsTest, PauseKeepsTheTurnAndResumeGoesOn) {
+    commands.Press(White);
+    commands.Press(White);
+    view.done.clear();
+    commands.PressKeyP();
+    EXPECT_EQ(Done(), (Steps{"show", "focus pause 1"}));
+    EXPECT_EQ(Enabled(), "00 01");
+    EXPECT_TRUE(commands.ReadsResume(Black));
+    EXPECT_FALSE(commands.ReadsResume(White));
+    EXPECT_EQ(commands.BlinkingSide(), Black);
+    EXPECT_EQ(commands.BlinkText(), BlinkMark::Paused);
+    EXPECT_FALSE(commands.TurnMarksVisible(Black));
+
+    commands.PressKeyP();
+    commands.Press(Black);
+    EXPECT_EQ(Done(), Steps{}) << "paused: neither the key nor a press does anything";
+
+    view.timersWork = false;
+    commands.PauseOrResume();
+    EXPECT_EQ(Done(), Steps{NoticeOf(Notice::TimerNotCreatedEnding)});
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Paused);
+    view.timersWork = true;
+    commands.PauseOrResume(Black);
+    EXPECT_EQ(Done(), (Steps{"show", "focus clock 1"}));
+    EXPECT_EQ(commands.BlinkText(), BlinkMark::ToMove);
+    EXPECT_EQ(Enabled(), "01 01");
+}
+
+TEST_F(ClockCommandsTest, RefusedCommandsExplainThemselves) {
+    commands.PressKeyP();
+    EXPECT_EQ(Done(), Steps{}) << "the key is silent while idle";
+    commands.PauseOrResume(White);
+    EXPECT_EQ(Done(), Steps{NoticeOf(Notice::HowToBegin)});
+    FallFlag();
+    commands.Press(White);
+    commands.Press(Black);
+    commands.PauseOrResume();
+    commands.PauseOrResume(Black);
+    EXPECT_EQ(Done(), Steps(4, NoticeOf(Notice::HowToRestart)));
+}
+
+TEST_F(ClockCommandsTest, FlagFallShowsBeforeItSounds) {
+    commands.Press(White);
+    for (int second = 0; second < 59; ++second) commands.Tick();
+    view.done.clear();
+    commands.Tick();
+    EXPECT_EQ(Done(), (Steps{"show", "flag sound"}));
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Fallen);
+    EXPECT_TRUE(commands.FlagFallen(White));
+    EXPECT_FALSE(commands.FlagFallen(Black) || commands.SetupEnabled());
+    EXPECT_EQ(Enabled(), "00 00");
+    EXPECT_FALSE(commands.BlinkingSide());
+}
+
+TEST_F(ClockCommandsTest, StartResetsFirstWhereAStartHasHappened) {
+    commands.Start();
+    EXPECT_EQ(Done(), (Steps{"button sound", "show", "focus clock 0"})) << "idle";
+
+    commands.Start();
+    EXPECT_EQ(Done(), Steps{"ask"}) << "running, answered No";
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Running);
+
+    const Steps resetAndStart{"read", "show", "focus clock 0", "button sound", "show", "focus clock 0"};
+    view.resetAnswer = true;
+    commands.Press(White);
+    view.done.clear();
+    commands.Start();
+    Steps done = Done();
+    EXPECT_EQ(done.front(), "ask");
+    EXPECT_EQ(Steps(done.begin() + 1, done.end()), resetAndStart) << "running, answered Yes";
+
+    commands.PauseOrResume();
+    view.done.clear();
+    commands.Start();
+    EXPECT_EQ(Done(), resetAndStart) << "paused: without a question";
+
+    FallFlag();
+    commands.Start();
+    EXPECT_EQ(Done(), resetAndStart) << "fallen: without a question";
+    EXPECT_FALSE(commands.FlagFallen(White));
+    EXPECT_EQ(commands.Clock().State().MoveCount, (std::array{1, 0}));
+}
+
+TEST_F(ClockCommandsTest, ResetAsksWhereThereIsSomethingToLose) {
+    commands.AskedResetIfStarted();
+    EXPECT_EQ(Done(), (Steps{"read", "show", "focus clock 0"})) << "idle";
+    commands.AskedReset();
+    EXPECT_EQ(Done(), Steps{"ask"}) << "a click on a flag always asks";
+
+    commands.Press(White);
+    commands.Tick();
+    view.done.clear();
+    commands.AskedResetIfStarted();
+    EXPECT_EQ(Done(), Steps{"ask"});
+    EXPECT_EQ(commands.Clock().State().PlayerTime[White], 59) << "No changes nothing";
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Running);
+
+    view.resetAnswer = true;
+    commands.AskedResetIfStarted();
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Idle);
+    EXPECT_EQ(commands.Clock().State().TimerHandle, 0);
+    EXPECT_EQ(commands.Clock().Face(White), "00:01:00");
+    EXPECT_EQ(Enabled(), "11 11");
+}
+
+TEST_F(ClockCommandsTest, TimerFailuresAreTold) {
+    view.timersWork = false;
+    commands.Press(White);
+    EXPECT_EQ(Done(), (Steps{"button sound", NoticeOf(Notice::TimerNotCreated)}));
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Idle);
+    view.timersWork = true;
+    commands.Press(White);
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Running);
+    view.done.clear();
+    view.killResult = 0;
+    commands.Unload();
+    EXPECT_EQ(Done(), Steps{NoticeOf(Notice::TimerNotKilled)});
+}
+
+TEST_F(ClockCommandsTest, OverflowPausesAndTellsOnce) {
+    view.control.CountTimeDown = false;
+    view.control.PeriodLimit.fill(std::numeric_limits<int32_t>::max());
+    view.control.MoveBonus.fill(std::numeric_limits<int32_t>::max());
+    commands.Reset();
+    commands.Press(White);
+    view.done.clear();
+    commands.Tick();
+    const Steps pausedAndTold{"show", "focus pause 0", NoticeOf(Notice::Overflow)};
+    EXPECT_EQ(Done(), pausedAndTold) << "in a tick";
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Paused);
+
+    view.control.MoveBonus = {std::numeric_limits<int32_t>::max(), 0};
+    view.control.CountTimeDown = true;
+    commands.Reset();
+    commands.Press(White);
+    view.done.clear();
+    commands.Press(White);
+    EXPECT_EQ(Done(), (Steps{"button sound", "show", "focus pause 0", NoticeOf(Notice::Overflow)})) << "in a press";
+}
+
+TEST(ButtonOfMouseTest, TurningTheClockSwapsTheMouseButtons) {
+    EXPECT_EQ(ButtonOfMouse(false, false), White);
+    EXPECT_EQ(ButtonOfMouse(true, false), Black);
+    EXPECT_EQ(ButtonOfMouse(false, true), Black);
+    EXPECT_EQ(ButtonOfMouse(true, true), White);
+}
+
+}  // namespace

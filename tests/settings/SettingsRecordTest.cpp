@@ -1,0 +1,135 @@
+#include "settings/SettingsRecord.h"
+
+#include "base/RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+Settings Unusual() {
+    Settings settings;
+    settings.PlayerNames = {"An\xF1" "a", ""};
+    settings.PeriodLimit = {60, 10800};
+    settings.SecondPeriodTime = {0, 600};
+    settings.MoveBonus = {3599, 7};
+    settings.CountTimeDown = false;
+    settings.TurnClock = true;
+    settings.ShowMoveNumber = false;
+    settings.SetClockType(2);
+    settings.OpenScorletAtStart = false;
+    settings.MovesFirstPeriod = 1;
+    settings.SetButtonSound(4);
+    settings.SetFlagSound(5);
+    settings.WritePgn = true;
+    settings.LanguageIndex = French;
+    return settings;
+}
+
+constexpr int32_t Most = std::numeric_limits<int32_t>::max();
+
+}  // namespace
+
+TEST(SettingsRecordTest, RoundTripKeepsEverything) {
+    const SlotRecord record = WriteSettings(Unusual());
+    Settings read;
+    EXPECT_FALSE(ReadSettings(record, read));
+    read.LanguageIndex = ReadLanguage(record);
+    EXPECT_EQ(WriteSettings(read), record);
+    EXPECT_EQ(read.PlayerNames, Unusual().PlayerNames);
+    EXPECT_EQ(read.PeriodLimit, (std::array{60, 10800}));
+    EXPECT_EQ(read.MoveBonus, (std::array{3599, 7}));
+    EXPECT_TRUE(read.SecondPeriodEnabled && read.TurnClock && read.WritePgn);
+    EXPECT_FALSE(read.CountTimeDown || read.ShowMoveNumber || read.OpenScorletAtStart);
+    EXPECT_STREQ(read.FlagSoundName, "TADA");
+    EXPECT_EQ(read.LanguageIndex, French);
+}
+
+TEST(SettingsRecordTest, FieldsFollowTheNames) {
+    const SlotRecord record = WriteSettings(Unusual());
+    EXPECT_EQ(record[0], SlotValue(int32_t{4}));
+    EXPECT_EQ(record[3], SlotValue(int32_t{0xF1})) << "codes of 8 bits, not signed";
+    EXPECT_EQ(record[5], SlotValue(int32_t{0})) << "no Black name";
+    EXPECT_EQ(record[6], SlotValue(int32_t{1})) << "minutes";
+    EXPECT_EQ(record[7], SlotValue(int32_t{180}));
+    EXPECT_EQ(record[13], SlotValue(int32_t{1})) << "Turn Clock";
+    EXPECT_EQ(record[19], SlotValue(int32_t{5})) << "the last field";
+    EXPECT_EQ(record[20], SlotValue());
+    EXPECT_EQ(record[300], SlotValue(int32_t{3}));
+    EXPECT_EQ(record[301], SlotValue(int32_t{1}));
+
+    const SlotRecord plain = WriteSettings(Settings());
+    EXPECT_EQ(plain[1], SlotValue(int32_t{0})) << "an empty White name moves everything down";
+    EXPECT_EQ(plain[2], SlotValue(int32_t{20}));
+    EXPECT_EQ(plain[301], SlotValue());
+}
+
+TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
+    SlotRecord record = WriteSettings(Settings());
+    record[2] = 30.0;
+    record[8] = true;  // a check box
+    record[11] = SlotValue();  // clock type 0
+    Settings read;
+    EXPECT_FALSE(ReadSettings(record, read));
+    EXPECT_EQ(read.PeriodLimit[White], 1800);
+    EXPECT_TRUE(read.CountTimeDown);
+    EXPECT_EQ(read.ClockType, 0);
+    record[300] = SlotValue();
+    EXPECT_EQ(ReadLanguage(record), English);
+    record[300] = 3.0;
+    EXPECT_EQ(ReadLanguage(record), French);
+}
+
+TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
+    using Rule = RecordError::Rule;
+    struct Row {
+        const char* name;
+        int32_t slot;
+        SlotValue value;
+        Rule rule;
+    };
+    const Row rows[] = {
+        {"negative name length", 0, int32_t{-1}, Rule::OutOfRange},
+        {"name longer than the record", 0, int32_t{5000}, Rule::OutOfRange},
+        {"name into the language's slot", 0, int32_t{285}, Rule::OutOfRange},
+        {"first period of no minute", 2, int32_t{0}, Rule::OutOfRange},
+        {"first period too long for seconds", 3, int32_t{Most / 60 + 1}, Rule::Overflow},
+        {"negative second period", 4, int32_t{-1}, Rule::OutOfRange},
+        {"negative bonus", 7, int32_t{-1}, Rule::OutOfRange},
+        {"bonus that is no 32-bit number", 7, 1e10, Rule::Overflow},
+        {"bonus that is no number", 7, std::nan(""), Rule::Overflow},
+        {"move amount below 1", 13, int32_t{-1}, Rule::OutOfRange},
+        {"move amount that cannot grow", 13, Most, Rule::OutOfRange},
+        {"button sound", 14, int32_t{5}, Rule::OutOfRange},
+        {"flag sound", 15, int32_t{6}, Rule::OutOfRange},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        SlotRecord record = WriteSettings(Settings());
+        record[static_cast<size_t>(row.slot)] = row.value;
+        Settings read;
+        const auto error = ReadSettings(record, read);
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->slot, row.slot);
+        EXPECT_EQ(error->rule, row.rule);
+    }
+
+    SlotRecord record = WriteSettings(Unusual());
+    record[18] = int32_t{5};  // button sound
+    Settings read;
+    EXPECT_TRUE(ReadSettings(record, read));
+    EXPECT_EQ(read.MovesFirstPeriod, 1) << "what was read before it stays";
+    EXPECT_EQ(read.FlagSoundIndex, 1) << "what comes behind it is as it was";
+}
+
+TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
+    Settings settings;
+    settings.PlayerNames = {std::string(200, 'a'), std::string(84, 'b')};
+    Settings read;
+    EXPECT_FALSE(ReadSettings(WriteSettings(settings), read));
+    EXPECT_EQ(read.PlayerNames, settings.PlayerNames);
+    settings.PlayerNames[Black] += 'b';
+    EXPECT_THROW(WriteSettings(settings), RunTimeError);
+}
