@@ -38,6 +38,11 @@ void ReplaceFileBytes(const std::wstring& path, std::string_view bytes) {
         DeleteFileW(beside.c_str());
         throw SystemError(code, path);
     };
+    // Not every system refuses to move a file over one that is write-protected.
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && attributes & FILE_ATTRIBUTE_READONLY)
+        throw SystemError(ERROR_ACCESS_DENIED, path);
+
     UniqueFile file = Open(beside, GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) throw SystemError(GetLastError(), path);
     DWORD written = 0;

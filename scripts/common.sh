@@ -34,15 +34,14 @@ build() {
     cmake --build --preset "$preset" ${*:+--target "$@"} -- --quiet
 }
 
-# A Wine of the project's own: the user's settings are left alone, nothing asks to be downloaded, and what the program
-# plays can be caught.
+# A Wine prefix of the project's own, by name: the user's settings are left alone and nothing asks to be downloaded.
 use_own_wine() {
-    export WINEPREFIX=$PWD/build/wine
+    export WINEPREFIX=$PWD/build/wine-$1
     export WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
     export WINEARCH=win64
     if [ ! -f "$WINEPREFIX/system.reg" ]; then
-        say "Making a Wine prefix in build/wine"
+        say "Making a Wine prefix in build/wine-$1"
         mkdir -p "$WINEPREFIX"
         wineboot --init >/dev/null 2>&1
         wineserver -w

@@ -1,0 +1,233 @@
+#include "tests/desktop/Desktop.h"
+
+#include "settings/SettingsRecord.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+std::wstring ProgramPath() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return path.substr(0, path.rfind(L'\\') + 1) + L"torvanix.exe";
+}
+
+void RemoveFolder(const std::wstring& path) {
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW((path + L"*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        const std::wstring name = found.cFileName;
+        if (name == L"." || name == L"..") continue;
+        SetFileAttributesW((path + name).c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) RemoveFolder(path + name + L"\\");
+        else DeleteFileW((path + name).c_str());
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    RemoveDirectoryW(path.c_str());
+}
+
+void Send(std::vector<INPUT> inputs) { SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)); }
+
+INPUT Mouse(DWORD flags, LONG x = 0, LONG y = 0) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = x;
+    input.mi.dy = y;
+    input.mi.dwFlags = flags;
+    return input;
+}
+
+INPUT Stroke(WORD key, bool up) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+    return input;
+}
+
+}  // namespace
+
+bool Eventually(const std::function<bool()>& condition, int milliseconds) {
+    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+    while (!condition()) {
+        if (GetTickCount64() > end) return false;
+        Sleep(15);
+    }
+    return true;
+}
+
+std::wstring TextOf(HWND window) {
+    std::array<wchar_t, 1024> text{};
+    DWORD_PTR length = 0;
+    SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_NORMAL, 5000,
+                        &length);
+    return text.data();
+}
+
+TestFolder::TestFolder() {
+    std::array<wchar_t, MAX_PATH> temporary{};
+    GetTempPathW(MAX_PATH, temporary.data());
+    static int number = 0;
+    path = std::wstring(temporary.data()) + L"tvxtest" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+           std::to_wstring(++number) + L"\\";
+    RemoveFolder(path);
+    CreateDirectoryW(path.c_str(), nullptr);
+}
+
+TestFolder::~TestFolder() { RemoveFolder(path); }
+
+void WriteFileText(const std::wstring& path, const std::string& bytes) {
+    std::ofstream file(path.c_str(), std::ios::binary);
+    file << bytes;
+    ASSERT_TRUE(file.good());
+}
+
+std::string ReadFileText(const std::wstring& path) {
+    std::ifstream file(path.c_str(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
+
+Settings QuietSettings() {
+    Settings settings;
+    settings.SetButtonSound(0);
+    settings.SetFlagSound(0);
+    return settings;
+}
+
+ProgramRun::ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings) {
+    const std::wstring program = folder.Path() + L"torvanix.exe";
+    CopyFileW(ProgramPath().c_str(), program.c_str(), FALSE);
+    if (settings) {
+        CreateDirectoryW((folder.Path() + L"Data").c_str(), nullptr);
+        WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(WriteSettings(*settings)));
+    }
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION started{};
+    if (!CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
+        ADD_FAILURE() << "torvanix.exe does not start: error " << GetLastError();
+    process.reset(started.hProcess);
+    CloseHandle(started.hThread);
+    processId = started.dwProcessId;
+}
+
+ProgramRun::~ProgramRun() {
+    if (WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) {
+        TerminateProcess(process.get(), 99);
+        WaitForSingleObject(process.get(), 5000);
+    }
+}
+
+HWND ProgramRun::FindWindowNow(const wchar_t* className) const {
+    HWND window = nullptr;
+    while ((window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == processId && IsWindowVisible(window)) return window;
+    }
+    return nullptr;
+}
+
+HWND ProgramRun::WaitWindow(const wchar_t* className) const {
+    HWND window = nullptr;
+    Eventually([&] { return (window = FindWindowNow(className)) != nullptr; }, 20000);
+    return window;
+}
+
+HWND ProgramRun::Clock() {
+    if (!clock) {
+        clock = WaitWindow(L"frmClock");
+        EXPECT_TRUE(clock) << "the clock window does not open";
+        // Input sent before the window is in front would go elsewhere.
+        Eventually([&] { return GetForegroundWindow() == clock || HasMessage(); });
+    }
+    return clock;
+}
+
+int ProgramRun::Focused() {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(Clock(), nullptr), &info) || !info.hwndFocus) return 0;
+    return info.hwndFocus == Clock() ? -1 : GetDlgCtrlID(info.hwndFocus);
+}
+
+int ProgramRun::Seconds(Side side) {
+    int hours = 0, minutes = 0, seconds = 0;
+    const std::wstring text = Text(ControlOf(lblFace, side));
+    if (swscanf(text.c_str(), L"%d:%d:%d", &hours, &minutes, &seconds) != 3)
+        ADD_FAILURE() << "no time on the face: " << std::string(text.begin(), text.end());
+    return hours * 3600 + minutes * 60 + seconds;
+}
+
+void ProgramRun::Click(HWND window, bool rightButton) const {
+    RECT area{};
+    GetWindowRect(window, &area);
+    const LONG x = (area.left + area.right) / 2, y = (area.top + area.bottom) / 2;
+    const LONG width = GetSystemMetrics(SM_CXSCREEN), height = GetSystemMetrics(SM_CYSCREEN);
+    // The unit is a 65536th of the screen, and the pixel's middle is meant.
+    const LONG mouseX = (x * 65536 + 32768) / width, mouseY = (y * 65536 + 32768) / height;
+    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, mouseX, mouseY),
+          Mouse(rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+          Mouse(rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+}
+
+void ProgramRun::Key(WORD key, bool control) const {
+    std::vector<INPUT> inputs{Stroke(key, false), Stroke(key, true)};
+    if (control) {
+        inputs.insert(inputs.begin(), Stroke(VK_CONTROL, false));
+        inputs.push_back(Stroke(VK_CONTROL, true));
+    }
+    Send(inputs);
+}
+
+void ProgramRun::Choose(int menu, int entry) const {
+    Key(VK_F10);
+    for (int i = 0; i < menu; ++i) Key(VK_RIGHT);
+    for (int i = 0; i <= entry; ++i) Key(VK_DOWN);
+    Key(VK_RETURN);
+}
+
+std::wstring ProgramRun::MessageText() const {
+    const HWND box = WaitWindow(L"#32770");
+    if (!box) {
+        ADD_FAILURE() << "no message box";
+        return {};
+    }
+    // The icon is a static control too, without a text.
+    std::wstring text;
+    HWND control = nullptr;
+    while ((control = FindWindowExW(box, control, L"Static", nullptr)) != nullptr) text += TextOf(control);
+    return text;
+}
+
+void ProgramRun::Answer(int button) const {
+    const HWND box = WaitWindow(L"#32770");
+    ASSERT_TRUE(box) << "no message box";
+    const HWND control = GetDlgItem(box, button);
+    ASSERT_TRUE(control) << "the box has no button " << button;
+    Click(control);
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(box); })) << "the message box stays open";
+}
+
+bool ProgramRun::Close() {
+    PostMessageW(Clock(), WM_CLOSE, 0, 0);
+    return WaitEnd();
+}
+
+bool ProgramRun::WaitEnd(int milliseconds) const {
+    return WaitForSingleObject(process.get(), static_cast<DWORD>(milliseconds)) == WAIT_OBJECT_0;
+}
+
+DWORD ProgramRun::ExitCode() const {
+    DWORD code = 0;
+    GetExitCodeProcess(process.get(), &code);
+    return code;
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "platform/Handles.h"
+#include "resources/resource.h"
+#include "settings/Settings.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+// Drives the real program from outside: its windows are found on the desktop, mouse and keys go through the system.
+
+// Waits until the condition holds; false after the deadline.
+bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000);
+
+// Text of a window of any process.
+std::wstring TextOf(HWND window);
+
+// A folder of its own for a test, removed with all it holds.
+class TestFolder {
+  public:
+    TestFolder();
+    ~TestFolder();
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    // With a trailing backslash.
+    const std::wstring& Path() const { return path; }
+
+  private:
+    std::wstring path;
+};
+
+void WriteFileText(const std::wstring& path, const std::string& bytes);
+std::string ReadFileText(const std::wstring& path);  // empty where there is no such file
+bool Exists(const std::wstring& path);
+
+// The DEFAULT preset without sounds.
+Settings QuietSettings();
+
+// One run of torvanix.exe in a test folder.
+class ProgramRun {
+  public:
+    // Copies the program into the folder, and the settings when given, and starts it.
+    explicit ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings = std::nullopt);
+    ~ProgramRun();
+    ProgramRun(const ProgramRun&) = delete;
+    ProgramRun& operator=(const ProgramRun&) = delete;
+
+    // The visible window of that class of the program; waits for it, null after the deadline.
+    HWND WaitWindow(const wchar_t* className) const;
+    HWND FindWindowNow(const wchar_t* className) const;
+    HWND Clock();  // the clock window, waited for once
+
+    HWND Control(int id) { return GetDlgItem(Clock(), id); }
+    std::wstring Text(int id) { return TextOf(Control(id)); }
+    bool Visible(int id) { return IsWindowVisible(Control(id)); }
+    bool Enabled(int id) { return IsWindowEnabled(Control(id)); }
+    int Focused();  // number of the control with the focus, -1 for a window without number, 0 for none
+
+    // Seconds on a side's face.
+    int Seconds(Side side);
+
+    // Real input.
+    void Click(HWND window, bool rightButton = false) const;
+    void Click(int id, bool rightButton = false) { Click(Control(id), rightButton); }
+    void Key(WORD key, bool control = false) const;
+
+    // Chooses an entry of the menu bar by the arrow keys: the menu and the entry by their places, separators not
+    // counted.
+    void Choose(int menu, int entry) const;
+
+    // The message box that is open, waited for: its text, then the click on one of its buttons.
+    std::wstring MessageText() const;
+    void Answer(int button) const;
+    bool HasMessage() const { return FindWindowNow(L"#32770") != nullptr; }
+
+    // Closes the clock window; false when the process has not ended by the deadline.
+    bool Close();
+    bool WaitEnd(int milliseconds = 10000) const;
+    DWORD ExitCode() const;
+
+  private:
+    UniqueFile process;
+    DWORD processId = 0;
+    HWND clock = nullptr;
+};
