@@ -33,11 +33,9 @@ void RemoveFolder(const std::wstring& path) {
 
 void Send(std::vector<INPUT> inputs) { SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)); }
 
-INPUT Mouse(DWORD flags, LONG x = 0, LONG y = 0) {
+INPUT Mouse(DWORD flags) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dx = x;
-    input.mi.dy = y;
     input.mi.dwFlags = flags;
     return input;
 }
@@ -52,6 +50,27 @@ INPUT Stroke(WORD key, bool up) {
 }
 
 }  // namespace
+
+void MoveMouseTo(HWND window) {
+    // A window that has just opened may not lie under the mouse yet, and an earlier movement may still be under way.
+    int settled = 0;
+    const bool there = Eventually([&] {
+        RECT area{};
+        GetWindowRect(window, &area);
+        const POINT wanted{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+        POINT mouse{};
+        GetCursorPos(&mouse);
+        if (mouse.x != wanted.x || mouse.y != wanted.y) {
+            SetCursorPos(wanted.x, wanted.y);
+            settled = 0;
+            return false;
+        }
+        const bool onTop = GetAncestor(WindowFromPoint(wanted), GA_ROOT) == GetAncestor(window, GA_ROOT);
+        settled = onTop ? settled + 1 : 0;
+        return settled >= 3;
+    });
+    EXPECT_TRUE(there) << "the mouse does not reach the window";
+}
 
 bool Eventually(const std::function<bool()>& condition, int milliseconds) {
     const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
@@ -168,14 +187,8 @@ int ProgramRun::Seconds(Side side) {
 }
 
 void ProgramRun::Click(HWND window, bool rightButton) const {
-    RECT area{};
-    GetWindowRect(window, &area);
-    const LONG x = (area.left + area.right) / 2, y = (area.top + area.bottom) / 2;
-    const LONG width = GetSystemMetrics(SM_CXSCREEN), height = GetSystemMetrics(SM_CYSCREEN);
-    // The unit is a 65536th of the screen, and the pixel's middle is meant.
-    const LONG mouseX = (x * 65536 + 32768) / width, mouseY = (y * 65536 + 32768) / height;
-    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, mouseX, mouseY),
-          Mouse(rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+    MoveMouseTo(window);
+    Send({Mouse(rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
           Mouse(rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
 }
 

@@ -19,6 +19,9 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000
 // Text of a window of any process.
 std::wstring TextOf(HWND window);
 
+// Puts the mouse on the middle of a window.
+void MoveMouseTo(HWND window);
+
 // A folder of its own for a test, removed with all it holds.
 class TestFolder {
   public:

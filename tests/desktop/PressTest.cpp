@@ -75,9 +75,7 @@ TEST(PressTest, ClockButtonsHandPicturesAndSpaceBar) {
 TEST(PressTest, PressCountsWhenTheButtonGoesDownAndAHeldKeyDoesNotRepeat) {
     const TestFolder folder;
     ProgramRun run(folder, QuietSettings());
-    RECT area{};
-    GetWindowRect(run.Control(cmdClock), &area);
-    SetCursorPos((area.left + area.right) / 2, (area.top + area.bottom) / 2);
+    MoveMouseTo(run.Control(cmdClock));
     mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
     ExpectTurn(run, 1, 0);
     mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
