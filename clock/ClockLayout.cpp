@@ -69,7 +69,7 @@ ClockLayout LayOutClock(int width, int height) {
     layout.nameType = unit(30);
     layout.blinkType = unit(22);
     layout.buttonType = unit(44);
-    layout.pauseType = unit(20);
+    layout.pauseType = unit(18);
     layout.textType = unit(19);
     return layout;
 }

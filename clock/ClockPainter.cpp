@@ -32,6 +32,13 @@ UniqueFont MakeFont(int height, bool bold) {
                                   DEFAULT_PITCH | FF_SWISS, L"Arial"));
 }
 
+int WidthOf(HDC dc, HFONT font, const std::wstring& text) {
+    const Selection selection(dc, font);
+    SIZE size{};
+    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    return static_cast<int>(size.cx);
+}
+
 void Fill(HDC dc, const RECT& rectangle, COLORREF colour) {
     const UniqueBrush brush(CreateSolidBrush(colour));
     FillRect(dc, &rectangle, brush.get());
@@ -73,12 +80,22 @@ ClockPainter::ClockPainter(uint32_t background)
       panelBrush(CreateSolidBrush(PanelColour)), runningBrush(CreateSolidBrush(RunningColour)) {}
 
 void ClockPainter::SetLayout(const ClockLayout& layout) {
-    nameFont = MakeFont(layout.nameType, true);
+    nameType = layout.nameType;
     blinkFont = MakeFont(layout.blinkType, true);
     buttonFont = MakeFont(layout.buttonType, true);
     pauseFont = MakeFont(layout.pauseType, true);
     textFont = MakeFont(layout.textType, false);
     faceFont.reset();
+}
+
+HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
+    UniqueFont& font = nameFonts[side];
+    font = MakeFont(nameType, true);
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
+    const int wanted = WidthOf(dc.get(), font.get(), name);
+    // Below two thirds a name is cut rather than made unreadable.
+    if (wanted > width) font = MakeFont(std::max(MulDiv(nameType, width, wanted), nameType * 2 / 3), true);
+    return font.get();
 }
 
 void ClockPainter::DrawPanel(HDC dc, const Box& panel, bool running) const {
@@ -109,12 +126,8 @@ HFONT ClockPainter::FaceFont(HDC dc, const std::wstring& text, int width, int he
     // Digits take seven tenths of the type, so type higher than the box still fits into it.
     const int highest = height * 6 / 5;
     UniqueFont tall = MakeFont(highest, true);
-    SIZE size{};
-    {
-        const Selection selection(dc, tall.get());
-        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-    }
-    faceFont = size.cx > width ? MakeFont(MulDiv(highest, width, size.cx), true) : std::move(tall);
+    const int wide = WidthOf(dc, tall.get(), text);
+    faceFont = wide > width ? MakeFont(MulDiv(highest, width, wide), true) : std::move(tall);
     faceFontFor = wanted;
     return faceFont.get();
 }

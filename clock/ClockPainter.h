@@ -18,7 +18,8 @@ class ClockPainter {
     // Takes the sizes of a new layout.
     void SetLayout(const ClockLayout& layout);
 
-    HFONT NameFont() const { return nameFont.get(); }
+    // The type of a name, smaller for one that is too long for the width.
+    HFONT NameFont(Side side, const std::wstring& name, int width);
     HFONT BlinkFont() const { return blinkFont.get(); }
     HFONT ButtonFont() const { return buttonFont.get(); }
     HFONT PauseFont() const { return pauseFont.get(); }
@@ -41,7 +42,9 @@ class ClockPainter {
     HFONT FaceFont(HDC dc, const std::wstring& text, int width, int height) const;
 
     UniqueBrush backgroundBrush, panelBrush, runningBrush;
-    UniqueFont nameFont, blinkFont, buttonFont, pauseFont, textFont;
+    std::array<UniqueFont, 2> nameFonts;
+    int nameType = 0;
+    UniqueFont blinkFont, buttonFont, pauseFont, textFont;
     // The face's type is made for a number of characters and a width.
     mutable UniqueFont faceFont;
     mutable std::array<int, 3> faceFontFor{};

@@ -157,7 +157,7 @@ void frmClock::Arrange() {
             SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
             Move(control, box);
         };
-        place(lblSide, panel.side, painter.NameFont());
+        place(lblSide, panel.side, painter.NameFont(side, NameOf(side), panel.side.width));
         place(lblBlink, panel.blink, painter.BlinkFont());
         place(cmdClock, panel.clockButton, painter.ButtonFont());
         place(cmdPause, panel.pauseButton, painter.PauseFont());
@@ -210,9 +210,7 @@ void frmClock::ShowSettings() {
     const std::wstring ordinal =
         texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()), std::to_wstring(settings.MovesFirstPeriod));
     for (Side side : BothSides) {
-        const std::string& name = settings.PlayerNames[side];
-        SetText(ControlOf(lblSide, side), name.empty() ? texts(side == White ? TextId::White : TextId::Black) : FromAnsi(name));
-
+        SetText(ControlOf(lblSide, side), NameOf(side));
         const bool second = settings.SecondPeriodEnabled;
         SetText(ControlOf(lblPeriod, side),
                 second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime));
@@ -223,6 +221,12 @@ void frmClock::ShowSettings() {
         for (int pair : {lblBonus, lblBonusTime}) SetVisible(ControlOf(pair, side), settings.MoveBonus[side] > 0);
         for (int pair : {lblMoveNumber, lblMoveCount}) SetVisible(ControlOf(pair, side), settings.ShowMoveNumber);
     }
+    Arrange();
+}
+
+std::wstring frmClock::NameOf(Side side) const {
+    const std::string& name = settings.PlayerNames[side];
+    return name.empty() ? texts(side == White ? TextId::White : TextId::Black) : FromAnsi(name);
 }
 
 void frmClock::FaceChanged(Side side) { SetText(ControlOf(lblFace, side), FromAnsi(commands.Clock().Face(side))); }

@@ -49,6 +49,7 @@ class frmClock : public Form, private ClockView {
     void ShowBlink();
     void UpdateMenu();
 
+    std::wstring NameOf(Side side) const;
     std::wstring NoticeText(Notice notice) const;
     std::wstring WaysToBegin() const;
     bool SideRuns(Side side) const { return commands.TurnMarksVisible(side); }

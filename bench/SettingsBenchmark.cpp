@@ -1,0 +1,32 @@
+#include "settings/SettingsRecord.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+Settings WithNames() {
+    Settings settings;
+    settings.PlayerNames = {"A player with a middling name", "Another one"};
+    return settings;
+}
+
+void EncodeSettings(benchmark::State& state) {
+    const Settings settings = WithNames();
+    for (auto _ : state) benchmark::DoNotOptimize(EncodeRecord(WriteSettings(settings)));
+}
+BENCHMARK(EncodeSettings);
+
+void DecodeSettings(benchmark::State& state) {
+    const std::string bytes = EncodeRecord(WriteSettings(WithNames()));
+    const std::span<const uint8_t> span(reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size());
+    Settings settings;
+    for (auto _ : state) {
+        SlotRecord record;
+        if (DecodeRecord(span, record) || ReadSettings(record, settings)) state.SkipWithError("refused");
+        benchmark::DoNotOptimize(settings);
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));
+}
+BENCHMARK(DecodeSettings);
+
+}  // namespace
