@@ -23,7 +23,7 @@ PanelLayout LayOutPanel(const Box& panel, const Unit& unit) {
     PanelLayout layout;
     layout.panel = panel;
 
-    const int headerTop = panel.top + unit(10), header = unit(42), arrow = unit(28), blink = unit(190);
+    const int headerTop = panel.top + unit(10), header = unit(42), arrow = unit(28), blink = unit(166);
     layout.turnMarks[0] = {left, headerTop + (header - arrow) / 2, arrow, arrow};
     layout.side = {left + arrow + gap, headerTop, width - arrow - blink - 2 * gap, header};
     layout.blink = {right - blink, headerTop, blink, header};
@@ -67,7 +67,7 @@ ClockLayout LayOutClock(int width, int height) {
         layout.panels[side] = LayOutPanel({left, margin, panelWidth, height - 2 * margin}, unit);
     }
     layout.nameType = unit(30);
-    layout.blinkType = unit(22);
+    layout.blinkType = unit(20);
     layout.buttonType = unit(44);
     layout.pauseType = unit(18);
     layout.textType = unit(19);

@@ -93,8 +93,8 @@ HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
     font = MakeFont(nameType, true);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
     const int wanted = WidthOf(dc.get(), font.get(), name);
-    // Below two thirds a name is cut rather than made unreadable.
-    if (wanted > width) font = MakeFont(std::max(MulDiv(nameType, width, wanted), nameType * 2 / 3), true);
+    // Widths do not shrink quite as the type does. Below two thirds a name is cut rather than made unreadable.
+    if (wanted > width) font = MakeFont(std::max(MulDiv(nameType, width, wanted) - 1, nameType * 2 / 3), true);
     return font.get();
 }
 
