@@ -14,9 +14,7 @@ class RunTimeError : public std::exception {
   public:
     explicit RunTimeError(Fault fault) : fault(fault) {}
     Fault What() const { return fault; }
-    const char* what() const noexcept override {
-        return fault == Fault::Overflow ? "overflow" : "out of range";
-    }
+    const char* what() const noexcept override { return fault == Fault::Overflow ? "overflow" : "out of range"; }
 
   private:
     Fault fault;

@@ -1,5 +1,5 @@
-#include "clock/modClock.h"
 #include "clock/TimeText.h"
+#include "clock/modClock.h"
 
 #include <benchmark/benchmark.h>
 

@@ -13,13 +13,9 @@ bool ClockCommands::ClockButtonEnabled(Side side) const {
     return phase == Phase::Idle || (phase == Phase::Running && side == clock.TurnSide());
 }
 
-bool ClockCommands::PauseButtonEnabled(Side side) const {
-    return ClockButtonEnabled(side) || ReadsResume(side);
-}
+bool ClockCommands::PauseButtonEnabled(Side side) const { return ClockButtonEnabled(side) || ReadsResume(side); }
 
-bool ClockCommands::ReadsResume(Side side) const {
-    return CurrentPhase() == Phase::Paused && side == clock.TurnSide();
-}
+bool ClockCommands::ReadsResume(Side side) const { return CurrentPhase() == Phase::Paused && side == clock.TurnSide(); }
 
 std::optional<Side> ClockCommands::BlinkingSide() const {
     const Phase phase = CurrentPhase();
@@ -63,13 +59,9 @@ void ClockCommands::Start() {
 
 void ClockCommands::PauseOrResume() {
     switch (CurrentPhase()) {
-        case Phase::Idle:
-            return view.Inform(Notice::HowToBegin);
-        case Phase::Fallen:
-            return view.Inform(Notice::HowToRestart);
-        case Phase::Running:
-            Pause();
-            return view.FocusPauseButton(clock.TurnSide());
+        case Phase::Idle: return view.Inform(Notice::HowToBegin);
+        case Phase::Fallen: return view.Inform(Notice::HowToRestart);
+        case Phase::Running: Pause(); return view.FocusPauseButton(clock.TurnSide());
         case Phase::Paused:
             if (!clock.ResumeClock()) return view.Inform(Notice::TimerNotCreatedEnding);
             blinkText = BlinkMark::ToMove;

@@ -76,8 +76,8 @@ class ClockCommands : private modClock::ClockHost {
     void PauseOrResume(Side button);  // that side's pause button
     void PressKeyP();
 
-    void AskedReset();            // asks first, as a click on a flag does
-    void AskedResetIfStarted();   // asks first when there is a game to lose
+    void AskedReset();           // asks first, as a click on a flag does
+    void AskedResetIfStarted();  // asks first when there is a game to lose
     void Reset();
 
     void Tick();

@@ -53,7 +53,9 @@ void Frame(HDC dc, const RECT& rectangle, COLORREF colour) {
 class Buffered {
   public:
     explicit Buffered(const DRAWITEMSTRUCT& item)
-        : target(item.hDC), at(item.rcItem), memory(CreateCompatibleDC(target)),
+        : target(item.hDC),
+          at(item.rcItem),
+          memory(CreateCompatibleDC(target)),
           bitmap(CreateCompatibleBitmap(target, at.right - at.left, at.bottom - at.top)),
           selection(memory.get(), bitmap.get()) {
         SetBkMode(memory.get(), TRANSPARENT);
@@ -77,7 +79,8 @@ class Buffered {
 
 ClockPainter::ClockPainter(uint32_t background)
     : backgroundBrush(CreateSolidBrush(RGB(background >> 16 & 0xFF, background >> 8 & 0xFF, background & 0xFF))),
-      panelBrush(CreateSolidBrush(PanelColour)), runningBrush(CreateSolidBrush(RunningColour)) {}
+      panelBrush(CreateSolidBrush(PanelColour)),
+      runningBrush(CreateSolidBrush(RunningColour)) {}
 
 void ClockPainter::SetLayout(const ClockLayout& layout) {
     nameType = layout.nameType;

@@ -34,8 +34,7 @@ struct Place {
 };
 
 Place PlaceOf(int id) {
-    if (id >= shpTurn && id < shpTurn + 2 * TurnMarksPerSide)
-        return {shpTurn, id < TurnMark(Black, 0) ? White : Black};
+    if (id >= shpTurn && id < shpTurn + 2 * TurnMarksPerSide) return {shpTurn, id < TurnMark(Black, 0) ? White : Black};
     return {id & ~1, id & 1 ? Black : White};
 }
 
@@ -47,10 +46,14 @@ void Move(HWND control, const Box& box) {
 
 }  // namespace
 
-frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile,
-                   Settings& settings, const Texts& texts, const MessageBoxes& messageBoxes)
-    : Form(texts, messageBoxes), environment(environment), settingsFile(settingsFile), settings(settings),
-      commands(*this), timer([this] { commands.Tick(); }),
+frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
+                   const Texts& texts, const MessageBoxes& messageBoxes)
+    : Form(texts, messageBoxes),
+      environment(environment),
+      settingsFile(settingsFile),
+      settings(settings),
+      commands(*this),
+      timer([this] { commands.Tick(); }),
       help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
       painter(environment.appearance.backgroundColour) {}
 
@@ -87,8 +90,7 @@ void frmClock::CreateControls() {
         // The order is the reading and the tab order; a label comes before what it names.
         AddControl(WC_STATICW, ControlOf(lblSide, side), text);
         AddControl(WC_STATICW, ControlOf(lblBlink, side), text | SS_RIGHT);
-        for (int mark = 0; mark < TurnMarksPerSide; ++mark)
-            AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
+        for (int mark = 0; mark < TurnMarksPerSide; ++mark) AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
         AddControl(WC_STATICW, ControlOf(lblFace, side), drawn);
         AddControl(WC_STATICW, ControlOf(imgFlagUp, side), drawn);
         AddControl(WC_STATICW, ControlOf(imgFlagDown, side), SS_OWNERDRAW);
@@ -207,8 +209,8 @@ void frmClock::ApplyTexts() {
 }
 
 void frmClock::ShowSettings() {
-    const std::wstring ordinal =
-        texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()), std::to_wstring(settings.MovesFirstPeriod));
+    const std::wstring ordinal = texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()),
+                                               std::to_wstring(settings.MovesFirstPeriod));
     for (Side side : BothSides) {
         SetText(ControlOf(lblSide, side), NameOf(side));
         const bool second = settings.SecondPeriodEnabled;
@@ -320,12 +322,8 @@ modClock::TimeControl frmClock::ReadTimeControl() {
 
 LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_COMMAND:
-            OnCommand(LOWORD(wParam));
-            return 0;
-        case WM_BUTTONKEY:
-            OnButtonKey(static_cast<int>(lParam), wParam);
-            return 0;
+        case WM_COMMAND: OnCommand(LOWORD(wParam)); return 0;
+        case WM_BUTTONKEY: OnButtonKey(static_cast<int>(lParam), wParam); return 0;
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
             OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}, message == WM_RBUTTONDOWN);
@@ -334,26 +332,14 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             // The window itself has the focus only when no button can take it.
             if (wParam == VK_SPACE && !(HIWORD(lParam) & KF_REPEAT)) commands.Press(White);
             return 0;
-        case WM_TIMER:
-            OnTimer(wParam);
-            return 0;
-        case WM_DRAWITEM:
-            OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-            return TRUE;
+        case WM_TIMER: OnTimer(wParam); return 0;
+        case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
-            return reinterpret_cast<LRESULT>(
-                OnColour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
-        case WM_ERASEBKGND:
-            return TRUE;
-        case WM_PAINT:
-            OnPaint();
-            return 0;
-        case WM_SIZE:
-            Arrange();
-            return 0;
-        case WM_GETMINMAXINFO:
-            OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
-            return 0;
+            return reinterpret_cast<LRESULT>(OnColour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+        case WM_ERASEBKGND: return TRUE;
+        case WM_PAINT: OnPaint(); return 0;
+        case WM_SIZE: Arrange(); return 0;
+        case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_DPICHANGED: {
             dpi = HIWORD(wParam);
             const RECT& wanted = *reinterpret_cast<const RECT*>(lParam);
@@ -374,8 +360,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Unload();
             PostQuitMessage(0);
             return 0;
-        default:
-            break;
+        default: break;
     }
     return Form::Handle(message, wParam, lParam);
 }
@@ -403,8 +388,7 @@ void frmClock::OnMouseDown(POINT point, bool rightButton) {
         case lblPeriod:
         case lblPeriodTime:
         case lblBonus:
-        case lblBonusTime:
-            return commands.Press(ButtonOfMouse(rightButton, settings.TurnClock));
+        case lblBonusTime: return commands.Press(ButtonOfMouse(rightButton, settings.TurnClock));
         default: break;
     }
     if (rightButton) return;
@@ -455,8 +439,7 @@ LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wPa
         case WM_CHAR:
             if (isClock && wParam == 'p') return act(wParam);
             break;
-        default:
-            break;
+        default: break;
     }
     return DefSubclassProc(button, message, wParam, lParam);
 }

@@ -80,8 +80,7 @@ void Clock::ClockTick() {
         const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
         // The bonus counts as time used, deliberately.
         const bool passed = CheckedAdd(state.MoveBonus[side], used) > state.PeriodLimit[side];
-        const int32_t limit =
-            passed && granted ? CheckedAdd(state.PeriodLimit[side], state.SecondPeriodTime[side]) : 0;
+        const int32_t limit = passed && granted ? CheckedAdd(state.PeriodLimit[side], state.SecondPeriodTime[side]) : 0;
         state.PlayerTime[side] = used;
         if (passed) {
             if (!granted) return FlagFall();

@@ -40,11 +40,11 @@ struct ClockState : TimeControl {
 // What the clock needs from the program around it.
 class ClockHost {
   public:
-    virtual int32_t SetTimer() = 0;                  // handle of a new one-second timer, 0 on failure
-    virtual int32_t KillTimer(int32_t handle) = 0;   // 1, or 0 on failure
-    virtual void FaceChanged(Side side) = 0;         // the texts of the side's face are new
-    virtual void MoveNumbersChanged() = 0;           // at ticks and presses
-    virtual void FlagFell(Side side) = 0;            // the clock has stopped; last step of a flag fall
+    virtual int32_t SetTimer() = 0;                 // handle of a new one-second timer, 0 on failure
+    virtual int32_t KillTimer(int32_t handle) = 0;  // 1, or 0 on failure
+    virtual void FaceChanged(Side side) = 0;        // the texts of the side's face are new
+    virtual void MoveNumbersChanged() = 0;          // at ticks and presses
+    virtual void FlagFell(Side side) = 0;           // the clock has stopped; last step of a flag fall
 
   protected:
     ~ClockHost() = default;

@@ -68,9 +68,8 @@ HRESULT Invoke(IDispatch& object, const std::wstring& member, std::span<const Va
     DISPPARAMS parameters{values.data(), nullptr, static_cast<UINT>(values.size()), 0};
     EXCEPINFO raised{};
     Variant returned;
-    const HRESULT status =
-        object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET, &parameters, &returned,
-                      &raised, nullptr);
+    const HRESULT status = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                                         &parameters, &returned, &raised, nullptr);
     SysFreeString(raised.bstrSource);
     SysFreeString(raised.bstrDescription);
     SysFreeString(raised.bstrHelpFile);

@@ -115,8 +115,10 @@ Outcome<std::vector<std::wstring>> clsFileSystem::Names(const std::wstring& fold
     names.status = Items(*members, items);
     for (const auto& item : items) {
         const HRESULT named = Call(*item, L"Name", value);
-        if (FAILED(named)) names.status = named;
-        else names.result.push_back(value.Text());
+        if (FAILED(named))
+            names.status = named;
+        else
+            names.result.push_back(value.Text());
     }
     return names;
 }

@@ -46,9 +46,8 @@ void ReplaceFileBytes(const std::wstring& path, std::string_view bytes) {
     UniqueFile file = Open(beside, GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) throw SystemError(GetLastError(), path);
     DWORD written = 0;
-    const bool complete =
-        WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-        written == bytes.size() && FlushFileBuffers(file.get());
+    const bool complete = WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+                          written == bytes.size() && FlushFileBuffers(file.get());
     const DWORD code = complete ? ERROR_SUCCESS : GetLastError();
     file.reset();
     if (!complete) fail(code == ERROR_SUCCESS ? ERROR_DISK_FULL : code);

@@ -63,9 +63,9 @@ void Form::ShowError(const std::exception& error) const {
 }
 
 HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
-    const HWND control = CreateWindowExW(0, kind, L"", WS_CHILD | style, 0, 0, 0, 0, window,
-                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
-                                         nullptr);
+    const HWND control =
+        CreateWindowExW(0, kind, L"", WS_CHILD | style, 0, 0, 0, 0, window,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     if (!control) throw SystemError(GetLastError(), kind);
     return control;
 }

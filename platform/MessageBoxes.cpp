@@ -9,8 +9,7 @@ namespace {
 class ButtonTexts {
   public:
     explicit ButtonTexts(const Texts& texts)
-        : texts(texts), previous(current),
-          hook(SetWindowsHookExW(WH_CBT, Procedure, nullptr, GetCurrentThreadId())) {
+        : texts(texts), previous(current), hook(SetWindowsHookExW(WH_CBT, Procedure, nullptr, GetCurrentThreadId())) {
         current = this;
     }
     ~ButtonTexts() {

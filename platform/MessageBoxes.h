@@ -14,8 +14,7 @@ class MessageBoxes {
     void Inform(HWND owner, const std::wstring& text, TextId title = TextId::ProductTitle) const;
 
     // True for Yes.
-    bool Ask(HWND owner, const std::wstring& text, bool yesIsDefault = true,
-             TextId title = TextId::ProductTitle) const;
+    bool Ask(HWND owner, const std::wstring& text, bool yesIsDefault = true, TextId title = TextId::ProductTitle) const;
 
   private:
     int Show(HWND owner, const std::wstring& text, TextId title, UINT style) const;

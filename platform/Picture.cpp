@@ -106,8 +106,8 @@ UniqueBitmap Picture::Shrunk(int size) const {
             std::array<uint32_t, 4> sums{};
             for (int row = top; row < bottom; ++row) {
                 for (int column = left; column < right; ++column) {
-                    const uint32_t pixel = pixels[static_cast<size_t>(row) * static_cast<size_t>(width) +
-                                                  static_cast<size_t>(column)];
+                    const uint32_t pixel =
+                        pixels[static_cast<size_t>(row) * static_cast<size_t>(width) + static_cast<size_t>(column)];
                     for (size_t channel = 0; channel < 4; ++channel) sums[channel] += pixel >> (8 * channel) & 0xFF;
                 }
             }

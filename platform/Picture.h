@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <vector>
 
-// A picture with soft edges that is drawn at any size up to its own. It is kept as premultiplied 32-bit pixels and shrunk
-// by averaging areas; the last size drawn is kept ready.
+// A picture with soft edges that is drawn at any size up to its own. It is kept as premultiplied 32-bit pixels and
+// shrunk by averaging areas; the last size drawn is kept ready.
 class Picture {
   public:
     Picture() = default;

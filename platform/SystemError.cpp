@@ -12,22 +12,16 @@ constexpr HRESULT FileAlreadyExists = static_cast<HRESULT>(0x800A003A);
 TextId ReasonRow(DWORD code) {
     switch (code) {
         case ERROR_ACCESS_DENIED:
-        case ERROR_WRITE_PROTECT:
-            return TextId::ReasonAccessDenied;
+        case ERROR_WRITE_PROTECT: return TextId::ReasonAccessDenied;
         case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-            return TextId::ReasonInUse;
+        case ERROR_LOCK_VIOLATION: return TextId::ReasonInUse;
         case ERROR_DISK_FULL:
-        case ERROR_HANDLE_DISK_FULL:
-            return TextId::ReasonDiskFull;
+        case ERROR_HANDLE_DISK_FULL: return TextId::ReasonDiskFull;
         case ERROR_FILE_NOT_FOUND:
-        case ERROR_PATH_NOT_FOUND:
-            return TextId::ReasonNotFound;
+        case ERROR_PATH_NOT_FOUND: return TextId::ReasonNotFound;
         case ERROR_ALREADY_EXISTS:
-        case ERROR_FILE_EXISTS:
-            return TextId::ReasonNameTaken;
-        default:
-            return TextId::ReasonSystemError;
+        case ERROR_FILE_EXISTS: return TextId::ReasonNameTaken;
+        default: return TextId::ReasonSystemError;
     }
 }
 

@@ -29,9 +29,7 @@ std::optional<RecordError::Rule> ReadSlot(std::span<const uint8_t>& bytes, SlotV
     uint16_t tag;
     if (!Field<uint16_t>::Read(bytes, tag)) return shortFile;
     switch (tag) {
-        case Empty:
-            slot = std::monostate{};
-            return std::nullopt;
+        case Empty: slot = std::monostate{}; return std::nullopt;
         case Long: {
             uint32_t bits;
             if (!Field<uint32_t>::Read(bytes, bits)) return shortFile;
@@ -50,8 +48,7 @@ std::optional<RecordError::Rule> ReadSlot(std::span<const uint8_t>& bytes, SlotV
             slot = bits != 0;
             return std::nullopt;
         }
-        default:
-            return RecordError::Rule::UnknownTag;
+        default: return RecordError::Rule::UnknownTag;
     }
 }
 

@@ -7,8 +7,8 @@ std::wstring Texts::LookUp(int64_t identifier) const {
     if (identifier < 1 || identifier > 0xFFFF) return {};
     // With a length of 0 the function gives a pointer to the resource itself, which has no terminating NUL.
     const wchar_t* text = nullptr;
-    const int length = LoadStringW(GetModuleHandleW(nullptr), static_cast<UINT>(identifier),
-                                   reinterpret_cast<wchar_t*>(&text), 0);
+    const int length =
+        LoadStringW(GetModuleHandleW(nullptr), static_cast<UINT>(identifier), reinterpret_cast<wchar_t*>(&text), 0);
     return length > 0 ? std::wstring(text, static_cast<size_t>(length)) : std::wstring();
 }
 

@@ -20,7 +20,6 @@ UniqueCom<IPicture> LoadResourcePicture(const std::string& resourceName, const s
 // system choose one, and create the file empty.
 std::string MakeTemporaryFileName(const std::string& folder, const std::string& prefix, uint16_t uniqueNumber);
 
-void WriteResourceToFile(const std::string& resourceName, const std::string& resourceType,
-                         const std::string& fileName);
+void WriteResourceToFile(const std::string& resourceName, const std::string& resourceType, const std::string& fileName);
 
 }  // namespace modResource

@@ -53,8 +53,8 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
         GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
         SelectObject(dc, old);
         ReleaseDC(control, dc);
-        EXPECT_LE(size.cx, area.right) << "control " << id << ", " << area.bottom << " high: "
-                                       << std::string(text.begin(), text.end());
+        EXPECT_LE(size.cx, area.right) << "control " << id << ", " << area.bottom
+                                       << " high: " << std::string(text.begin(), text.end());
         EXPECT_LE(size.cy, area.bottom) << "control " << id;
     }
 };
@@ -67,7 +67,8 @@ std::wstring EntryOf(HMENU menu, UINT position) {
 }  // namespace
 
 TEST_P(frmClockTest, EveryTextFitsItsControlAtEverySize) {
-    const std::array<int, 2> sizes[] = {{DesignWidth, DesignHeight}, {LeastWidth, LeastHeight}, {2 * DesignWidth, 2 * DesignHeight}};
+    const std::array<int, 2> sizes[] = {
+        {DesignWidth, DesignHeight}, {LeastWidth, LeastHeight}, {2 * DesignWidth, 2 * DesignHeight}};
     for (const auto& [width, height] : sizes) {
         SCOPED_TRACE(testing::Message() << width << " x " << height);
         const int dpi = DpiOf(form->Window());
@@ -95,7 +96,9 @@ TEST_P(frmClockTest, MenusHoldTheirEntriesAndKeys) {
         TextId caption;
         std::vector<std::wstring> entries;  // empty: a separator
     };
-    const auto keyed = [&](TextId entry, TextId key) { return texts(entry) + L"\t" + texts(key); };
+    const auto keyed = [&](TextId entry, TextId key) {
+        return texts(entry) + L"\t" + texts(key);
+    };
     const Menu menus[] = {
         {TextId::MenuGame,
          {keyed(TextId::MenuStart, TextId::MenuStartKey), L"", texts(TextId::MenuLoad), texts(TextId::MenuSave),

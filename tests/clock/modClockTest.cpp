@@ -162,7 +162,8 @@ TEST_F(ClockTest, DivisorsOfTheTwoSidesDifferByOne) {
             if (State().SecondPeriodDue[side]) earned.push_back({side, State().MoveCount[side]});
         }
     }
-    EXPECT_EQ(earned, (std::vector<std::array<int32_t, 2>>{{Black, 3}, {White, 4}, {Black, 6}, {White, 8}, {Black, 9}}));
+    EXPECT_EQ(earned,
+              (std::vector<std::array<int32_t, 2>>{{Black, 3}, {White, 4}, {Black, 6}, {White, 8}, {Black, 9}}));
 }
 
 TEST_F(ClockTest, LongerFirstPeriodEarnsTheSecondAtTheFirstPressOnce) {

@@ -57,8 +57,9 @@ TEST_F(CommandTest, KeyPausesAndThePauseButtonResumes) {
 TEST_F(CommandTest, PauseWhileIdleTellsHowToBegin) {
     run.Click(ControlOf(cmdPause, White));
     const std::wstring text = run.MessageText();
-    EXPECT_TRUE(Begins(text, L"To begin to a new game, push :: Button, select START from Game Menu [Ctrl+T], "
-                             L"keySPACE from keyboard or, Left  |  Right buttons of the mouse."));
+    EXPECT_TRUE(Begins(text,
+                       L"To begin to a new game, push :: Button, select START from Game Menu [Ctrl+T], "
+                       L"keySPACE from keyboard or, Left  |  Right buttons of the mouse."));
     run.Answer(IDOK);
     EXPECT_TRUE(Focus(cmdClock));
 }

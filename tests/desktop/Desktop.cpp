@@ -24,8 +24,10 @@ void RemoveFolder(const std::wstring& path) {
         const std::wstring name = found.cFileName;
         if (name == L"." || name == L"..") continue;
         SetFileAttributesW((path + name).c_str(), FILE_ATTRIBUTE_NORMAL);
-        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) RemoveFolder(path + name + L"\\");
-        else DeleteFileW((path + name).c_str());
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
+            RemoveFolder(path + name + L"\\");
+        else
+            DeleteFileW((path + name).c_str());
     } while (FindNextFileW(search, &found));
     FindClose(search);
     RemoveDirectoryW(path.c_str());

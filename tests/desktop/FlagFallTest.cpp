@@ -17,8 +17,8 @@ size_t LoudSamples() {
     const std::string stream = ReadFileText(CaptureFile());
     size_t count = 0;
     for (size_t i = 0; i + 1 < stream.size(); i += 2) {
-        const auto sample = static_cast<int16_t>(static_cast<uint8_t>(stream[i]) |
-                                                 static_cast<uint8_t>(stream[i + 1]) << 8);
+        const auto sample =
+            static_cast<int16_t>(static_cast<uint8_t>(stream[i]) | static_cast<uint8_t>(stream[i + 1]) << 8);
         if (std::abs(sample) > 2000) ++count;
     }
     return count;

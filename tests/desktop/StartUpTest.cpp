@@ -34,14 +34,11 @@ TEST(StartUpTest, TextsOfEachLanguage) {
         const wchar_t *white, *black, *pause, *moveNumber, *after, *yes, *question;
     };
     const Row rows[] = {
-        {Turkish, L"BEYAZ", L"SİYAH",
-         L"Duraklat", L"Hamle No", L"40. hamleden sonra", L"&Evet",
+        {Turkish, L"BEYAZ", L"SİYAH", L"Duraklat", L"Hamle No", L"40. hamleden sonra", L"&Evet",
          L"Bu işlem saati sıfırlayacak. Yine de devam etmek istiyor musunuz?"},
-        {English, L"WHITE", L"BLACK", L"Pause",
-         L"Move Number", L"After 40th move", L"&Yes",
+        {English, L"WHITE", L"BLACK", L"Pause", L"Move Number", L"After 40th move", L"&Yes",
          L"This will Reset the clock. Do you want to continue anyway?"},
-        {French, L"BLANCS", L"NOIRS",
-         L"Pause", L"Coup n°", L"Après le 40e coup", L"&Oui",
+        {French, L"BLANCS", L"NOIRS", L"Pause", L"Coup n°", L"Après le 40e coup", L"&Oui",
          L"Cela va réinitialiser la pendule. Voulez-vous continuer quand même\u00A0?"},
     };
     for (const Row& row : rows) {
@@ -66,7 +63,10 @@ TEST(StartUpTest, TextsOfEachLanguage) {
 TEST(StartUpTest, SettingsShowInTheWindow) {
     const TestFolder folder;
     Settings settings;
-    settings.PlayerNames = {"Ren\xE9" "e", "\xD6mer & Ali"};
+    settings.PlayerNames = {
+        "Ren\xE9"
+        "e",
+        "\xD6mer & Ali"};
     settings.SetClockType(2);
     settings.PeriodLimit = {5400, 60};
     settings.SecondPeriodTime = {1800, 0};
@@ -161,8 +161,9 @@ TEST(StartUpTest, SettingsThatCannotBeReadAreTold) {
     CreateDirectoryW(file.c_str(), nullptr);
     ProgramRun run(folder);
     const std::wstring text = run.MessageText();
-    EXPECT_EQ(text, L"The settings file " + file + L" could not be read: access was denied. The default settings are "
-                    L"used.");
+    EXPECT_EQ(text, L"The settings file " + file +
+                        L" could not be read: access was denied. The default settings are "
+                        L"used.");
     run.Answer(IDOK);
     EXPECT_EQ(run.Text(lblFace), L"00:20:00");
 }

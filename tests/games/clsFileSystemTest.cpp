@@ -68,5 +68,6 @@ TEST_F(clsFileSystemTest, LogTakesItsStatusAndTextAndStaysSilentWithoutItsFolder
     fileSystem.SetLogFolder(folder.Path());
     EXPECT_EQ(fileSystem.WriteLog(22677, -5, L"Data"), S_OK);
     EXPECT_EQ(fileSystem.LastMessage(), L"22677--5-Data");
-    EXPECT_NE(ReadFileText(folder.Path() + L"TORVANIX.log").find("#Message: 22677--5-Data\r\n#\r\n"), std::string::npos);
+    EXPECT_NE(ReadFileText(folder.Path() + L"TORVANIX.log").find("#Message: 22677--5-Data\r\n#\r\n"),
+              std::string::npos);
 }

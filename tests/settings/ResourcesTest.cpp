@@ -63,8 +63,8 @@ TEST(ResourcesTest, MessagesAreComposedInAnyOrderOfTheirParts) {
 
 TEST(ResourcesTest, EveryPictureLoadsWithItsTransparency) {
     const size_t before = TemporaryFiles();
-    for (const char* name : {"WK", "WQ", "WR", "WB", "WN", "WP", "BK", "BQ", "BR", "BB", "BN", "BP", "WNR", "BNR",
-                             "TQ", "TR", "TB", "TN", "FLAGUP", "FLAGDOWN"}) {
+    for (const char* name : {"WK", "WQ", "WR",  "WB",  "WN", "WP", "BK", "BQ", "BR",     "BB",
+                             "BN", "BP", "WNR", "BNR", "TQ", "TR", "TB", "TN", "FLAGUP", "FLAGDOWN"}) {
         SCOPED_TRACE(name);
         const auto source = modResource::LoadResourcePicture(name);
         const Picture picture(*source);

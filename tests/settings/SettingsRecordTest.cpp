@@ -11,7 +11,10 @@ namespace {
 
 Settings Unusual() {
     Settings settings;
-    settings.PlayerNames = {"An\xF1" "a", ""};
+    settings.PlayerNames = {
+        "An\xF1"
+        "a",
+        ""};
     settings.PeriodLimit = {60, 10800};
     settings.SecondPeriodTime = {0, 600};
     settings.MoveBonus = {3599, 7};
@@ -69,7 +72,7 @@ TEST(SettingsRecordTest, FieldsFollowTheNames) {
 TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
     SlotRecord record = WriteSettings(Settings());
     record[2] = 30.0;
-    record[8] = true;  // a check box
+    record[8] = true;          // a check box
     record[11] = SlotValue();  // clock type 0
     Settings read;
     EXPECT_FALSE(ReadSettings(record, read));
