@@ -1,12 +1,9 @@
 #include "clock/frmClock.h"
 
 #include "clock/ClockMenu.h"
-#include "clock/TimeText.h"
-#include "platform/Ansi.h"
 #include "platform/Dpi.h"
 #include "platform/SystemError.h"
 #include "resources/resource.h"
-#include "settings/modResource.h"
 #include "settings/modSound.h"
 
 #include <commctrl.h>
@@ -25,25 +22,6 @@ constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
 // Messages of the window to itself: a button was pressed with this key (0: the mouse); a kept message is due.
 constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_PENDINGMESSAGE = WM_APP + 2;
 
-constexpr int HandImageSize = 256;
-
-// The pair of controls that a number belongs to, and its side.
-struct Place {
-    int pair;
-    Side side;
-};
-
-Place PlaceOf(int id) {
-    if (id >= shpTurn && id < shpTurn + 2 * TurnMarksPerSide) return {shpTurn, id < TurnMark(Black, 0) ? White : Black};
-    return {id & ~1, id & 1 ? Black : White};
-}
-
-static_assert(cmdClock % 2 == 0, "pairs of controls begin at even numbers");
-
-void Move(HWND control, const Box& box) {
-    SetWindowPos(control, nullptr, box.left, box.top, box.width, box.height, SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 }  // namespace
 
 frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
@@ -55,7 +33,7 @@ frmClock::frmClock(const modEnvironment::Environment& environment, const Setting
       commands(*this),
       timer([this] { commands.Tick(); }),
       help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
-      painter(environment.appearance.backgroundColour) {}
+      panels(*this, commands, settings, texts, environment.appearance.backgroundColour) {}
 
 frmClock::~frmClock() {
     // The window's last messages need the members of this class.
@@ -67,9 +45,12 @@ void frmClock::Open() {
     Create(ClassName, texts(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon.get());
     dpi = DpiOf(Window());
     accelerators = MakeClockAccelerators();
-    CreateControls();
+    panels.Create();
+    for (int id = cmdClock; id <= cmdPause + 1; ++id)
+        SetWindowSubclass(Control(id), ButtonProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
     LoadPictures();
-    ApplyTexts();
+    SetMenu(Window(), MakeClockMenu(texts));
+    panels.ApplyTexts();
     PlaceWindow();
     commands.Initialise();
     ::SetTimer(Window(), BlinkTimer, BlinkInterval, nullptr);
@@ -78,52 +59,25 @@ void frmClock::Open() {
     UpdateWindow(Window());
 }
 
+void frmClock::LoadPictures() {
+    handHit.reset(LoadCursorW(GetModuleHandleW(nullptr), L"HANDHIT.CUR"));
+    handPointBlue.reset(LoadCursorW(GetModuleHandleW(nullptr), L"HANDPOINTBLUE.CUR"));
+    // Without a picture the clock still runs.
+    try {
+        panels.LoadPictures();
+    } catch (const SystemError& error) {
+        TellLater(texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code())));
+    }
+}
+
+void frmClock::TellLater(const std::wstring& message) {
+    pendingMessages.push_back(message);
+    PostMessageW(Window(), WM_PENDINGMESSAGE, 0, 0);
+}
+
 bool frmClock::TakeMessage(MSG& message) {
     if (TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
     return IsDialogMessageW(Window(), &message);
-}
-
-void frmClock::CreateControls() {
-    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
-    constexpr DWORD text = WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE | SS_ENDELLIPSIS;
-    for (Side side : BothSides) {
-        // The order is the reading and the tab order; a label comes before what it names.
-        AddControl(WC_STATICW, ControlOf(lblSide, side), text);
-        AddControl(WC_STATICW, ControlOf(lblBlink, side), text | SS_RIGHT);
-        for (int mark = 0; mark < TurnMarksPerSide; ++mark) AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
-        AddControl(WC_STATICW, ControlOf(lblFace, side), drawn);
-        AddControl(WC_STATICW, ControlOf(imgFlagUp, side), drawn);
-        AddControl(WC_STATICW, ControlOf(imgFlagDown, side), SS_OWNERDRAW);
-        AddControl(WC_STATICW, ControlOf(imgHand, side), drawn);
-        for (int pair : {cmdClock, cmdPause}) {
-            const int id = ControlOf(pair, side);
-            const HWND button = AddControl(WC_BUTTONW, id, WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW);
-            SetWindowSubclass(button, ButtonProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
-        }
-        AddControl(WC_STATICW, ControlOf(lblMoveNumber, side), text);
-        AddControl(WC_STATICW, ControlOf(lblMoveCount, side), text);
-        AddControl(WC_STATICW, ControlOf(lblPeriod, side), text | SS_RIGHT);
-        AddControl(WC_STATICW, ControlOf(lblPeriodTime, side), text | SS_RIGHT);
-        AddControl(WC_STATICW, ControlOf(lblBonus, side), text | SS_RIGHT);
-        AddControl(WC_STATICW, ControlOf(lblBonusTime, side), text | SS_RIGHT);
-    }
-    toolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
-                               0, 0, Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
-}
-
-void frmClock::LoadPictures() {
-    const HINSTANCE program = GetModuleHandleW(nullptr);
-    handHit.reset(LoadCursorW(program, L"HANDHIT.CUR"));
-    handPointBlue.reset(LoadCursorW(program, L"HANDPOINTBLUE.CUR"));
-    // Without a picture the clock still runs.
-    try {
-        flagUp = Picture(*modResource::LoadResourcePicture("FLAGUP"));
-        flagDown = Picture(*modResource::LoadResourcePicture("FLAGDOWN"));
-        hand = Picture::OfIcon(L"HAND", HandImageSize);
-    } catch (const SystemError& error) {
-        pendingMessage = texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code()));
-        PostMessageW(Window(), WM_PENDINGMESSAGE, 0, 0);
-    }
 }
 
 void frmClock::PlaceWindow() {
@@ -145,134 +99,17 @@ void frmClock::PlaceWindow() {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmClock::Arrange() {
-    RECT client{};
-    GetClientRect(Window(), &client);
-    if (client.right == 0 || client.bottom == 0) return;
-    layout = LayOutClock(static_cast<int>(client.right), static_cast<int>(client.bottom));
-    painter.SetLayout(layout);
-
-    for (Side side : BothSides) {
-        const PanelLayout& panel = layout.panels[side];
-        const auto place = [&](int pair, const Box& box, HFONT font) {
-            const HWND control = Control(ControlOf(pair, side));
-            SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-            Move(control, box);
-        };
-        place(lblSide, panel.side, painter.NameFont(side, NameOf(side), panel.side.width));
-        place(lblBlink, panel.blink, painter.BlinkFont());
-        place(cmdClock, panel.clockButton, painter.ButtonFont());
-        place(cmdPause, panel.pauseButton, painter.PauseFont());
-        place(lblMoveNumber, panel.moveNumber, painter.TextFont());
-        place(lblMoveCount, panel.moveCount, painter.TextFont());
-        place(lblPeriod, panel.period, painter.TextFont());
-        place(lblPeriodTime, panel.periodTime, painter.TextFont());
-        place(lblBonus, panel.bonus, painter.TextFont());
-        place(lblBonusTime, panel.bonusTime, painter.TextFont());
-        Move(Control(ControlOf(lblFace, side)), panel.face);
-        Move(Control(ControlOf(imgFlagUp, side)), panel.flag);
-        Move(Control(ControlOf(imgFlagDown, side)), panel.flag);
-        Move(Control(ControlOf(imgHand, side)), panel.hand);
-        for (int mark = 0; mark < TurnMarksPerSide; ++mark)
-            Move(Control(TurnMark(side, mark)), panel.turnMarks[static_cast<size_t>(mark)]);
-
-        const auto tip = [&](int pair, const Box& box, TextId row) {
-            std::wstring text = texts(row);
-            TOOLINFOW tool{};
-            tool.cbSize = TTTOOLINFOW_V1_SIZE;
-            tool.uFlags = TTF_SUBCLASS;
-            tool.hwnd = Window();
-            tool.uId = static_cast<UINT_PTR>(ControlOf(pair, side));
-            tool.rect = {box.left, box.top, box.Right(), box.Bottom()};
-            tool.lpszText = text.data();
-            SendMessageW(toolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-            SendMessageW(toolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-        };
-        tip(imgFlagUp, panel.flag, TextId::TipFlag);
-        tip(imgHand, panel.hand, TextId::TipHand);
-        tip(lblPeriodTime, panel.periodTime, TextId::TipHoursMinutes);
-        tip(lblBonusTime, panel.bonusTime, TextId::TipMinutesSeconds);
-    }
-    InvalidateRect(Window(), nullptr, TRUE);
-}
-
-void frmClock::ApplyTexts() {
-    title = texts(TextId::ProductTitle);
-    SetWindowTextW(Window(), title.c_str());
-    SetMenu(Window(), MakeClockMenu(texts));
-    for (Side side : BothSides) {
-        SetText(ControlOf(cmdClock, side), texts(TextId::ClockButton));
-        SetText(ControlOf(cmdPause, side), texts(TextId::Pause));
-        SetText(ControlOf(lblMoveNumber, side), texts(TextId::MoveNumber));
-        SetText(ControlOf(lblBonus, side), texts(TextId::BonusTime));
-    }
-}
-
-void frmClock::ShowSettings() {
-    const std::wstring ordinal = texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()),
-                                               std::to_wstring(settings.MovesFirstPeriod));
-    for (Side side : BothSides) {
-        SetText(ControlOf(lblSide, side), NameOf(side));
-        const bool second = settings.SecondPeriodEnabled;
-        SetText(ControlOf(lblPeriod, side),
-                second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime));
-        SetText(ControlOf(lblPeriodTime, side),
-                FromAnsi(HoursMinutesText(second ? settings.SecondPeriodTime[side] : settings.PeriodLimit[side])));
-
-        SetText(ControlOf(lblBonusTime, side), FromAnsi(MinutesSecondsText(settings.MoveBonus[side])));
-        for (int pair : {lblBonus, lblBonusTime}) SetVisible(ControlOf(pair, side), settings.MoveBonus[side] > 0);
-        for (int pair : {lblMoveNumber, lblMoveCount}) SetVisible(ControlOf(pair, side), settings.ShowMoveNumber);
-    }
-    Arrange();
-}
-
-std::wstring frmClock::NameOf(Side side) const {
-    const std::string& name = settings.PlayerNames[side];
-    return name.empty() ? texts(side == White ? TextId::White : TextId::Black) : FromAnsi(name);
-}
-
-void frmClock::FaceChanged(Side side) { SetText(ControlOf(lblFace, side), FromAnsi(commands.Clock().Face(side))); }
-
-void frmClock::MoveNumbersChanged() {
-    for (Side side : BothSides)
-        SetText(ControlOf(lblMoveCount, side), std::to_wstring(commands.Clock().State().MoveCount[side]) + L".");
-}
-
 void frmClock::PhaseChanged() {
-    for (Side side : BothSides) {
-        for (int mark = 0; mark < TurnMarksPerSide; ++mark)
-            SetVisible(TurnMark(side, mark), commands.TurnMarksVisible(side));
-        SetVisible(ControlOf(imgFlagUp, side), !commands.FlagFallen(side));
-        SetVisible(ControlOf(imgFlagDown, side), commands.FlagFallen(side));
-        SetText(ControlOf(cmdPause, side), texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
-        SetEnabled(ControlOf(cmdClock, side), commands.ClockButtonEnabled(side));
-        SetEnabled(ControlOf(cmdPause, side), commands.PauseButtonEnabled(side));
-        SetText(ControlOf(lblBlink, side), L"");
-    }
-    ShowBlink();
-    UpdateMenu();
+    const Phase phase = commands.CurrentPhase();
     // A disabled button would swallow the keys.
-    if (commands.CurrentPhase() == Phase::Fallen) SetFocus(Window());
+    if (phase == Phase::Fallen) SetFocus(Window());
+    panels.ShowPhase();
 
     // Sleep would stop the ticks.
-    const EXECUTION_STATE awake = SideRuns(White) || SideRuns(Black) ? ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED : 0;
-    SetThreadExecutionState(ES_CONTINUOUS | awake);
+    SetThreadExecutionState(ES_CONTINUOUS |
+                            (phase == Phase::Running ? ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED : EXECUTION_STATE{0}));
 
-    RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-}
-
-void frmClock::ShowBlink() {
-    const auto side = commands.BlinkingSide();
-    if (!side) return;
-    const int id = ControlOf(lblBlink, *side);
-    const bool empty = GetWindowTextLengthW(Control(id)) == 0;
-    const TextId text = commands.BlinkText() == BlinkMark::ToMove ? TextId::ToMove : TextId::Pause;
-    SetText(id, empty ? texts(text) : L"");
-}
-
-void frmClock::UpdateMenu() {
-    const bool resumes = commands.CurrentPhase() == Phase::Paused;
-    const std::wstring pause = texts(resumes ? TextId::MenuResume : TextId::MenuPause);
+    const std::wstring pause = texts(phase == Phase::Paused ? TextId::MenuResume : TextId::MenuPause);
     ModifyMenuW(GetMenu(Window()), mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
 }
 
@@ -305,11 +142,8 @@ bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::Rese
 
 modClock::TimeControl frmClock::ReadTimeControl() {
     const std::wstring problem = settingsFile.Load(settings, texts);
-    if (!problem.empty()) {
-        pendingMessage = problem;
-        PostMessageW(Window(), WM_PENDINGMESSAGE, 0, 0);
-    }
-    ShowSettings();
+    if (!problem.empty()) TellLater(problem);
+    panels.ShowSettings();
     modClock::TimeControl control;
     control.PeriodLimit = settings.PeriodLimit;
     control.SecondPeriodTime = settings.SecondPeriodTime;
@@ -333,12 +167,13 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam == VK_SPACE && !(HIWORD(lParam) & KF_REPEAT)) commands.Press(White);
             return 0;
         case WM_TIMER: OnTimer(wParam); return 0;
-        case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
+        case WM_DRAWITEM: panels.Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
-            return reinterpret_cast<LRESULT>(OnColour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+            return reinterpret_cast<LRESULT>(
+                panels.Colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
         case WM_ERASEBKGND: return TRUE;
-        case WM_PAINT: OnPaint(); return 0;
-        case WM_SIZE: Arrange(); return 0;
+        case WM_PAINT: panels.PaintBackground(); return 0;
+        case WM_SIZE: panels.Arrange(); return 0;
         case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_DPICHANGED: {
             dpi = HIWORD(wParam);
@@ -354,7 +189,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
         case WM_PENDINGMESSAGE:
-            if (!pendingMessage.empty()) messageBoxes.Inform(Window(), std::exchange(pendingMessage, {}));
+            for (const std::wstring& text : std::exchange(pendingMessages, {})) messageBoxes.Inform(Window(), text);
             return 0;
         case WM_DESTROY:
             Unload();
@@ -379,9 +214,7 @@ void frmClock::OnCommand(int id) {
 }
 
 void frmClock::OnMouseDown(POINT point, bool rightButton) {
-    const HWND child = ChildWindowFromPointEx(Window(), point, CWP_SKIPINVISIBLE);
-    if (!child || child == Window()) return;
-    const auto [pair, side] = PlaceOf(GetDlgCtrlID(child));
+    const auto [pair, side] = panels.PlaceAt(point);
     switch (pair) {
         case lblFace:
         case lblSide:
@@ -448,45 +281,12 @@ bool frmClock::OnSetCursor() {
     POINT point{};
     GetCursorPos(&point);
     ScreenToClient(Window(), &point);
-    const HWND child = ChildWindowFromPointEx(Window(), point, CWP_SKIPINVISIBLE);
-    if (!child || child == Window()) return false;
-    switch (PlaceOf(GetDlgCtrlID(child)).pair) {
+    switch (panels.PlaceAt(point).pair) {
         case imgHand: ::SetCursor(handHit.get()); return true;
         case imgFlagUp:
         case imgFlagDown: ::SetCursor(handPointBlue.get()); return true;
         default: return false;
     }
-}
-
-void frmClock::OnDrawItem(const DRAWITEMSTRUCT& item) {
-    const int id = static_cast<int>(item.CtlID);
-    const auto [pair, side] = PlaceOf(id);
-    const bool running = SideRuns(side);
-    wchar_t text[64];
-    GetWindowTextW(item.hwndItem, text, 64);
-    switch (pair) {
-        case lblFace: return painter.DrawFace(item, side, text, commands.FlagFallen(side));
-        case shpTurn: return painter.DrawTurnMark(item, id == TurnMark(side, 0));
-        case imgFlagUp: return painter.DrawPicture(item, flagUp, running);
-        case imgFlagDown: return painter.DrawPicture(item, flagDown, running);
-        case imgHand: return painter.DrawPicture(item, hand, running);
-        case cmdClock: return painter.DrawClockButton(item, text, running);
-        case cmdPause: return painter.DrawPauseButton(item, text, running);
-        default: return;
-    }
-}
-
-HBRUSH frmClock::OnColour(HDC dc, HWND control) const {
-    SetBkMode(dc, TRANSPARENT);
-    return painter.PanelBrush(SideRuns(PlaceOf(GetDlgCtrlID(control)).side));
-}
-
-void frmClock::OnPaint() {
-    PAINTSTRUCT paint;
-    const HDC dc = BeginPaint(Window(), &paint);
-    FillRect(dc, &paint.rcPaint, painter.BackgroundBrush());
-    for (Side side : BothSides) painter.DrawPanel(dc, layout.panels[side].panel, SideRuns(side));
-    EndPaint(Window(), &paint);
 }
 
 void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
@@ -501,7 +301,7 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
 }
 
 void frmClock::OnTimer(UINT_PTR id) {
-    if (id == BlinkTimer) ShowBlink();
+    if (id == BlinkTimer) panels.Blink();
     if (id == HelpTimer) help.Watch(GetWindow(Window(), GW_HWNDFIRST));
 }
 

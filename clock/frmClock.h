@@ -1,13 +1,16 @@
 #pragma once
 
 #include "clock/ClockCommands.h"
-#include "clock/ClockPainter.h"
+#include "clock/ClockPanels.h"
 #include "clock/HelpWindow.h"
 #include "clock/TickTimer.h"
 #include "clock/modEnvironment.h"
 #include "platform/Form.h"
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
+
+#include <string>
+#include <vector>
 
 // The main window: two clock panels side by side and the menus.
 class frmClock : public Form, private ClockView {
@@ -29,8 +32,8 @@ class frmClock : public Form, private ClockView {
     // ClockView
     int32_t SetTimer() override { return timer.Set(); }
     int32_t KillTimer(int32_t handle) override { return timer.Kill(handle); }
-    void FaceChanged(Side side) override;
-    void MoveNumbersChanged() override;
+    void FaceChanged(Side side) override { panels.ShowFace(side); }
+    void MoveNumbersChanged() override { panels.ShowMoveNumbers(); }
     void PhaseChanged() override;
     void FocusClockButton(Side side) override;
     void FocusPauseButton(Side side) override;
@@ -40,27 +43,17 @@ class frmClock : public Form, private ClockView {
     bool AskReset() override;
     modClock::TimeControl ReadTimeControl() override;
 
-    void CreateControls();
     void LoadPictures();
     void PlaceWindow();
-    void Arrange();
-    void ApplyTexts();
-    void ShowSettings();
-    void ShowBlink();
-    void UpdateMenu();
-
-    std::wstring NameOf(Side side) const;
+    // Shows a message once the window stands and the command under way is done.
+    void TellLater(const std::wstring& message);
     std::wstring NoticeText(Notice notice) const;
     std::wstring WaysToBegin() const;
-    bool SideRuns(Side side) const { return commands.TurnMarksVisible(side); }
 
     void OnCommand(int id);
     void OnMouseDown(POINT point, bool rightButton);
     void OnButtonKey(int id, WPARAM key);
     bool OnSetCursor();
-    void OnDrawItem(const DRAWITEMSTRUCT& item);
-    HBRUSH OnColour(HDC dc, HWND control) const;
-    void OnPaint();
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnTimer(UINT_PTR id);
     void FocusRightfulButton();
@@ -77,14 +70,10 @@ class frmClock : public Form, private ClockView {
     ClockCommands commands;
     TickTimer timer;
     HelpWindow help;
-    ClockPainter painter;
-    ClockLayout layout{};
-    Picture flagUp, flagDown, hand;
+    ClockPanels panels;
     UniqueCursor handHit, handPointBlue;
     UniqueIcon icon;
     UniqueAccelerators accelerators;
-    HWND toolTips = nullptr;
     int dpi = 96;
-    std::wstring title;
-    std::wstring pendingMessage;  // shown once the window stands
+    std::vector<std::wstring> pendingMessages;
 };

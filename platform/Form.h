@@ -17,6 +17,14 @@ class Form {
 
     HWND Window() const { return window; }
 
+    // A child window. Throws SystemError.
+    HWND AddControl(const wchar_t* kind, int id, DWORD style);
+
+    HWND Control(int id) const { return GetDlgItem(window, id); }
+    void SetText(int id, const std::wstring& text) const;
+    void SetVisible(int id, bool visible) const { ShowWindow(Control(id), visible ? SW_SHOWNA : SW_HIDE); }
+    void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }
+
   protected:
     // `messageBoxes` must outlive the form.
     Form(const Texts& texts, const MessageBoxes& messageBoxes) : texts(texts), messageBoxes(messageBoxes) {}
@@ -30,14 +38,6 @@ class Form {
 
     // Shows what stopped a handler. The program runs on.
     void ShowError(const std::exception& error) const;
-
-    // A child window. Throws SystemError.
-    HWND AddControl(const wchar_t* kind, int id, DWORD style);
-
-    HWND Control(int id) const { return GetDlgItem(window, id); }
-    void SetText(int id, const std::wstring& text) const;
-    void SetVisible(int id, bool visible) const { ShowWindow(Control(id), visible ? SW_SHOWNA : SW_HIDE); }
-    void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }
 
     const Texts& texts;
     const MessageBoxes& messageBoxes;

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "clock/ClockCommands.h"
+#include "clock/ClockPainter.h"
+#include "platform/Form.h"
+#include "platform/Picture.h"
+#include "settings/Settings.h"
+
+// The pair of controls that a number belongs to, and its side; pair 0 is none.
+struct Place {
+    int pair = 0;
+    Side side = White;
+};
+Place PlaceOf(int id);
+
+// The controls of the two panels: made, laid out, filled and drawn. It shows what the commands and the settings say
+// and decides nothing.
+class ClockPanels {
+  public:
+    // All of them must outlive the panels.
+    ClockPanels(Form& form, const ClockCommands& commands, const Settings& settings, const Texts& texts,
+                uint32_t backgroundColour)
+        : form(form), commands(commands), settings(settings), texts(texts), painter(backgroundColour) {}
+
+    // Makes the controls in the form's window, which must exist. Throws SystemError.
+    void Create();
+
+    // Throws SystemError; what could be loaded is shown nevertheless.
+    void LoadPictures();
+
+    void ApplyTexts();
+
+    // Lays everything out anew for the size of the window.
+    void Arrange();
+
+    void ShowSettings();
+    void ShowFace(Side side);
+    void ShowMoveNumbers();
+    void ShowPhase();
+
+    // One blink of the mark of the side whose turn it is.
+    void Blink();
+
+    // The visible control at a point of the window, enabled or not.
+    Place PlaceAt(POINT point) const;
+
+    // Messages of the window.
+    void Draw(const DRAWITEMSTRUCT& item) const;
+    HBRUSH Colour(HDC dc, HWND control) const;
+    void PaintBackground() const;
+
+  private:
+    void ArrangePanel(Side side);
+    void AddToolTip(int pair, Side side, const Box& box, TextId row) const;
+    std::wstring NameOf(Side side) const;
+    bool Runs(Side side) const { return commands.TurnMarksVisible(side); }
+
+    Form& form;
+    const ClockCommands& commands;
+    const Settings& settings;
+    const Texts& texts;
+    ClockPainter painter;
+    ClockLayout layout{};
+    Picture flagUp, flagDown, hand;
+    HWND toolTips = nullptr;
+};
