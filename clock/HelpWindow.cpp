@@ -10,8 +10,9 @@ void HelpWindow::Open(HWND owner, TextId file) {
     }
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
     // The row begins with a backslash, the folder ends with one.
-    const std::wstring path = folder + texts(file).substr(1);
-    if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES)
+    const std::wstring name = texts(file);
+    const std::wstring path = folder + (name.empty() ? name : name.substr(1));
+    if (name.empty() || GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES)
         return messageBoxes.Inform(owner, texts.Compose(TextId::HelpFileMissing, path));
 
     std::wstring commandLine = L"\"" + viewer + L"\" \"" + path + L"\"";

@@ -69,6 +69,11 @@ int RunProgram() {
     if (!EnsureDataFolder(environment.DataFolder, fileSystem, texts, messageBoxes)) return 1;
 
     frmClock clockWindow(environment, settingsFile, settings, texts, messageBoxes);
-    clockWindow.Open();
+    try {
+        clockWindow.Open();
+    } catch (const std::exception& error) {
+        clockWindow.ShowError(error);
+        return 1;
+    }
     return RunMessageLoop(clockWindow);
 }

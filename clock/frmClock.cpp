@@ -31,7 +31,7 @@ frmClock::frmClock(const modEnvironment::Environment& environment, const Setting
       settingsFile(settingsFile),
       settings(settings),
       commands(*this),
-      timer([this] { commands.Tick(); }),
+      timer([this] { Tick(); }),
       help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
       panels(*this, commands, settings, texts, environment.appearance.backgroundColour) {}
 
@@ -41,8 +41,8 @@ frmClock::~frmClock() {
 }
 
 void frmClock::Open() {
-    icon.reset(LoadIconW(GetModuleHandleW(nullptr), L"AAATORVANIX"));
-    Create(ClassName, texts(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon.get());
+    const HICON icon = LoadIconW(GetModuleHandleW(nullptr), L"AAATORVANIX");
+    Create(ClassName, texts(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
     dpi = DpiOf(Window());
     accelerators = MakeClockAccelerators();
     panels.Create();
@@ -60,17 +60,22 @@ void frmClock::Open() {
 }
 
 void frmClock::LoadPictures() {
-    handHit.reset(LoadCursorW(GetModuleHandleW(nullptr), L"HANDHIT.CUR"));
-    handPointBlue.reset(LoadCursorW(GetModuleHandleW(nullptr), L"HANDPOINTBLUE.CUR"));
+    const auto cursor = [](const wchar_t* name) {
+        return static_cast<HCURSOR>(
+            LoadImageW(GetModuleHandleW(nullptr), name, IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR));
+    };
+    handHit.reset(cursor(L"HANDHIT.CUR"));
+    handPointBlue.reset(cursor(L"HANDPOINTBLUE.CUR"));
     // Without a picture the clock still runs.
     try {
         panels.LoadPictures();
     } catch (const SystemError& error) {
-        TellLater(texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code())));
+        TellOnceOpen(texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code())));
     }
 }
 
-void frmClock::TellLater(const std::wstring& message) {
+void frmClock::TellOnceOpen(const std::wstring& message) {
+    if (IsWindowVisible(Window())) return messageBoxes.Inform(Window(), message);
     pendingMessages.push_back(message);
     PostMessageW(Window(), WM_PENDINGMESSAGE, 0, 0);
 }
@@ -113,6 +118,15 @@ void frmClock::PhaseChanged() {
     ModifyMenuW(GetMenu(Window()), mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
 }
 
+void frmClock::Tick() {
+    // The system calls this, and no exception may reach it.
+    try {
+        commands.Tick();
+    } catch (const std::exception& error) {
+        ShowError(error);
+    }
+}
+
 void frmClock::FocusClockButton(Side side) { SetFocus(Control(ControlOf(cmdClock, side))); }
 void frmClock::FocusPauseButton(Side side) { SetFocus(Control(ControlOf(cmdPause, side))); }
 void frmClock::PlayButtonSound() { modSound::Play(settings.ButtonSoundName); }
@@ -142,7 +156,7 @@ bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::Rese
 
 modClock::TimeControl frmClock::ReadTimeControl() {
     const std::wstring problem = settingsFile.Load(settings, texts);
-    if (!problem.empty()) TellLater(problem);
+    if (!problem.empty()) TellOnceOpen(problem);
     panels.ShowSettings();
     modClock::TimeControl control;
     control.PeriodLimit = settings.PeriodLimit;

@@ -45,8 +45,9 @@ class frmClock : public Form, private ClockView {
 
     void LoadPictures();
     void PlaceWindow();
-    // Shows a message once the window stands and the command under way is done.
-    void TellLater(const std::wstring& message);
+    // Shows a message, after the opening when the window is not open yet.
+    void TellOnceOpen(const std::wstring& message);
+    void Tick();
     std::wstring NoticeText(Notice notice) const;
     std::wstring WaysToBegin() const;
 
@@ -72,7 +73,6 @@ class frmClock : public Form, private ClockView {
     HelpWindow help;
     ClockPanels panels;
     UniqueCursor handHit, handPointBlue;
-    UniqueIcon icon;
     UniqueAccelerators accelerators;
     int dpi = 96;
     std::vector<std::wstring> pendingMessages;

@@ -1,6 +1,7 @@
 #include "games/clsFileSystem.h"
 
 #include "games/Automation.h"
+#include "platform/Ansi.h"
 #include "resources/Version.h"
 
 #include <objbase.h>
@@ -25,7 +26,7 @@ std::wstring Now() {
     GetLocalTime(&time);
     wchar_t date[80], clock[80];
     if (!GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, date, 80)) date[0] = L'\0';
-    if (!GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &time, nullptr, clock, 80)) clock[0] = L'\0';
+    if (!GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &time, nullptr, clock, 80)) clock[0] = L'\0';
     return std::wstring(date) + L" " + clock;
 }
 
@@ -58,8 +59,12 @@ HRESULT clsFileSystem::CreateFolder(const std::wstring& folder) const {
 }
 
 HRESULT clsFileSystem::DeleteFolder(const std::wstring& folder) const {
+    // Unlike the others, this member wants the path without a backslash at its end.
+    const bool slashed = folder.size() > 1 && folder.back() == L'\\';
     Variant result;
-    return fileSystem ? Call(*fileSystem, L"DeleteFolder", result, folder) : created;
+    return fileSystem
+               ? Call(*fileSystem, L"DeleteFolder", result, slashed ? folder.substr(0, folder.size() - 1) : folder)
+               : created;
 }
 
 Outcome<DATE> clsFileSystem::FileDate(const std::wstring& file, DateKind kind) const {
@@ -88,7 +93,8 @@ HRESULT clsFileSystem::WriteLog(int32_t code, int32_t status, const std::wstring
     if (!exists) lines.insert(lines.begin(), L"#Software: TORVANIX");
     Variant nothing;
     for (const std::wstring& line : lines) {
-        const HRESULT written = Call(*stream, L"WriteLine", nothing, line);
+        // The stream is ANSI and refuses a line with any other character.
+        const HRESULT written = Call(*stream, L"WriteLine", nothing, FromAnsi(ToAnsi(line)));
         if (FAILED(written)) result = written;
     }
     const HRESULT closed = Call(*stream, L"Close", nothing);

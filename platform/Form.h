@@ -17,6 +17,9 @@ class Form {
 
     HWND Window() const { return window; }
 
+    // Shows what stopped a handler, or the opening of the window, in a message.
+    void ShowError(const std::exception& error) const;
+
     // A child window. Throws SystemError.
     HWND AddControl(const wchar_t* kind, int id, DWORD style);
 
@@ -35,9 +38,6 @@ class Form {
 
     // A message of the window; what a form does not handle it passes on to Form::Handle.
     virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
-
-    // Shows what stopped a handler. The program runs on.
-    void ShowError(const std::exception& error) const;
 
     const Texts& texts;
     const MessageBoxes& messageBoxes;

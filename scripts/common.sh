@@ -43,7 +43,11 @@ use_own_wine() {
     if [ ! -f "$WINEPREFIX/system.reg" ]; then
         say "Making a Wine prefix in build/wine-$1"
         mkdir -p "$WINEPREFIX"
-        wineboot --init >/dev/null 2>&1
+        wineboot --init >"build/wine-$1.log" 2>&1 || {
+            cat "build/wine-$1.log"
+            say "Wine could not make its prefix"
+            return 1
+        }
         wineserver -w
     fi
 }

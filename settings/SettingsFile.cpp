@@ -27,8 +27,7 @@ std::wstring ReasonOf(const RecordError& error, const Texts& texts) {
 int32_t SettingsFile::LoadLanguage() const {
     try {
         const auto bytes = ReadFileBytes(path, LongestRecord);
-        SlotRecord record;
-        if (bytes && !DecodeRecord(*bytes, record)) return ReadLanguage(record);
+        if (bytes) return ReadLanguage(DecodeRecord(*bytes).slots);
     } catch (const SystemError&) {
         // Load, which follows, says so.
     }
@@ -44,10 +43,8 @@ std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
             settings.LanguageIndex = language;
             return {};
         }
-        SlotRecord record;
-        auto error = DecodeRecord(*bytes, record);
-        if (!error) error = ReadSettings(record, settings);
-        if (error) return texts.Compose(TextId::SettingsDamaged, path, ReasonOf(*error, texts));
+        if (const auto error = ReadSettings(DecodeRecord(*bytes), settings))
+            return texts.Compose(TextId::SettingsDamaged, path, ReasonOf(*error, texts));
         return {};
     } catch (const SystemError& error) {
         return texts.Compose(TextId::SettingsNotRead, path, texts.Reason(error.Code()));

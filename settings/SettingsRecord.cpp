@@ -35,9 +35,14 @@ int32_t Number(const SlotRecord& record, int32_t slot) {
 // Reads slot after slot.
 class Reader {
   public:
-    explicit Reader(const SlotRecord& record) : record(record) {}
+    explicit Reader(const DecodedRecord& record) : record(record) {}
 
-    int32_t Next() { return Number(record, next++); }
+    int32_t At(int32_t slot) const {
+        if (record.error && slot >= record.error->slot) throw BadSlot{*record.error};
+        return Number(record.slots, slot);
+    }
+
+    int32_t Next() { return At(next++); }
 
     int32_t Next(int32_t least, int32_t most = std::numeric_limits<int32_t>::max()) {
         const int32_t value = Next();
@@ -63,7 +68,7 @@ class Reader {
     bool NextCheck() { return Next() != 0; }
 
   private:
-    const SlotRecord& record;
+    const DecodedRecord& record;
     int32_t next = 0;
 };
 
@@ -78,7 +83,7 @@ int32_t ReadLanguage(const SlotRecord& record) {
     }
 }
 
-std::optional<RecordError> ReadSettings(const SlotRecord& record, Settings& settings) {
+std::optional<RecordError> ReadSettings(const DecodedRecord& record, Settings& settings) {
     Reader reader(record);
     try {
         settings.PlayerNames[White] = reader.NextName(MaxNameCharacters);
@@ -96,11 +101,12 @@ std::optional<RecordError> ReadSettings(const SlotRecord& record, Settings& sett
         settings.MovesFirstPeriod = reader.Next(0, std::numeric_limits<int32_t>::max() - 2) + 1;
         settings.SetButtonSound(reader.Next(0, static_cast<int32_t>(ButtonSounds.size()) - 1));
         settings.SetFlagSound(reader.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
-        settings.WritePgn = Number(record, PgnSlot) != 0;
+        settings.WritePgn = reader.At(PgnSlot) != 0;
     } catch (const BadSlot& bad) {
         return bad.error;
     }
-    return std::nullopt;
+    // A fault behind the last setting has cost nothing, but the file is damaged.
+    return record.error;
 }
 
 SlotRecord WriteSettings(const Settings& settings) {

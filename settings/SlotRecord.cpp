@@ -54,13 +54,12 @@ std::optional<RecordError::Rule> ReadSlot(std::span<const uint8_t>& bytes, SlotV
 
 }  // namespace
 
-std::optional<RecordError> DecodeRecord(std::span<const uint8_t> bytes, SlotRecord& record) {
-    SlotRecord decoded;
-    for (int32_t i = 0; i < SlotCount; ++i) {
-        if (const auto rule = ReadSlot(bytes, decoded[static_cast<size_t>(i)])) return RecordError{*rule, i};
+DecodedRecord DecodeRecord(std::span<const uint8_t> bytes) {
+    DecodedRecord record;
+    for (int32_t i = 0; i < SlotCount && !record.error; ++i) {
+        if (const auto rule = ReadSlot(bytes, record.slots[static_cast<size_t>(i)])) record.error = {*rule, i};
     }
-    record = decoded;
-    return std::nullopt;
+    return record;
 }
 
 std::string EncodeRecord(const SlotRecord& record) {

@@ -27,8 +27,15 @@ struct RecordError {
     int32_t slot;
 };
 
-// Reads a record from the start of `bytes`; what stands behind it is ignored. `record` is changed on success only.
-std::optional<RecordError> DecodeRecord(std::span<const uint8_t> bytes, SlotRecord& record);
+// A record as far as it could be read: on an error the slots before error->slot hold what the bytes say, that one and
+// those behind it are empty.
+struct DecodedRecord {
+    SlotRecord slots;
+    std::optional<RecordError> error;
+};
+
+// Reads a record from the start of `bytes`; what stands behind it is ignored.
+DecodedRecord DecodeRecord(std::span<const uint8_t> bytes);
 
 // The record's bytes, 2000 of tags and the values among them.
 std::string EncodeRecord(const SlotRecord& record);

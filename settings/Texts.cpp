@@ -2,6 +2,8 @@
 
 #include "platform/SystemError.h"
 
+#include <cwchar>
+
 std::wstring Texts::LookUp(int64_t identifier) const {
     // String resources have 16-bit numbers.
     if (identifier < 1 || identifier > 0xFFFF) return {};
@@ -27,4 +29,9 @@ std::wstring Texts::Compose(TextId row, const std::wstring& first, const std::ws
     return text;
 }
 
-std::wstring Texts::Reason(DWORD code) const { return Compose(ReasonRow(code), std::to_wstring(code)); }
+std::wstring Texts::Reason(DWORD code) const {
+    // Codes of COM are known by their hexadecimal form.
+    wchar_t number[16];
+    swprintf(number, 16, code > 0x7FFFFFFF ? L"0x%08lX" : L"%lu", code);
+    return Compose(ReasonRow(code), number);
+}

@@ -15,10 +15,18 @@ using Buffer = std::array<char, BufferSize + 1>;
 
 std::string UpToNul(const Buffer& buffer) { return std::string(buffer.data()); }
 
+// For a folder whose name the ANSI code page cannot write: its short name has ASCII letters only.
+std::string ShortTemporaryFolder() {
+    std::array<wchar_t, MAX_PATH + 1> folder{}, shortName{};
+    GetTempPathW(MAX_PATH, folder.data());
+    const DWORD length = GetShortPathNameW(folder.data(), shortName.data(), MAX_PATH);
+    return ToAnsi({shortName.data(), length});
+}
+
 }  // namespace
 
 UniqueCom<IPicture> LoadResourcePicture(const std::string& resourceName, const std::string& resourceType,
-                                        std::string temporaryFile) {
+                                        std::string temporaryFile) try {
     if (temporaryFile.empty()) temporaryFile = MakeTemporaryFileName("", "~tvx", 0);
     // Deleted whatever happens next.
     struct Deleter {
@@ -32,6 +40,9 @@ UniqueCom<IPicture> LoadResourcePicture(const std::string& resourceName, const s
     const HRESULT status = OleLoadPicturePath(path.data(), nullptr, 0, 0, IID_IPicture, &picture);
     if (FAILED(status)) throw SystemError(CodeOf(status), FromAnsi(resourceName));
     return UniqueCom<IPicture>(static_cast<IPicture*>(picture));
+} catch (const SystemError& error) {
+    // Whichever step failed, the picture is what the caller asked for.
+    throw SystemError(error.Code(), FromAnsi(resourceName));
 }
 
 std::string MakeTemporaryFileName(const std::string& folder, const std::string& prefix, uint16_t uniqueNumber) {
@@ -42,6 +53,7 @@ std::string MakeTemporaryFileName(const std::string& folder, const std::string& 
         if (length == 0) throw SystemError(GetLastError(), FromAnsi(prefix));
         if (length > BufferSize) throw SystemError(ERROR_FILENAME_EXCED_RANGE, FromAnsi(prefix));
         in = UpToNul(buffer);
+        if (GetFileAttributesA(in.c_str()) == INVALID_FILE_ATTRIBUTES) in = ShortTemporaryFolder();
     }
     // GetTempFileName writes up to MAX_PATH characters whatever the buffer; longer folders it refuses.
     std::array<char, MAX_PATH + 1> name{};

@@ -8,7 +8,8 @@
 
 #include <string>
 
-// Pictures among the program's resources. Every failure is thrown as SystemError that names the resource.
+// Pictures among the program's resources. Failures are thrown as SystemError; those of LoadResourcePicture name the
+// resource.
 namespace modResource {
 
 // The picture of a resource, by way of a temporary file that is deleted at once. Without a file name one is made in

@@ -124,7 +124,7 @@ TEST(StartUpTest, DamagedSettingsAreToldAndLeftUntouched) {
     };
     // Slots 0 and 1 hold the lengths of two empty names; each slot in use takes six bytes.
     const Row rows[] = {
-        {"cut", 0, 3, 100, L"the file ends at slot", L"00:20:00"},
+        {"cut", 0, 3, 20, L"the file ends at slot 3", L"00:45:00"},
         {"empty", 0, 3, 0, L"the file ends at slot 0", L"00:20:00"},
         {"unknown kind", 6, 99, 5000, L"slot 1 holds a value of an unknown kind", L"00:20:00"},
         {"flag sound", 15 * 6 + 2, 6, 5000, L"the value in slot 15 is out of its range", L"00:45:00"},
@@ -162,8 +162,8 @@ TEST(StartUpTest, SettingsThatCannotBeReadAreTold) {
     ProgramRun run(folder);
     const std::wstring text = run.MessageText();
     EXPECT_EQ(text, L"The settings file " + file +
-                        L" could not be read: access was denied. The default settings are "
-                        L"used.");
+                        L" could not be read: access was denied. The present settings "
+                        L"stay.");
     run.Answer(IDOK);
     EXPECT_EQ(run.Text(lblFace), L"00:20:00");
 }

@@ -38,7 +38,7 @@ constexpr int32_t Most = std::numeric_limits<int32_t>::max();
 TEST(SettingsRecordTest, RoundTripKeepsEverything) {
     const SlotRecord record = WriteSettings(Unusual());
     Settings read;
-    EXPECT_FALSE(ReadSettings(record, read));
+    EXPECT_FALSE(ReadSettings({record, {}}, read));
     read.LanguageIndex = ReadLanguage(record);
     EXPECT_EQ(WriteSettings(read), record);
     EXPECT_EQ(read.PlayerNames, Unusual().PlayerNames);
@@ -75,7 +75,7 @@ TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
     record[8] = true;          // a check box
     record[11] = SlotValue();  // clock type 0
     Settings read;
-    EXPECT_FALSE(ReadSettings(record, read));
+    EXPECT_FALSE(ReadSettings({record, {}}, read));
     EXPECT_EQ(read.PeriodLimit[White], 1800);
     EXPECT_TRUE(read.CountTimeDown);
     EXPECT_EQ(read.ClockType, 0);
@@ -113,7 +113,7 @@ TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
         SlotRecord record = WriteSettings(Settings());
         record[static_cast<size_t>(row.slot)] = row.value;
         Settings read;
-        const auto error = ReadSettings(record, read);
+        const auto error = ReadSettings({record, {}}, read);
         ASSERT_TRUE(error);
         EXPECT_EQ(error->slot, row.slot);
         EXPECT_EQ(error->rule, row.rule);
@@ -122,16 +122,24 @@ TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
     SlotRecord record = WriteSettings(Unusual());
     record[18] = int32_t{5};  // button sound
     Settings read;
-    EXPECT_TRUE(ReadSettings(record, read));
+    EXPECT_TRUE(ReadSettings({record, {}}, read));
     EXPECT_EQ(read.MovesFirstPeriod, 1) << "what was read before it stays";
     EXPECT_EQ(read.FlagSoundIndex, 1) << "what comes behind it is as it was";
+
+    const RecordError cut{RecordError::Rule::ShortFile, 18};
+    Settings readOfCut;
+    const auto error = ReadSettings({WriteSettings(Unusual()), cut}, readOfCut);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->slot, 18);
+    EXPECT_EQ(readOfCut.MoveBonus, Unusual().MoveBonus);
+    EXPECT_EQ(readOfCut.ButtonSoundIndex, 1);
 }
 
 TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
     Settings settings;
     settings.PlayerNames = {std::string(200, 'a'), std::string(84, 'b')};
     Settings read;
-    EXPECT_FALSE(ReadSettings(WriteSettings(settings), read));
+    EXPECT_FALSE(ReadSettings({WriteSettings(settings), {}}, read));
     EXPECT_EQ(read.PlayerNames, settings.PlayerNames);
     settings.PlayerNames[Black] += 'b';
     EXPECT_THROW(WriteSettings(settings), RunTimeError);

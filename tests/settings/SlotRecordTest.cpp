@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 std::span<const uint8_t> Bytes(const std::string& text) {
@@ -27,29 +29,30 @@ TEST(SlotRecordTest, BytesAreLittleEndianTagsAndValues) {
     EXPECT_EQ(bytes.substr(0, start.size()), start);
     EXPECT_EQ(bytes.substr(bytes.size() - 10), std::string("\x0B\0\0\0\x03\0\x78\x56\x34\x12", 10));
 
-    SlotRecord read;
-    EXPECT_FALSE(DecodeRecord(Bytes(bytes + "an older, longer record's tail"), read));
-    EXPECT_EQ(read, Mixed());
+    const std::string withTail = bytes + "an older, longer record's tail";
+    const DecodedRecord read = DecodeRecord(Bytes(withTail));
+    EXPECT_FALSE(read.error);
+    EXPECT_EQ(read.slots, Mixed());
 }
 
-TEST(SlotRecordTest, CutAtEveryLengthIsAnErrorThatChangesNothing) {
+TEST(SlotRecordTest, CutAtEveryLengthIsAnErrorAndKeepsTheSlotsBefore) {
     const std::string bytes = EncodeRecord(Mixed());
     for (size_t length = 0; length < bytes.size(); ++length) {
-        SlotRecord read;
-        read[5] = int32_t{42};
-        const auto error = DecodeRecord(Bytes(bytes.substr(0, length)), read);
-        ASSERT_TRUE(error) << length;
-        ASSERT_EQ(error->rule, RecordError::Rule::ShortFile) << length;
-        ASSERT_EQ(read[5], SlotValue(int32_t{42})) << length;
+        const DecodedRecord read = DecodeRecord(Bytes(bytes).first(length));
+        ASSERT_TRUE(read.error) << length;
+        ASSERT_EQ(read.error->rule, RecordError::Rule::ShortFile) << length;
+        const auto good = static_cast<size_t>(read.error->slot);
+        SlotRecord wanted = Mixed();
+        std::fill(wanted.begin() + static_cast<std::ptrdiff_t>(good), wanted.end(), SlotValue());
+        ASSERT_EQ(read.slots, wanted) << length;
     }
 }
 
 TEST(SlotRecordTest, UnknownTagIsNamedWithItsSlot) {
     std::string bytes = EncodeRecord(Mixed());
     bytes[22] = 8;  // the tag of slot 4
-    SlotRecord read;
-    const auto error = DecodeRecord(Bytes(bytes), read);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->rule, RecordError::Rule::UnknownTag);
-    EXPECT_EQ(error->slot, 4);
+    const DecodedRecord read = DecodeRecord(Bytes(bytes));
+    ASSERT_TRUE(read.error);
+    EXPECT_EQ(read.error->rule, RecordError::Rule::UnknownTag);
+    EXPECT_EQ(read.error->slot, 4);
 }

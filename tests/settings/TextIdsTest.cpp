@@ -37,9 +37,8 @@ TEST(TextIdsTest, EveryRowHasEveryLanguage) {
         for (const std::string& text : row.texts) {
             EXPECT_FALSE(text.empty()) << row.name;
             // Turkish puts the word before the name where the others put it behind: one blank stands in for it.
-            if (row.identifier != static_cast<int32_t>(TextId::GameBefore)) {
-                EXPECT_FALSE(Blank(text)) << row.name;
-            }
+            const bool mayBeBlank = row.identifier == static_cast<int32_t>(TextId::GameBefore) && &text == row.texts;
+            EXPECT_EQ(Blank(text), mayBeBlank) << row.name;
             for (const char* part : {"%1", "%2", "&&", "::", "[Ctrl+", "  "})
                 EXPECT_EQ(Count(text, part), Count(row.texts[English - 1], part)) << row.name << ": " << text;
         }
