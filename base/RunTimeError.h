@@ -20,15 +20,9 @@ class RunTimeError : public std::exception {
     Fault fault;
 };
 
-// Overflow-tested 32-bit arithmetic for times and counts. Both throw RunTimeError(Fault::Overflow).
+// Overflow-tested 32-bit addition for times and counts. Throws RunTimeError(Fault::Overflow).
 inline int32_t CheckedAdd(int32_t left, int32_t right) {
     int32_t sum;
     if (__builtin_add_overflow(left, right, &sum)) throw RunTimeError(Fault::Overflow);
     return sum;
-}
-
-inline int32_t CheckedMultiply(int32_t left, int32_t right) {
-    int32_t product;
-    if (__builtin_mul_overflow(left, right, &product)) throw RunTimeError(Fault::Overflow);
-    return product;
 }

@@ -27,6 +27,7 @@ void ClockCommands::Initialise() {
     clock.SetTimeControl(view.ReadTimeControl());
     clock.InitialiseClock();
     view.PhaseChanged();
+    view.TellReadingProblems();
 }
 
 void ClockCommands::Press(Side button) {
@@ -34,7 +35,8 @@ void ClockCommands::Press(Side button) {
     if (phase == Phase::Fallen) return view.Inform(Notice::HowToRestart);
     if (!ClockButtonEnabled(button)) return;
     view.PlayButtonSound();
-    if (clock.CountsOutOfStep()) return;
+    // Playing takes time, and a tick that the system let through meanwhile may have ended the game.
+    if (CurrentPhase() != phase || clock.CountsOutOfStep()) return;
 
     // Whoever presses first, side 0's clock must run: the counts would be out of step for ever otherwise.
     const Side pressed = phase == Phase::Idle ? Black : button;
@@ -51,7 +53,8 @@ void ClockCommands::Press(Side button) {
 
 void ClockCommands::Start() {
     if (CurrentPhase() == Phase::Running && !view.AskReset()) return;
-    if (clock.State().TimerHandle >= 1) Reset();
+    // A timer call that failed leaves no handle behind; the game that it stopped is over all the same.
+    if (clock.State().TimerHandle >= 1 || CurrentPhase() != Phase::Idle) Reset();
     for (Side side : BothSides) {
         if (ClockButtonEnabled(side)) return Press(side);
     }

@@ -39,8 +39,10 @@ class ClockView {
     virtual void PlayFlagSound() = 0;
     virtual void Inform(Notice notice) = 0;
     virtual bool AskReset() = 0;  // true: the players want the reset
-    // The user's time control, read anew.
+    // The user's time control, read anew; the window shows what else the settings say.
     virtual modClock::TimeControl ReadTimeControl() = 0;
+    // Time to say what went wrong in the reading: the clock stands initialised.
+    virtual void TellReadingProblems() = 0;
 
   protected:
     ~ClockView() = default;

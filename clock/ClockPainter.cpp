@@ -7,7 +7,6 @@ namespace {
 constexpr COLORREF PanelColour = RGB(0xE6, 0xE6, 0xE6);
 constexpr COLORREF RunningColour = RGB(0xFF, 0xF1, 0xC2);
 constexpr COLORREF MarkColour = RGB(0x12, 0x8A, 0x3A);
-constexpr COLORREF InkColour = RGB(0x14, 0x14, 0x14);
 constexpr COLORREF EdgeColour = RGB(0x6E, 0x6E, 0x6E);
 constexpr COLORREF BrassColour = RGB(0xE9, 0xB4, 0x4C);
 constexpr COLORREF KeyColour = RGB(0xF7, 0xF7, 0xF7);
@@ -192,14 +191,14 @@ void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text,
         top.bottom -= rise;
     }
     Fill(buffer.Dc(), top, colour);
-    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, enabled ? InkColour : EdgeColour);
+    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, enabled ? ClockPainter::Ink : EdgeColour);
 
     const Selection selection(buffer.Dc(), font);
-    SetTextColor(buffer.Dc(), enabled ? InkColour : DimColour);
+    SetTextColor(buffer.Dc(), enabled ? ClockPainter::Ink : DimColour);
     DrawTextW(buffer.Dc(), text.c_str(), -1, &top, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     if (item.itemState & ODS_FOCUS) {
         InflateRect(&top, -static_cast<int>(rise / 2), -static_cast<int>(rise / 2));
-        SetTextColor(buffer.Dc(), InkColour);
+        SetTextColor(buffer.Dc(), ClockPainter::Ink);
         DrawFocusRect(buffer.Dc(), &top);
     }
 }

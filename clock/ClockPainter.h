@@ -12,6 +12,8 @@
 // How the clock window looks: its colours, type and pictures.
 class ClockPainter {
   public:
+    static constexpr COLORREF Ink = RGB(0x14, 0x14, 0x14);  // of texts on the panels
+
     // `background` as 0xRRGGBB.
     explicit ClockPainter(uint32_t background);
 

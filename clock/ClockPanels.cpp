@@ -144,7 +144,12 @@ void ClockPanels::ShowSettings() {
     Arrange();
 }
 
-void ClockPanels::ShowFace(Side side) { form.SetText(ControlOf(lblFace, side), FromAnsi(commands.Clock().Face(side))); }
+void ClockPanels::ShowFace(Side side) {
+    const int id = ControlOf(lblFace, side);
+    form.SetText(id, FromAnsi(commands.Clock().Face(side)));
+    // A control that its owner draws need not take a new text for a reason to be drawn.
+    InvalidateRect(form.Control(id), nullptr, FALSE);
+}
 
 void ClockPanels::ShowMoveNumbers() {
     for (Side side : BothSides) {
@@ -203,6 +208,7 @@ void ClockPanels::Draw(const DRAWITEMSTRUCT& item) const {
 
 HBRUSH ClockPanels::Colour(HDC dc, HWND control) const {
     SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, ClockPainter::Ink);
     return painter.PanelBrush(Runs(PlaceOf(GetDlgCtrlID(control)).side));
 }
 

@@ -1,13 +1,16 @@
 #include "clock/HelpWindow.h"
 
-#include "platform/Handles.h"
 #include "platform/SystemError.h"
 
 void HelpWindow::Open(HWND owner, TextId file) {
-    if (held && IsWindow(held)) {
+    Watch(GetWindow(owner, GW_HWNDFIRST));
+    if (held) {
+        if (IsIconic(held)) ShowWindow(held, SW_RESTORE);
         SetForegroundWindow(held);
         return;
     }
+    // A viewer that has been started and shows no window yet will.
+    if (process && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
     // The row begins with a backslash, the folder ends with one.
     const std::wstring name = texts(file);
@@ -24,24 +27,26 @@ void HelpWindow::Open(HWND owner, TextId file) {
         const std::wstring reason = texts.Reason(GetLastError());
         return messageBoxes.Inform(owner, texts.Compose(TextId::HelpNotStarted, viewer, reason));
     }
-    const UniqueFile processHandle(started.hProcess), threadHandle(started.hThread);
-    process = started.dwProcessId;
+    CloseHandle(started.hThread);
+    process.reset(started.hProcess);
 }
 
 void HelpWindow::Watch(HWND first) {
     if (held && !IsWindow(held)) held = nullptr;
-    if (held || process == 0) return;
+    if (held || !process) return;
+    const DWORD viewerId = GetProcessId(process.get());
     for (HWND window = first; window; window = GetWindow(window, GW_HWNDNEXT)) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if (owner == process && IsWindowVisible(window)) {
+        if (owner == viewerId && IsWindowVisible(window)) {
             held = window;
             return;
         }
     }
 }
 
-void HelpWindow::Close() {
-    if (held && IsWindow(held)) SendMessageA(held, WM_CLOSE, 0, 0);
+void HelpWindow::Close(HWND first) {
+    Watch(first);
+    if (held) SendMessageA(held, WM_CLOSE, 0, 0);
     held = nullptr;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Handles.h"
 #include "platform/MessageBoxes.h"
 
 #include <windows.h>
@@ -13,21 +14,21 @@ class HelpWindow {
     HelpWindow(const Texts& texts, const MessageBoxes& messageBoxes, std::wstring viewer, std::wstring folder)
         : texts(texts), messageBoxes(messageBoxes), viewer(std::move(viewer)), folder(std::move(folder)) {}
 
-    // Opens the help file of a row, or brings its window to the front when it is open. A missing viewer or file is told
-    // in a message.
+    // Opens the help file of a row, or brings its window to the front when it is open already. A missing viewer or file
+    // is told in a message.
     void Open(HWND owner, TextId file);
 
     // Looks from `first` downwards in the z-order for the viewer's window and holds it.
     void Watch(HWND first);
 
-    // Asks a held window to close.
-    void Close();
+    // Asks the viewer's window to close. `first` as for Watch.
+    void Close(HWND first);
 
   private:
     const Texts& texts;
     const MessageBoxes& messageBoxes;
     std::wstring viewer;
     std::wstring folder;
-    DWORD process = 0;  // of the viewer last started
+    UniqueFile process;  // of the viewer last started
     HWND held = nullptr;
 };

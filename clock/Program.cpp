@@ -30,8 +30,7 @@ class SystemLibraries {
 // Makes the data folder when it is missing. False: it could not be made, and the player has been told.
 bool EnsureDataFolder(const std::wstring& folder, clsFileSystem& fileSystem, const Texts& texts,
                       const MessageBoxes& messageBoxes) {
-    if (fileSystem.FolderExists(folder).result) return true;
-    const HRESULT status = fileSystem.CreateFolder(folder);
+    const HRESULT status = modEnvironment::EnsureFolder(fileSystem, folder);
     if (SUCCEEDED(status)) return true;
     fileSystem.WriteLog(DataFolderMissingCode, status, folder);
     const std::wstring reason = texts.Reason(CodeOf(status));
@@ -61,7 +60,7 @@ int RunProgram() {
     const SettingsFile settingsFile(environment.DataFolder);
     settings.LanguageIndex = settingsFile.LoadLanguage();
 
-    if (environment.savedGamesStatus != S_OK) {
+    if (FAILED(environment.savedGamesStatus)) {
         const std::wstring reason = texts.Reason(CodeOf(environment.savedGamesStatus));
         messageBoxes.Inform(nullptr,
                             texts.Compose(TextId::SavedGamesFolderMissing, environment.SavedGamesFolder, reason));

@@ -19,8 +19,9 @@ constexpr wchar_t ClassName[] = L"frmClock";
 constexpr UINT_PTR BlinkTimer = 1, HelpTimer = 2;
 constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
 
-// Messages of the window to itself: a button was pressed with this key (0: the mouse); a kept message is due.
-constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_PENDINGMESSAGE = WM_APP + 2;
+// Messages of the window to itself: a button was pressed with this key (0: the mouse); the window is open and
+// can show what went wrong before.
+constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2;
 
 }  // namespace
 
@@ -57,6 +58,7 @@ void frmClock::Open() {
     ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
     ShowWindow(Window(), SW_SHOWDEFAULT);
     UpdateWindow(Window());
+    PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
 }
 
 void frmClock::LoadPictures() {
@@ -70,18 +72,19 @@ void frmClock::LoadPictures() {
     try {
         panels.LoadPictures();
     } catch (const SystemError& error) {
-        TellOnceOpen(texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code())));
+        problems.push_back(texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code())));
     }
 }
 
-void frmClock::TellOnceOpen(const std::wstring& message) {
-    if (IsWindowVisible(Window())) return messageBoxes.Inform(Window(), message);
-    pendingMessages.push_back(message);
-    PostMessageW(Window(), WM_PENDINGMESSAGE, 0, 0);
+void frmClock::TellReadingProblems() {
+    if (!IsWindowVisible(Window())) return;
+    for (const std::wstring& problem : std::exchange(problems, {})) messageBoxes.Inform(Window(), problem);
 }
 
 bool frmClock::TakeMessage(MSG& message) {
-    if (TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    // A held Ctrl+T must not ask to reset the game that it has just started.
+    const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
+    if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
     return IsDialogMessageW(Window(), &message);
 }
 
@@ -156,7 +159,8 @@ bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::Rese
 
 modClock::TimeControl frmClock::ReadTimeControl() {
     const std::wstring problem = settingsFile.Load(settings, texts);
-    if (!problem.empty()) TellOnceOpen(problem);
+    if (!problem.empty()) problems.push_back(problem);
+    SetWindowTextW(Window(), texts(TextId::ProductTitle).c_str());
     panels.ShowSettings();
     modClock::TimeControl control;
     control.PeriodLimit = settings.PeriodLimit;
@@ -202,9 +206,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
-        case WM_PENDINGMESSAGE:
-            for (const std::wstring& text : std::exchange(pendingMessages, {})) messageBoxes.Inform(Window(), text);
-            return 0;
+        case WM_TELLPROBLEMS: TellReadingProblems(); return 0;
         case WM_DESTROY:
             Unload();
             PostQuitMessage(0);
@@ -267,15 +269,14 @@ LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wPa
     };
     switch (message) {
         case WM_GETDLGCODE: {
-            // All characters, and Enter before the dialog keys take it.
+            // All characters, Enter before the dialog keys take it, and the arrows, which would move the focus away.
             const auto* key = reinterpret_cast<const MSG*>(lParam);
             const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
-            return DefSubclassProc(button, message, wParam, lParam) | DLGC_WANTCHARS | (enter ? DLGC_WANTMESSAGE : 0);
+            return DefSubclassProc(button, message, wParam, lParam) | DLGC_WANTCHARS | DLGC_WANTARROWS |
+                   (enter ? DLGC_WANTMESSAGE : 0);
         }
         case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK:
-            if (isClock) return act(0);
-            break;
+        case WM_LBUTTONDBLCLK: return act(0);
         case WM_KEYDOWN:
             if (wParam == VK_RETURN || (isClock && wParam == VK_SPACE))
                 return HIWORD(lParam) & KF_REPEAT ? 0 : act(wParam);
@@ -333,7 +334,7 @@ void frmClock::FocusRightfulButton() {
 }
 
 void frmClock::Unload() {
-    help.Close();
+    help.Close(GetWindow(Window(), GW_HWNDFIRST));
     commands.Unload();
     SetThreadExecutionState(ES_CONTINUOUS);
 }

@@ -42,11 +42,10 @@ class frmClock : public Form, private ClockView {
     void Inform(Notice notice) override;
     bool AskReset() override;
     modClock::TimeControl ReadTimeControl() override;
+    void TellReadingProblems() override;
 
     void LoadPictures();
     void PlaceWindow();
-    // Shows a message, after the opening when the window is not open yet.
-    void TellOnceOpen(const std::wstring& message);
     void Tick();
     std::wstring NoticeText(Notice notice) const;
     std::wstring WaysToBegin() const;
@@ -75,5 +74,5 @@ class frmClock : public Form, private ClockView {
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
     int dpi = 96;
-    std::vector<std::wstring> pendingMessages;
+    std::vector<std::wstring> problems;  // of the opening or a reset, to be told
 };

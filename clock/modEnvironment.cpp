@@ -33,13 +33,6 @@ std::wstring FindProgram(const clsFileSystem& fileSystem, const Environment& env
     return {};
 }
 
-void EnsureLogFolder(clsFileSystem& fileSystem, const Environment& environment) {
-    // Where the system refuses it the log stays silent.
-    if (!fileSystem.FolderExists(environment.LogFilesFolder).result)
-        fileSystem.CreateFolder(environment.LogFilesFolder);
-    fileSystem.SetLogFolder(environment.LogFilesFolder);
-}
-
 }  // namespace
 
 std::wstring FindProgramFolder() {
@@ -51,6 +44,18 @@ std::wstring FindProgramFolder() {
     }
     path.resize(length);
     return path.substr(0, path.rfind(L'\\') + 1);
+}
+
+HRESULT EnsureFolder(const clsFileSystem& fileSystem, const std::wstring& folder) {
+    const Outcome<bool> exists = fileSystem.FolderExists(folder);
+    if (exists.result) return S_OK;
+    if (SUCCEEDED(exists.status)) return fileSystem.CreateFolder(folder);
+    // No scripting runtime on this system: ask the system itself.
+    if (CreateDirectoryW(folder.c_str(), nullptr)) return S_OK;
+    const DWORD code = GetLastError();
+    const DWORD attributes = GetFileAttributesW(folder.c_str());
+    const bool isFolder = attributes != INVALID_FILE_ATTRIBUTES && attributes & FILE_ATTRIBUTE_DIRECTORY;
+    return isFolder ? S_OK : HRESULT_FROM_WIN32(code);
 }
 
 Environment Establish(clsFileSystem& fileSystem, const Texts& texts) {
@@ -68,13 +73,14 @@ Environment Establish(clsFileSystem& fileSystem, const Texts& texts) {
     environment.SystemFolder = FindFolder(GetSystemDirectoryA);
     environment.SystemDrive = environment.SystemFolder.substr(0, 3);
     environment.LogFilesFolder = environment.SystemFolder + L"LogFiles\\";
-    EnsureLogFolder(fileSystem, environment);
+    // Where the system refuses the folder the log stays silent.
+    EnsureFolder(fileSystem, environment.LogFilesFolder);
+    fileSystem.SetLogFolder(environment.LogFilesFolder);
     fileSystem.WriteLog(StartedCode, 0, FromAnsi(environment.OsName));
     if (environment.OsName == "NONE") fileSystem.WriteLog(UnknownWindowsCode, 0, FromAnsi(environment.OsName));
 
     environment.NotepadPath = FindProgram(fileSystem, environment, L"Notepad.exe");
-    if (!fileSystem.FolderExists(environment.SavedGamesFolder).result)
-        environment.savedGamesStatus = fileSystem.CreateFolder(environment.SavedGamesFolder);
+    environment.savedGamesStatus = EnsureFolder(fileSystem, environment.SavedGamesFolder);
     environment.HelpViewerPath = FindProgram(fileSystem, environment, L"hh.exe");
     return environment;
 }

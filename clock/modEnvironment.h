@@ -32,6 +32,9 @@ struct Environment {
 // The folder of the running program file, with its backslash.
 std::wstring FindProgramFolder();
 
+// Makes a folder that is missing. The status says why it could not be made.
+HRESULT EnsureFolder(const clsFileSystem& fileSystem, const std::wstring& folder);
+
 // The start procedure up to the opening of the clock window: finds the paths, makes the folders that are missing and
 // writes the start-up entries of the log.
 Environment Establish(clsFileSystem& fileSystem, const Texts& texts);

@@ -19,8 +19,7 @@ struct Outcome {
 };
 
 // Folders, files and the program's log, by way of the scripting runtime's file-system object. Its members are called by
-// name, so the program loads on a system that lacks it; every operation then reports that as its status, and start-up
-// ends with a message about the data folder.
+// name, so the program starts on a system that lacks it; every operation then reports that as its status.
 class clsFileSystem {
   public:
     enum class DateKind { Created, LastModified, LastAccessed };

@@ -17,7 +17,6 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, HandleCloser<Handl
 
 using UniqueFont = Unique<HFONT, DeleteObject>;
 using UniqueBrush = Unique<HBRUSH, DeleteObject>;
-using UniquePen = Unique<HPEN, DeleteObject>;
 using UniqueBitmap = Unique<HBITMAP, DeleteObject>;
 using UniqueDc = Unique<HDC, DeleteDC>;
 using UniqueIcon = Unique<HICON, DestroyIcon>;

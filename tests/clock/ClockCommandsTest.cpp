@@ -34,6 +34,7 @@ struct RecordingView : ClockView {
         done.push_back("read");
         return control;
     }
+    void TellReadingProblems() override { done.push_back("tell"); }
 };
 
 std::string NoticeOf(Notice notice) { return "notice " + std::to_string(static_cast<int>(notice)); }
@@ -156,7 +157,7 @@ TEST_F(ClockCommandsTest, StartResetsFirstWhereAStartHasHappened) {
     EXPECT_EQ(Done(), Steps{"ask"}) << "running, answered No";
     EXPECT_EQ(commands.CurrentPhase(), Phase::Running);
 
-    const Steps resetAndStart{"read", "show", "focus clock 0", "button sound", "show", "focus clock 0"};
+    const Steps resetAndStart{"read", "show", "tell", "focus clock 0", "button sound", "show", "focus clock 0"};
     view.resetAnswer = true;
     commands.Press(White);
     view.done.clear();
@@ -175,11 +176,19 @@ TEST_F(ClockCommandsTest, StartResetsFirstWhereAStartHasHappened) {
     EXPECT_EQ(Done(), resetAndStart) << "fallen: without a question";
     EXPECT_FALSE(commands.FlagFallen(White));
     EXPECT_EQ(commands.Clock().State().MoveCount, (std::array{1, 0}));
+
+    commands.PauseOrResume();
+    view.timersWork = false;
+    commands.PauseOrResume();
+    view.timersWork = true;
+    view.done.clear();
+    commands.Start();
+    EXPECT_EQ(Done(), resetAndStart) << "paused, and the timer was refused at the resume";
 }
 
 TEST_F(ClockCommandsTest, ResetAsksWhereThereIsSomethingToLose) {
     commands.AskedResetIfStarted();
-    EXPECT_EQ(Done(), (Steps{"read", "show", "focus clock 0"})) << "idle";
+    EXPECT_EQ(Done(), (Steps{"read", "show", "tell", "focus clock 0"})) << "idle";
     commands.AskedReset();
     EXPECT_EQ(Done(), Steps{"ask"}) << "a click on a flag always asks";
 

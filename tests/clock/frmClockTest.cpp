@@ -131,4 +131,21 @@ TEST_P(frmClockTest, MenusHoldTheirEntriesAndKeys) {
     EXPECT_EQ(EntryOf(GetSubMenu(bar, 1), 1), texts(TextId::MenuPause));
 }
 
+TEST_P(frmClockTest, HeldKeyOfStartDoesNotRepeat) {
+    BYTE keys[256]{};
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    const auto send = [&](LPARAM flags) {
+        MSG message{form->Window(), WM_KEYDOWN, 'T', flags, 0, {}};
+        form->TakeMessage(message);
+        wchar_t count[8];
+        GetDlgItemTextW(form->Window(), lblMoveCount, count, 8);
+        return std::wstring(count);
+    };
+    EXPECT_EQ(send(LPARAM{KF_REPEAT} << 16), L"0.");
+    EXPECT_EQ(send(1), L"1.");
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys);
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, frmClockTest, testing::Values(Turkish, English, French));

@@ -93,10 +93,12 @@ TEST_F(CommandTest, ResetAsksOnceAGameHasStarted) {
         EXPECT_EQ(run.Text(lblMoveCount) + run.Text(lblMoveCount + 1), L"1.1.");
         EXPECT_TRUE(Focus(cmdClock + 1));
     }
+    SetWindowTextW(run.Clock(), L"a loaded game");
     run.Click(ControlOf(imgFlagUp, White));
     EXPECT_EQ(run.MessageText(), question);
     run.Answer(IDYES);
     EXPECT_TRUE(Focus(cmdClock));
+    EXPECT_EQ(TextOf(run.Clock()), L"TORVANIX");
     EXPECT_EQ(run.Text(lblMoveCount) + run.Text(lblMoveCount + 1), L"0.0.");
     EXPECT_EQ(run.Text(lblFace + 1), L"00:20:00");
     EXPECT_TRUE(run.Enabled(cmdClock) && run.Enabled(cmdClock + 1));
