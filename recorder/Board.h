@@ -1,0 +1,76 @@
+#pragma once
+
+#include "recorder/Piece.h"
+#include "recorder/Square.h"
+
+#include <array>
+#include <cstdint>
+
+// How a move is written and what it does beside moving a piece.
+enum class MoveKind : uint8_t { Ordinary = 1, Capture = 2, EnPassant = 3, CastlingQueenSide = 5, CastlingKingSide = 6 };
+
+struct Move {
+    Square origin;
+    Square destination;
+    MoveKind kind;
+    Piece moving;
+    Piece captured;     // Empty when none is
+    Square capturedOn;  // where the captured piece stood: not the destination when en passant
+    Square rookOrigin;  // castling only, NoSquare otherwise
+    Square rookDestination;
+};
+
+// The kinds that have a tray of captured pieces, and how many pictures each tray holds.
+inline constexpr std::array TrayKinds{PieceKind::Queen, PieceKind::Rook, PieceKind::Bishop, PieceKind::Knight,
+                                      PieceKind::Pawn};
+constexpr int TraySlots(PieceKind kind) {
+    switch (kind) {
+        case PieceKind::Queen: return 1;
+        case PieceKind::Rook:
+        case PieceKind::Bishop:
+        case PieceKind::Knight: return 2;
+        case PieceKind::Pawn: return 8;
+        default: return 0;
+    }
+}
+
+// The position that the players replay, with the captured pieces. It carries out captures, castling, en passant and
+// promotion and judges no move: it is a scoring pad and not a referee.
+class Board {
+  public:
+    Board() { Reset(); }
+
+    // The initial position of chess, no piece captured.
+    void Reset();
+
+    Piece At(Square square) const { return cells[square]; }
+
+    // What the move between two squares would be. The origin must hold a piece. It is told by the squares alone, with
+    // no memory of earlier moves.
+    Move Classify(Square origin, Square destination) const;
+
+    // Carries out a move that Classify gave for the present position.
+    void Carry(const Move& move);
+
+    // Puts a piece on a square, or empties it.
+    void Put(Square square, Piece piece) { cells[square] = piece; }
+
+    // Whether a pawn stands on its last rank there and waits for its promotion.
+    static constexpr bool ReachesLastRank(Piece piece, Square square) {
+        return KindOf(piece) == PieceKind::Pawn && RankOf(square) == (SideOf(piece) == White ? 8 : 1);
+    }
+
+    // Captured pieces are shown slot by slot, slots numbered from 0.
+    bool CapturedShown(Piece piece, int slot) const { return trays[static_cast<size_t>(piece)] >> slot & 1; }
+    // Shows the first hidden slot of the piece's tray; nothing when all are shown, or the piece has no tray.
+    void AddCaptured(Piece piece);
+    void HideCaptured(Piece piece, int slot);
+    void HideAllCaptured() { trays = {}; }
+
+  private:
+    bool EnPassant(Square origin, Square destination, Piece moving) const;
+    void Castling(Move& move) const;
+
+    std::array<Piece, SquareIndexes> cells;
+    std::array<uint8_t, 16> trays;  // a bit for each slot, by piece
+};

@@ -1,0 +1,35 @@
+#include "recorder/MoveList.h"
+
+std::optional<size_t> MoveList::LastWritten() const {
+    for (size_t index = entries.size(); index-- > 0;) {
+        if (entries[index].IsWritten()) return index;
+    }
+    return std::nullopt;
+}
+
+size_t MoveList::Write(std::string_view move) {
+    if (EndsWithResult()) entries.pop_back();
+    size_t index = entries.size();
+    while (index > 0 && entries[index - 1].IsWaiting()) --index;
+    if (index == entries.size()) AddWaiting();
+    entries[index].text = move;
+    return index;
+}
+
+size_t MoveList::AddWaiting() {
+    const size_t index = Moves();
+    entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(index),
+                   MoveEntry{static_cast<int32_t>(index) + 1, std::string(MissingMove)});
+    return index;
+}
+
+size_t MoveList::AddResult(std::string_view result) {
+    entries.push_back({0, std::string(result)});
+    return entries.size() - 1;
+}
+
+std::string MoveList::Line(size_t index, Side side) const {
+    const MoveEntry& entry = entries[index];
+    const bool numbered = entry.IsWaiting() || (entry.IsWritten() && side == White);
+    return numbered ? std::to_string(entry.number) + ". " + entry.text : entry.text;
+}

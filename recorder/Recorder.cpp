@@ -1,0 +1,161 @@
+#include "recorder/Recorder.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view WinOf(Side side) { return side == White ? "1-0" : "0-1"; }
+
+// A move of the movetext with the blank behind it. Black's carries a number only where White's move is missing.
+std::string MoveOfText(const MoveEntry& entry, Side side, bool numbered) {
+    std::string text;
+    if (numbered) text = std::to_string(entry.number) + (side == White ? ". " : "... ");
+    return text + entry.text + " ";
+}
+
+}  // namespace
+
+void Recorder::Reset() { *this = Recorder(); }
+
+ChosenLine Recorder::Play(Square origin, Square destination) {
+    const Move move = board.Classify(origin, destination);
+    const MoveText text = WriteMove(board, move);
+    board.Carry(move);
+
+    TakeResultAway();
+    const ChosenLine line{sideToMove, lists[sideToMove].Write(text.View())};
+    runningText += pendingText;
+    pendingText = MoveOfText(lists[line.side].Entries()[line.index], line.side, line.side == White);
+    promotion.reset();
+    if (Board::ReachesLastRank(move.moving, destination)) promotion = Promotion{destination, line};
+    sideToMove = Other(sideToMove);
+    return line;
+}
+
+void Recorder::Promote(PieceKind kind) {
+    if (!promotion) return;
+    board.Put(promotion->square, PieceOf(SideOf(board.At(promotion->square)), kind));
+    MoveList& list = lists[promotion->line.side];
+    const MoveEntry& entry = list.Entries()[promotion->line.index];
+    // An edit may have made something else of the entry.
+    if (!entry.IsWritten()) return;
+    std::string text = entry.text;
+    SetPromotion(text, kind);
+    list.SetText(promotion->line.index, text);
+    RebuildText();
+}
+
+void Recorder::Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts) {
+    const Side mover = Other(sideToMove);
+    const auto last = lists[mover].LastWritten();
+    switch (declaration) {
+        case Declaration::Check:
+            if (last) SetMark(*last, mover, "+");
+            return;
+        case Declaration::Mate:
+            if (!last) return;
+            SetMark(*last, mover, "#");
+            return AddResult(mover, WinOf(mover));
+        case Declaration::Resign: TopUpMoveLists(clockCounts); return AddResult(sideToMove, WinOf(mover));
+        case Declaration::Draw: TopUpMoveLists(clockCounts); return AddResult(sideToMove, "1/2-1/2");
+    }
+}
+
+void Recorder::SetMark(size_t index, Side side, std::string_view mark) {
+    std::string text = lists[side].Entries()[index].text;
+    if (text.ends_with('#')) return;
+    if (text.ends_with('+')) {
+        if (mark == "+") return;
+        // A check that turns out to be mate.
+        text.pop_back();
+    }
+    lists[side].SetText(index, text + std::string(mark));
+    RebuildText();
+}
+
+void Recorder::FlagFell(Side side) { AddResult(sideToMove, WinOf(Other(side))); }
+
+void Recorder::AddResult(Side list, std::string_view result) {
+    if (HasResult()) return;
+    lists[list].AddResult(result);
+    RebuildText();
+}
+
+void Recorder::TakeResultAway() {
+    for (MoveList& list : lists) {
+        if (list.EndsWithResult()) list.RemoveLast();
+    }
+    RemoveResultMark(runningText);
+}
+
+std::array<std::optional<size_t>, 2> Recorder::TopUpMoveLists(const std::array<int32_t, 2>& clockCounts) {
+    std::array<std::optional<size_t>, 2> added;
+    for (Side side : {Black, White}) {
+        size_t wanted = static_cast<size_t>(std::max(clockCounts[side], 0));
+        if (side == White) wanted = std::max(wanted, lists[Black].Moves());
+        while (lists[side].Moves() < wanted) added[side] = lists[side].AddWaiting();
+    }
+    return added;
+}
+
+std::optional<ChosenLine> Recorder::AddLineForPress(bool firstPress, Side running) {
+    if (HasResult()) return std::nullopt;
+    if (firstPress) {
+        if (!lists[White].Empty()) return std::nullopt;
+        return ChosenLine{White, lists[White].AddWaiting()};
+    }
+    if (!lists[Other(running)].EndsWithWritten() || lists[running].EndsWithWaiting()) return std::nullopt;
+    return ChosenLine{running, lists[running].AddWaiting()};
+}
+
+void Recorder::Edit(Side side, size_t index, std::string_view typed) {
+    MoveList& list = lists[side];
+    if (index >= list.Entries().size()) return;
+    const std::string text = NormaliseMove(typed);
+    const MoveEntry before = list.Entries()[index];
+    const bool last = index + 1 == list.Entries().size();
+    if (IsResult(text) && last && (before.IsResult() || !HasResult())) {
+        list.SetResult(index, text);
+    } else {
+        list.SetText(index, text);
+        if (before.IsWaiting() && text != MissingMove && side == sideToMove) sideToMove = Other(sideToMove);
+    }
+    RebuildText();
+}
+
+void Recorder::DeleteLast(Side side) {
+    MoveList& list = lists[side];
+    if (list.Empty()) return;
+    list.RemoveLast();
+    if (promotion && promotion->line.side == side && promotion->line.index >= list.Entries().size()) promotion.reset();
+    RebuildText();
+}
+
+void Recorder::PutBack(Piece piece, int slot, Square square) {
+    board.HideCaptured(piece, slot);
+    board.Put(square, piece);
+}
+
+void Recorder::RebuildText() {
+    runningText.clear();
+    pendingText.clear();
+    // Half-moves in the order of play. Waiting lines behind the last move are no part of the game yet.
+    size_t end = 0;
+    for (Side side : BothSides) {
+        if (const auto last = lists[side].LastWritten()) end = std::max(end, *last * 2 + static_cast<size_t>(side) + 1);
+    }
+    for (size_t half = 0; half < end; ++half) {
+        const Side side = half % 2 == 0 ? White : Black;
+        const size_t row = half / 2;
+        if (row >= lists[side].Moves()) continue;
+        const bool numbered = side == White || row >= lists[White].Moves();
+        runningText += pendingText;
+        pendingText = MoveOfText(lists[side].Entries()[row], side, numbered);
+    }
+    for (const MoveList& list : lists) {
+        if (!list.EndsWithResult()) continue;
+        runningText += pendingText + list.Entries().back().text;
+        pendingText.clear();
+        return;
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <array>
+
+// A square of the board as file * 10 + rank, both 1 to 8: a1 is 11, e2 is 52, h8 is 88.
+enum Square : int { NoSquare = 0 };
+
+// Squares by their index leave room for every index up to h8.
+inline constexpr int SquareIndexes = 89;
+
+constexpr Square SquareAt(int file, int rank) { return static_cast<Square>(file * 10 + rank); }
+constexpr int FileOf(Square square) { return square / 10; }
+constexpr int RankOf(Square square) { return square % 10; }
+constexpr bool OnBoard(int file, int rank) { return file >= 1 && file <= 8 && rank >= 1 && rank <= 8; }
+constexpr bool IsSquare(int index) { return OnBoard(index / 10, index % 10); }
+
+constexpr char FileLetter(Square square) { return static_cast<char>('a' + FileOf(square) - 1); }
+constexpr char RankDigit(Square square) { return static_cast<char>('0' + RankOf(square)); }
