@@ -49,6 +49,7 @@ void ClockCommands::Press(Side button) {
     blinkText = BlinkMark::ToMove;
     view.PhaseChanged();
     view.FocusClockButton(clock.TurnSide());
+    view.MoveBegun(phase == Phase::Idle, clock.TurnSide());
 }
 
 void ClockCommands::Start() {
@@ -77,6 +78,10 @@ void ClockCommands::PauseOrResume(Side button) {
     if (CurrentPhase() == Phase::Fallen || PauseButtonEnabled(button)) PauseOrResume();
 }
 
+void ClockCommands::PauseIfRunning() {
+    if (CurrentPhase() == Phase::Running) Pause();
+}
+
 void ClockCommands::PressKeyP() {
     if (clock.State().TimerHandle <= 1) return;
     if (!ClockButtonEnabled(White) && !ClockButtonEnabled(Black)) return;
@@ -90,13 +95,15 @@ void ClockCommands::AskedReset() {
 }
 
 void ClockCommands::AskedResetIfStarted() {
-    if (!clock.State().GameStarted || view.AskReset()) Reset();
+    const bool somethingToLose = clock.State().GameStarted || view.MovesWritten();
+    if (!somethingToLose || view.AskReset()) Reset();
 }
 
 void ClockCommands::Reset() {
     clock.AbandonGame();
     fallenSide.reset();
     blinkText = BlinkMark::ToMove;
+    view.ResetRecorder();
     Initialise();
     view.FocusClockButton(White);
 }
@@ -115,6 +122,7 @@ void ClockCommands::Unload() {
 
 void ClockCommands::FlagFell(Side side) {
     fallenSide = side;
+    view.RecordFlagFall(side);
     view.PhaseChanged();
     view.PlayFlagSound();
 }

@@ -39,6 +39,11 @@ class ClockView {
     virtual void PlayFlagSound() = 0;
     virtual void Inform(Notice notice) = 0;
     virtual bool AskReset() = 0;  // true: the players want the reset
+    // The recorder beside the clock, where it is open.
+    virtual bool MovesWritten() const = 0;
+    virtual void MoveBegun(bool firstPress, Side running) = 0;  // after a press
+    virtual void RecordFlagFall(Side side) = 0;
+    virtual void ResetRecorder() = 0;
     // The user's time control, read anew; the window shows what else the settings say.
     virtual modClock::TimeControl ReadTimeControl() = 0;
     // Time to say what went wrong in the reading: the clock stands initialised.
@@ -77,6 +82,8 @@ class ClockCommands : private modClock::ClockHost {
     void PauseOrResume();
     void PauseOrResume(Side button);  // that side's pause button
     void PressKeyP();
+
+    void PauseIfRunning();  // when the players have ended the game otherwise
 
     void AskedReset();           // asks first, as a click on a flag does
     void AskedResetIfStarted();  // asks first when there is a game to lose

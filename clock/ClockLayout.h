@@ -1,15 +1,11 @@
 #pragma once
 
+#include "base/Box.h"
 #include "base/Side.h"
 
 #include <array>
 
 // Where everything stands in the clock window, in pixels of its client area.
-struct Box {
-    int left = 0, top = 0, width = 0, height = 0;
-    int Right() const { return left + width; }
-    int Bottom() const { return top + height; }
-};
 
 // One player's panel. The turn marks are an arrow before the name and a bar above and below the face.
 struct PanelLayout {

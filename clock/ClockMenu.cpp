@@ -36,7 +36,7 @@ constexpr std::array ClockEntries{
 };
 
 constexpr std::array ScorletEntries{
-    Entry{mnuShowScorlet, TextId::MenuShow, NoKey, false},
+    Entry{mnuShowScorlet, TextId::MenuShow},
     Entry{mnuCloseScorlet, TextId::MenuClose, NoKey, false},
     Separator,
     Entry{mnuPrint, TextId::MenuPrint, NoKey, false},

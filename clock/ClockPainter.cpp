@@ -1,5 +1,7 @@
 #include "clock/ClockPainter.h"
 
+#include "platform/Painting.h"
+
 #include <algorithm>
 
 namespace {
@@ -25,54 +27,12 @@ COLORREF Darker(COLORREF colour) {
     return RGB(GetRValue(colour) * 5 / 8, GetGValue(colour) * 5 / 8, GetBValue(colour) * 5 / 8);
 }
 
-UniqueFont MakeFont(int height, bool bold) {
-    return UniqueFont(CreateFontW(-std::max(height, 1), 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
-                                  DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
-                                  DEFAULT_PITCH | FF_SWISS, L"Arial"));
-}
-
 int WidthOf(HDC dc, HFONT font, const std::wstring& text) {
     const Selection selection(dc, font);
     SIZE size{};
     GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
     return static_cast<int>(size.cx);
 }
-
-void Fill(HDC dc, const RECT& rectangle, COLORREF colour) {
-    const UniqueBrush brush(CreateSolidBrush(colour));
-    FillRect(dc, &rectangle, brush.get());
-}
-
-void Frame(HDC dc, const RECT& rectangle, COLORREF colour) {
-    const UniqueBrush brush(CreateSolidBrush(colour));
-    FrameRect(dc, &rectangle, brush.get());
-}
-
-// Draws a control off the screen, so that it changes without flicker.
-class Buffered {
-  public:
-    explicit Buffered(const DRAWITEMSTRUCT& item)
-        : target(item.hDC),
-          at(item.rcItem),
-          memory(CreateCompatibleDC(target)),
-          bitmap(CreateCompatibleBitmap(target, at.right - at.left, at.bottom - at.top)),
-          selection(memory.get(), bitmap.get()) {
-        SetBkMode(memory.get(), TRANSPARENT);
-    }
-    ~Buffered() { BitBlt(target, at.left, at.top, Area().right, Area().bottom, memory.get(), 0, 0, SRCCOPY); }
-    Buffered(const Buffered&) = delete;
-    Buffered& operator=(const Buffered&) = delete;
-
-    HDC Dc() const { return memory.get(); }
-    RECT Area() const { return {0, 0, at.right - at.left, at.bottom - at.top}; }
-
-  private:
-    HDC target;
-    RECT at;
-    UniqueDc memory;
-    UniqueBitmap bitmap;
-    Selection selection;
-};
 
 }  // namespace
 

@@ -20,8 +20,8 @@ constexpr UINT_PTR BlinkTimer = 1, HelpTimer = 2;
 constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
 
 // Messages of the window to itself: a button was pressed with this key (0: the mouse); the window is open and
-// can show what went wrong before.
-constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2;
+// can show what went wrong before; the Scorlet's window is gone.
+constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2, WM_FORGETSCORLET = WM_APP + 3;
 
 }  // namespace
 
@@ -37,6 +37,7 @@ frmClock::frmClock(const modEnvironment::Environment& environment, const Setting
       panels(*this, commands, settings, texts, environment.appearance.backgroundColour) {}
 
 frmClock::~frmClock() {
+    scorlet.reset();
     // The window's last messages need the members of this class.
     if (Window()) DestroyWindow(Window());
 }
@@ -58,6 +59,7 @@ void frmClock::Open() {
     ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
     ShowWindow(Window(), SW_SHOWDEFAULT);
     UpdateWindow(Window());
+    if (settings.OpenScorletAtStart) ShowScorlet();
     PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
 }
 
@@ -85,7 +87,81 @@ bool frmClock::TakeMessage(MSG& message) {
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
     if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    if (scorlet && scorlet->TakeMessage(message)) return true;
     return IsDialogMessageW(Window(), &message);
+}
+
+void frmClock::ShowScorlet() {
+    if (scorlet) {
+        if (IsIconic(scorlet->Window())) ShowWindow(scorlet->Window(), SW_RESTORE);
+        SetForegroundWindow(scorlet->Window());
+        return;
+    }
+    const RECT place = PlaceBeside();
+    ScorletHost& host = *this;
+    auto opened = std::make_unique<frmScorlet>(host, texts, messageBoxes);
+    opened->Open(place);
+    scorlet = std::move(opened);
+    UpdateMenu();
+}
+
+// Right of the clock. Where the screen is too small for both the clock makes room, down to its least size.
+RECT frmClock::PlaceBeside() {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromWindow(Window(), MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const RECT& screen = monitor.rcWork;
+    const SIZE size = frmScorlet::DesignSize(dpi);
+    RECT clock{};
+    GetWindowRect(Window(), &clock);
+    if (!IsZoomed(Window()) && !IsIconic(Window()) && clock.right + size.cx > screen.right) {
+        const LONG width = clock.right - clock.left, height = clock.bottom - clock.top;
+        const LONG left = std::max(screen.left, screen.right - size.cx - width);
+        const LONG room = std::max(screen.right - size.cx - left, LONG{Scaled(LeastWidth, dpi)});
+        const LONG narrowed = std::min(width, room);
+        SetWindowPos(Window(), nullptr, left, clock.top, narrowed, MulDiv(height, narrowed, width),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        GetWindowRect(Window(), &clock);
+    }
+    const LONG left = std::min(clock.right, std::max(screen.left, screen.right - size.cx));
+    const LONG width = std::min(size.cx, screen.right - left);
+    const LONG height = std::min(size.cy, screen.bottom - screen.top);
+    const LONG top = std::clamp(clock.top, screen.top, std::max(screen.top, screen.bottom - height));
+    return {left, top, left + width, top + height};
+}
+
+void frmClock::CloseScorlet() {
+    if (!scorlet) return;
+    if (!messageBoxes.Ask(scorlet->Window(), texts(TextId::CloseScorletQuestion), true, TextId::CloseScorletTitle))
+        return;
+    if (scorlet) DestroyWindow(scorlet->Window());
+}
+
+void frmClock::ScorletDestroyed() {
+    // The form is still in use up the stack; it is given up when this message is done.
+    PostMessageW(Window(), WM_FORGETSCORLET, 0, 0);
+}
+
+void frmClock::MoveBegun(bool firstPress, Side running) {
+    if (!scorlet) return;
+    if (const auto line = scorlet->Record().AddLineForPress(firstPress, running)) scorlet->ShowRecord(line);
+}
+
+void frmClock::RecordFlagFall(Side side) {
+    if (!scorlet) return;
+    scorlet->Record().FlagFell(side);
+    scorlet->ShowRecord();
+}
+
+void frmClock::ResetRecorder() {
+    if (scorlet) scorlet->ResetRecord();
+}
+
+void frmClock::PressEnabledClock() {
+    for (Side side : BothSides) {
+        if (commands.ClockButtonEnabled(side)) return commands.Press(side);
+    }
+    if (commands.CurrentPhase() == Phase::Fallen) commands.Press(White);
 }
 
 void frmClock::PlaceWindow() {
@@ -117,8 +193,15 @@ void frmClock::PhaseChanged() {
     SetThreadExecutionState(ES_CONTINUOUS |
                             (phase == Phase::Running ? ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED : EXECUTION_STATE{0}));
 
-    const std::wstring pause = texts(phase == Phase::Paused ? TextId::MenuResume : TextId::MenuPause);
-    ModifyMenuW(GetMenu(Window()), mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
+    UpdateMenu();
+}
+
+void frmClock::UpdateMenu() {
+    const HMENU menu = GetMenu(Window());
+    const bool paused = commands.CurrentPhase() == Phase::Paused;
+    const std::wstring pause = texts(paused ? TextId::MenuResume : TextId::MenuPause);
+    ModifyMenuW(menu, mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
+    EnableMenuItem(menu, mnuCloseScorlet, MF_BYCOMMAND | (scorlet ? MF_ENABLED : MF_GRAYED));
 }
 
 void frmClock::Tick() {
@@ -207,6 +290,10 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
         case WM_TELLPROBLEMS: TellReadingProblems(); return 0;
+        case WM_FORGETSCORLET:
+            if (scorlet && !scorlet->Window()) scorlet.reset();
+            UpdateMenu();
+            return 0;
         case WM_DESTROY:
             Unload();
             PostQuitMessage(0);
@@ -222,6 +309,8 @@ void frmClock::OnCommand(int id) {
         case mnuExit: DestroyWindow(Window()); return;
         case mnuReset: return commands.AskedResetIfStarted();
         case mnuPause: return commands.PauseOrResume();
+        case mnuShowScorlet: return ShowScorlet();
+        case mnuCloseScorlet: return CloseScorlet();
         case mnuContents: return help.Open(Window(), TextId::HelpContents);
         case cmdPause:
         case cmdPause + 1: return commands.PauseOrResume(PlaceOf(id).side);

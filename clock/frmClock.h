@@ -6,14 +6,16 @@
 #include "clock/TickTimer.h"
 #include "clock/modEnvironment.h"
 #include "platform/Form.h"
+#include "recorder/frmScorlet.h"
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
 // The main window: two clock panels side by side and the menus.
-class frmClock : public Form, private ClockView {
+class frmClock : public Form, private ClockView, private ScorletHost {
   public:
     // All of them must outlive the window.
     frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
@@ -41,10 +43,24 @@ class frmClock : public Form, private ClockView {
     void PlayFlagSound() override;
     void Inform(Notice notice) override;
     bool AskReset() override;
+    bool MovesWritten() const override { return scorlet && scorlet->Record().MovesWritten(); }
+    void MoveBegun(bool firstPress, Side running) override;
+    void RecordFlagFall(Side side) override;
+    void ResetRecorder() override;
     modClock::TimeControl ReadTimeControl() override;
     void TellReadingProblems() override;
 
+    // ScorletHost
+    std::array<int32_t, 2> MoveCounts() const override { return commands.Clock().State().MoveCount; }
+    void PressEnabledClock() override;
+    void PauseForResult() override { commands.PauseIfRunning(); }
+    void CloseScorlet() override;
+    void ScorletDestroyed() override;
+
     void LoadPictures();
+    void ShowScorlet();
+    void UpdateMenu();
+    RECT PlaceBeside();
     void PlaceWindow();
     void Tick();
     std::wstring NoticeText(Notice notice) const;
@@ -73,6 +89,7 @@ class frmClock : public Form, private ClockView {
     ClockPanels panels;
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
+    std::unique_ptr<frmScorlet> scorlet;
     int dpi = 96;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told
 };

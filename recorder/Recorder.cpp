@@ -29,6 +29,7 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     promotion.reset();
     if (Board::ReachesLastRank(move.moving, destination)) promotion = Promotion{destination, line};
     sideToMove = Other(sideToMove);
+    lastMove = move;
     return line;
 }
 

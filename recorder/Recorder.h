@@ -21,6 +21,9 @@ class Recorder {
     const Board& Position() const { return board; }
     const MoveList& List(Side side) const { return lists[side]; }
     Side SideToMove() const { return sideToMove; }
+    // The move last carried out, for showing it.
+    const std::optional<Move>& LastMove() const { return lastMove; }
+    bool MovesWritten() const { return !lists[White].Empty() || !lists[Black].Empty(); }
 
     // The game so far in movetext, and the last move, which promotions and marks still reach. A result mark stands at
     // the end of the running text, and then no move is pending.
@@ -81,4 +84,5 @@ class Recorder {
     std::string runningText;
     std::string pendingText;
     std::optional<Promotion> promotion;
+    std::optional<Move> lastMove;
 };

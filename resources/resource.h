@@ -37,6 +37,39 @@ enum ClockControl : int {
     mnuAbout,
 };
 
+// The Scorlet.
+enum ScorletControl : int {
+    picBoard = 2000,  // the cells follow, each at this number + its square: 2011 for a1 to 2088 for h8
+    lblCaptured = 2100,
+    imgCapturedWQ = 2101,  // the slots of each tray follow one another, those of Black's pieces behind White's
+    imgCapturedWR = 2102,
+    imgCapturedWB = 2104,
+    imgCapturedWN = 2106,
+    imgCapturedWP = 2108,
+    imgCapturedBQ = 2116,
+    imgCapturedBR = 2117,
+    imgCapturedBB = 2119,
+    imgCapturedBN = 2121,
+    imgCapturedBP = 2123,
+    lblPromotion = 2140,
+    imgPromotionQ,
+    imgPromotionR,
+    imgPromotionB,
+    imgPromotionN,
+    lblSay = 2150,
+    cmbSay,
+    lstMoves = 2152,  // White's list, then Black's
+    txtMove = 2154,
+    cmdOK,
+
+    mnuEditMove = 2160,
+    mnuPrintMoveList,
+    mnuDeleteLastMove,
+};
+
+// Captured pieces of a side.
+inline constexpr int CapturedSlots = imgCapturedBQ - imgCapturedWQ;
+
 inline constexpr int TurnMarksPerSide = 3;
 
 constexpr int ControlOf(int pair, Side side) { return pair + side; }

@@ -35,6 +35,11 @@ struct RecordingView : ClockView {
         return control;
     }
     void TellReadingProblems() override { done.push_back("tell"); }
+    bool movesWritten = false;
+    bool MovesWritten() const override { return movesWritten; }
+    void MoveBegun(bool, Side) override {}
+    void RecordFlagFall(Side) override {}
+    void ResetRecorder() override {}
 };
 
 std::string NoticeOf(Notice notice) { return "notice " + std::to_string(static_cast<int>(notice)); }

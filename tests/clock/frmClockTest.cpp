@@ -21,6 +21,7 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
 
     void SetUp() override {
         settings.LanguageIndex = GetParam();
+        settings.OpenScorletAtStart = false;
         environment.appearance = AppearanceOf("NONE");
         form = std::make_unique<frmClock>(environment, settingsFile, settings, texts, messageBoxes);
         form->Open();
@@ -119,9 +120,9 @@ TEST_P(frmClockTest, MenusHoldTheirEntriesAndKeys) {
             entries.push_back(EntryOf(popup, static_cast<UINT>(entry)));
         EXPECT_EQ(entries, menus[i].entries);
     }
-    for (int entry : {mnuLoad, mnuSave, mnuDelete, mnuSetup, mnuShowScorlet, mnuCloseScorlet, mnuPrint, mnuAbout})
+    for (int entry : {mnuLoad, mnuSave, mnuDelete, mnuSetup, mnuCloseScorlet, mnuPrint, mnuAbout})
         EXPECT_TRUE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
-    for (int entry : {mnuStart, mnuExit, mnuReset, mnuPause, mnuContents})
+    for (int entry : {mnuStart, mnuExit, mnuReset, mnuPause, mnuShowScorlet, mnuContents})
         EXPECT_FALSE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
 
     SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);

@@ -120,6 +120,7 @@ Settings QuietSettings() {
     Settings settings;
     settings.SetButtonSound(0);
     settings.SetFlagSound(0);
+    settings.OpenScorletAtStart = false;
     return settings;
 }
 

@@ -41,7 +41,7 @@ void WriteFileText(const std::wstring& path, const std::string& bytes);
 std::string ReadFileText(const std::wstring& path);  // empty where there is no such file
 bool Exists(const std::wstring& path);
 
-// The DEFAULT preset without sounds.
+// The DEFAULT preset without sounds and without the Scorlet.
 Settings QuietSettings();
 
 // One run of torvanix.exe in a test folder.

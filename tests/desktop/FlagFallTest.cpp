@@ -33,6 +33,7 @@ TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     settings.PeriodLimit.fill(60);
     settings.SetButtonSound(0);
     settings.SetFlagSound(2);
+    settings.OpenScorletAtStart = false;
     ProgramRun run(folder, settings);
     ASSERT_FALSE(CaptureFile().empty()) << "TORVANIX_SOUND_CAPTURE names no file";
     DeleteFileW(CaptureFile().c_str());

@@ -44,7 +44,7 @@ TEST(StartUpTest, TextsOfEachLanguage) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.language);
         const TestFolder folder;
-        Settings settings;
+        Settings settings = QuietSettings();
         settings.LanguageIndex = row.language;
         ProgramRun run(folder, settings);
         EXPECT_EQ(TextOf(run.Clock()), L"TORVANIX");
@@ -62,7 +62,7 @@ TEST(StartUpTest, TextsOfEachLanguage) {
 
 TEST(StartUpTest, SettingsShowInTheWindow) {
     const TestFolder folder;
-    Settings settings;
+    Settings settings = QuietSettings();
     settings.PlayerNames = {
         "Ren\xE9"
         "e",

@@ -1,0 +1,44 @@
+#include "recorder/BoardInput.h"
+
+#include <algorithm>
+
+std::optional<ChosenLine> BoardInput::Click(Square square) {
+    cursor = square;
+    const Piece clicked = recorder.Position().At(square);
+    if (captured) {
+        if (clicked == Piece::Empty) recorder.PutBack(captured->piece, captured->slot, square);
+        captured.reset();
+        if (clicked == Piece::Empty) return std::nullopt;
+    }
+    if (!origin) {
+        if (clicked != Piece::Empty) origin = square;
+        return std::nullopt;
+    }
+    if (*origin == square) {
+        origin.reset();
+        return std::nullopt;
+    }
+    // No piece takes its own colour: the other piece is meant.
+    if (clicked != Piece::Empty && SideOf(clicked) == SideOf(recorder.Position().At(*origin))) {
+        origin = square;
+        return std::nullopt;
+    }
+    const ChosenLine line = recorder.Play(*origin, square);
+    origin.reset();
+    return line;
+}
+
+void BoardInput::ClickCaptured(Piece piece, int slot) {
+    const bool again = IsPicked(piece, slot);
+    Cancel();
+    if (!again && recorder.Position().CapturedShown(piece, slot)) captured = Captured{piece, slot};
+}
+
+void BoardInput::Cancel() {
+    origin.reset();
+    captured.reset();
+}
+
+void BoardInput::MoveCursor(int files, int ranks) {
+    cursor = SquareAt(std::clamp(FileOf(cursor) + files, 1, 8), std::clamp(RankOf(cursor) + ranks, 1, 8));
+}

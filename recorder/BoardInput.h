@@ -1,0 +1,47 @@
+#pragma once
+
+#include "recorder/Recorder.h"
+
+#include <optional>
+
+// How the players enter moves: a piece is picked on one square and dropped on another, by clicks or by a cursor that
+// keys move. A captured piece can be picked too, and put back on an empty square.
+class BoardInput {
+  public:
+    // The recorder must outlive the input.
+    explicit BoardInput(Recorder& recorder) : recorder(recorder) {}
+
+    std::optional<Square> Origin() const { return origin; }
+    Square Cursor() const { return cursor; }
+    bool PiecePicked() const { return origin || captured; }
+    bool IsPicked(Piece piece, int slot) const {
+        return captured && captured->piece == piece && captured->slot == slot;
+    }
+
+    // A click on a square, or Enter on the cursor's. Gives the written line when that has made a move.
+    std::optional<ChosenLine> Click(Square square);
+    std::optional<ChosenLine> Enter() { return Click(cursor); }
+    // A click on a captured piece that is shown.
+    void ClickCaptured(Piece piece, int slot);
+    // Drops the picked piece where it was.
+    void Cancel();
+    // Nothing picked, the cursor where it is at first.
+    void Reset() {
+        Cancel();
+        cursor = Start;
+    }
+    // Moves the cursor, at most to the edge.
+    void MoveCursor(int files, int ranks);
+
+  private:
+    struct Captured {
+        Piece piece;
+        int slot;
+    };
+
+    Recorder& recorder;
+    std::optional<Square> origin;
+    std::optional<Captured> captured;
+    static constexpr Square Start = SquareAt(5, 2);
+    Square cursor = Start;
+};

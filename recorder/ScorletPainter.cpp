@@ -1,0 +1,95 @@
+#include "recorder/ScorletPainter.h"
+
+#include "platform/Painting.h"
+#include "settings/modResource.h"
+
+#include <string>
+
+namespace {
+
+constexpr COLORREF LightSquare = RGB(0xF0, 0xD9, 0xB5), DarkSquare = RGB(0xB5, 0x88, 0x63);
+constexpr COLORREF LightLast = RGB(0xF4, 0xE4, 0x7A), DarkLast = RGB(0xD2, 0xB0, 0x48);
+constexpr COLORREF PickedColour = RGB(0x1D, 0x5F, 0xD0);
+constexpr COLORREF EdgeColour = RGB(0x5A, 0x40, 0x2E), EdgeInk = RGB(0xF0, 0xE4, 0xD2);
+
+constexpr std::array PromotionNames{"TQ", "TR", "TB", "TN"};
+
+// A frame of some thickness at the inside of a square.
+void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
+    for (int i = 0; i < thickness; ++i) {
+        Frame(dc, area, colour);
+        InflateRect(&area, -1, -1);
+    }
+}
+
+}  // namespace
+
+void ScorletPainter::LoadPictures() {
+    for (const Side side : BothSides) {
+        for (int kind = 1; kind <= 6; ++kind) {
+            const Piece piece = PieceOf(side, static_cast<PieceKind>(kind));
+            const auto source = modResource::LoadResourcePicture(std::string(PieceCode(piece)));
+            pieces[static_cast<size_t>(piece)] = Picture(*source);
+            smallPieces[static_cast<size_t>(piece)] = Picture(*source);
+        }
+    }
+    for (size_t i = 0; i < promotions.size(); ++i)
+        promotions[i] = Picture(*modResource::LoadResourcePicture(PromotionNames[i]));
+}
+
+void ScorletPainter::SetLayout(const ScorletLayout& layout, int dpi) {
+    font = MakeFont(MulDiv(13, dpi, 96), false);
+    coordinateFont = MakeFont(layout.coordinateType, true);
+}
+
+void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const {
+    const Buffered buffer(item);
+    Fill(buffer.Dc(), buffer.Area(), EdgeColour);
+    const Selection selection(buffer.Dc(), coordinateFont.get());
+    SetTextColor(buffer.Dc(), EdgeInk);
+    const auto write = [&](wchar_t character, RECT area) {
+        DrawTextW(buffer.Dc(), &character, 1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    };
+    for (int i = 1; i <= 8; ++i) {
+        const Box cell = layout.Cell(i, i);
+        const int left = cell.left - layout.board.left, top = cell.top - layout.board.top;
+        write(static_cast<wchar_t>(L'0' + i), {0, top, layout.edge, top + layout.cell});
+        write(static_cast<wchar_t>(L'a' + i - 1), {left, 8 * layout.cell, left + layout.cell, layout.board.height});
+    }
+}
+
+void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, Piece piece, const CellMarks& marks) const {
+    const Buffered buffer(item);
+    RECT area = buffer.Area();
+    const bool light = (FileOf(square) + RankOf(square)) % 2 != 0;
+    if (marks.lastMove)
+        Fill(buffer.Dc(), area, light ? LightLast : DarkLast);
+    else
+        Fill(buffer.Dc(), area, light ? LightSquare : DarkSquare);
+
+    const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
+    if (marks.lastMove) ThickFrame(buffer.Dc(), area, EdgeColour, std::max(thickness / 2, 1));
+    if (marks.origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
+    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, size);
+    if (marks.cursor) {
+        InflateRect(&area, -thickness, -thickness);
+        SetTextColor(buffer.Dc(), RGB(0, 0, 0));
+        DrawFocusRect(buffer.Dc(), &area);
+    }
+}
+
+void ScorletPainter::DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const {
+    const Buffered buffer(item);
+    const RECT area = buffer.Area();
+    FillRect(buffer.Dc(), &area, BackgroundBrush());
+    smallPieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    if (picked) ThickFrame(buffer.Dc(), area, PickedColour, 2);
+}
+
+void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const {
+    const Buffered buffer(item);
+    RECT area = buffer.Area();
+    FillRect(buffer.Dc(), &area, BackgroundBrush());
+    promotions[choice].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    if (item.itemState & ODS_FOCUS) DrawFocusRect(buffer.Dc(), &area);
+}

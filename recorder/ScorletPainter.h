@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/Handles.h"
+#include "platform/Picture.h"
+#include "recorder/Piece.h"
+#include "recorder/ScorletLayout.h"
+#include "recorder/Square.h"
+
+#include <windows.h>
+
+#include <array>
+
+// How a square is shown beside its piece.
+struct CellMarks {
+    bool origin;    // picked
+    bool lastMove;  // where the last move began or ended
+    bool cursor;    // of the keys
+};
+
+// How the Scorlet looks: its colours, type and pictures.
+class ScorletPainter {
+  public:
+    // Throws SystemError that names the picture.
+    void LoadPictures();
+    void SetLayout(const ScorletLayout& layout, int dpi);
+
+    HFONT Font() const { return font.get(); }
+    HBRUSH BackgroundBrush() const { return backgroundBrush.get(); }
+
+    void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
+    void DrawCell(const DRAWITEMSTRUCT& item, Square square, Piece piece, const CellMarks& marks) const;
+    void DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const;
+    void DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const;
+
+  private:
+    // The system's own colour of windows' faces: the lists and fields are the system's too.
+    UniqueBrush backgroundBrush{CreateSolidBrush(GetSysColor(COLOR_BTNFACE))};
+    UniqueFont font, coordinateFont;
+    std::array<Picture, 16> pieces;       // by piece
+    std::array<Picture, 16> smallPieces;  // the same at the size of captured ones
+    std::array<Picture, 4> promotions;
+};

@@ -1,0 +1,486 @@
+#include "recorder/frmScorlet.h"
+
+#include "platform/Ansi.h"
+#include "platform/Dpi.h"
+#include "platform/SystemError.h"
+#include "resources/resource.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <array>
+
+namespace {
+
+constexpr wchar_t ClassName[] = L"frmScorlet";
+constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+
+// Messages of the window to itself, sent by its controls: a key for the board; a refused key is silent.
+constexpr UINT WM_BOARDKEY = WM_APP + 1, WM_ENDEDIT = WM_APP + 2;
+
+constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind::Bishop, PieceKind::Knight};
+constexpr std::array PromotionTexts{TextId::PromotionQueen, TextId::PromotionRook, TextId::PromotionBishop,
+                                    TextId::PromotionKnight};
+
+// A slot of the captured pieces by its number among those of both sides.
+struct Slot {
+    Piece piece;
+    int slot;
+};
+
+Slot SlotOf(int number) {
+    const Side side = number < CapturedSlots ? White : Black;
+    int rest = number % CapturedSlots;
+    for (const PieceKind kind : TrayKinds) {
+        if (rest < TraySlots(kind)) return {PieceOf(side, kind), rest};
+        rest -= TraySlots(kind);
+    }
+    return {Piece::Empty, 0};
+}
+
+constexpr int CellOf(Square square) { return picBoard + static_cast<int>(square); }
+bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIndexes && IsSquare(id - picBoard); }
+bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
+bool IsPromotion(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
+
+template <typename Action>
+void ForEachSquare(Action action) {
+    for (int rank = 8; rank >= 1; --rank) {
+        for (int file = 1; file <= 8; ++file) action(SquareAt(file, rank));
+    }
+}
+
+}  // namespace
+
+frmScorlet::~frmScorlet() {
+    if (Window()) DestroyWindow(Window());
+}
+
+SIZE frmScorlet::DesignSize(int dpi) {
+    RECT area{0, 0, Scaled(ScorletWidth, dpi), Scaled(ScorletHeight, dpi)};
+    AdjustWindowRectEx(&area, Style, FALSE, 0);
+    return {area.right - area.left, area.bottom - area.top};
+}
+
+void frmScorlet::Open(const RECT& place) {
+    const HINSTANCE program = GetModuleHandleW(nullptr);
+    handPointBlue.reset(static_cast<HCURSOR>(
+        LoadImageW(program, L"HANDPOINTBLUE.CUR", IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR)));
+    Create(ClassName, texts(TextId::ScorletTitle), Style, LoadIconW(program, L"WPICON.ICO"));
+    dpi = DpiOf(Window());
+    CreateControls();
+    std::wstring problem;
+    try {
+        painter.LoadPictures();
+    } catch (const SystemError& error) {
+        // Without a picture moves can still be entered.
+        problem = texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code()));
+    }
+    ApplyTexts();
+    SetWindowPos(Window(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    ShowRecord();
+    ShowWindow(Window(), SW_SHOWNOACTIVATE);
+    UpdateWindow(Window());
+    if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+}
+
+void frmScorlet::CreateControls() {
+    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
+    // The order is the reading and the tab order. The cells lie above the board, so they come before it.
+    ForEachSquare([&](Square square) { AddControl(WC_STATICW, CellOf(square), drawn); });
+    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP);
+    AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
+    for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
+    AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
+    AddControl(WC_COMBOBOXW, cmbSay, WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST);
+    for (Side side : BothSides) {
+        AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
+                   WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
+    }
+    AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
+    AddControl(WC_BUTTONW, cmdOK, WS_TABSTOP | BS_PUSHBUTTON);
+    AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
+    for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
+    for (int id : {static_cast<int>(picBoard), static_cast<int>(cmbSay), static_cast<int>(txtMove)})
+        SetWindowSubclass(Control(id), ChildProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
+}
+
+void frmScorlet::ApplyTexts() {
+    SetText(lblCaptured, texts(TextId::CapturedPieces));
+    SetText(lblPromotion, texts(TextId::PromoteTo));
+    SetText(lblSay, texts(TextId::Say));
+    SetText(cmdOK, texts(TextId::ButtonOk));
+    for (int i = 0; i < 4; ++i) {
+        SetText(imgPromotionQ + i, texts(PromotionTexts[static_cast<size_t>(i)]));
+        SendMessageW(Control(cmbSay), CB_ADDSTRING, 0,
+                     reinterpret_cast<LPARAM>(texts(RowBehind(TextId::SayCheck, i)).c_str()));
+    }
+}
+
+void frmScorlet::Arrange() {
+    RECT client{};
+    GetClientRect(Window(), &client);
+    if (client.right == 0 || client.bottom == 0) return;
+    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), dpi);
+    painter.SetLayout(layout, dpi);
+    const auto place = [&](int id, const Box& box) {
+        SetWindowPos(Control(id), nullptr, box.left, box.top, box.width, box.height, SWP_NOZORDER | SWP_NOACTIVATE);
+        SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
+    };
+    ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
+    place(picBoard, layout.board);
+    place(lblCaptured, layout.capturedTitle);
+    for (int i = 0; i < 2 * CapturedSlots; ++i) {
+        const Box& row = layout.capturedRows[i < CapturedSlots ? White : Black];
+        place(imgCapturedWQ + i, {row.left + i % CapturedSlots * layout.slot, row.top, layout.slot, layout.slot});
+    }
+    place(lblSay, layout.sayLabel);
+    // The height of a drop-down list counts its open part.
+    place(cmbSay, {layout.say.left, layout.say.top, layout.say.width, 8 * layout.say.height});
+    for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.lists[side]);
+    place(txtMove, layout.edit);
+    place(cmdOK, layout.editOk);
+    place(lblPromotion, layout.promotionTitle);
+    for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.promotion[static_cast<size_t>(i)]);
+    InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
+    ShowBoard();
+    for (Side side : BothSides) ShowList(side);
+    if (chosen) ChooseLine(*chosen);
+    SetVisible(lblPromotion, recorder.AwaitsPromotion());
+    for (int id = imgPromotionQ; id <= imgPromotionN; ++id) SetVisible(id, recorder.AwaitsPromotion());
+}
+
+void frmScorlet::ResetRecord() {
+    EndEdit(false);
+    input.Reset();
+    recorder.Reset();
+    ShowRecord();
+}
+
+void frmScorlet::ShowBoard() {
+    ForEachSquare([&](Square square) {
+        SetText(CellOf(square), FromAnsi(PieceCode(recorder.Position().At(square))));
+        InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
+    });
+    for (int i = 0; i < 2 * CapturedSlots; ++i) {
+        const auto [piece, slot] = SlotOf(i);
+        SetVisible(imgCapturedWQ + i, recorder.Position().CapturedShown(piece, slot));
+        InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
+    }
+}
+
+void frmScorlet::ShowList(Side side) {
+    const HWND list = Control(ControlOf(lstMoves, side));
+    const auto count = static_cast<LRESULT>(recorder.List(side).Entries().size());
+    const LRESULT chosen = SendMessageW(list, LB_GETCURSEL, 0, 0);
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        const std::wstring line = FromAnsi(recorder.List(side).Line(static_cast<size_t>(i), side));
+        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
+    }
+    if (count > 0 && chosen >= 0) SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(std::min(chosen, count - 1)), 0);
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
+}
+
+void frmScorlet::ChooseLine(const ChosenLine& line) {
+    SendMessageW(Control(ControlOf(lstMoves, line.side)), LB_SETCURSEL, line.index, 0);
+}
+
+bool frmScorlet::TakeMessage(MSG& message) {
+    if (message.hwnd != Window() && !IsChild(Window(), message.hwnd)) return false;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_SPACE) {
+        wchar_t kind[16]{};
+        GetClassNameW(message.hwnd, kind, 16);
+        const bool takesSpace = lstrcmpiW(kind, WC_EDITW) == 0 || lstrcmpiW(kind, WC_BUTTONW) == 0;
+        if (!takesSpace) {
+            if (!(HIWORD(message.lParam) & KF_REPEAT)) SendMessageW(Window(), WM_BOARDKEY, VK_SPACE, 0);
+            return true;
+        }
+    }
+    return IsDialogMessageW(Window(), &message);
+}
+
+LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
+        case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
+        case WM_BOARDKEY: return OnBoardKey(wParam);
+        case WM_ENDEDIT: EndEdit(wParam != 0); return 0;
+        case WM_CONTEXTMENU:
+            OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            return 0;
+        case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
+        case WM_CTLCOLORSTATIC:
+            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+            return reinterpret_cast<LRESULT>(painter.BackgroundBrush());
+        case WM_ERASEBKGND: {
+            RECT client{};
+            GetClientRect(Window(), &client);
+            FillRect(reinterpret_cast<HDC>(wParam), &client, painter.BackgroundBrush());
+            return TRUE;
+        }
+        case WM_SIZE: Arrange(); return 0;
+        case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
+        case WM_DPICHANGED: {
+            dpi = HIWORD(wParam);
+            const RECT& wanted = *reinterpret_cast<const RECT*>(lParam);
+            SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
+                         wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
+            return 0;
+        }
+        case WM_SETCURSOR:
+            if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;
+            break;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) SetFocus(Control(Editing() ? txtMove : picBoard));
+            return 0;
+        case WM_CLOSE: host.CloseScorlet(); return 0;
+        case WM_DESTROY: host.ScorletDestroyed(); return 0;
+        default: break;
+    }
+    return Form::Handle(message, wParam, lParam);
+}
+
+void frmScorlet::OnCommand(int id, int notification) {
+    if (IsPromotion(id)) {
+        recorder.Promote(PromotionKinds[static_cast<size_t>(id - imgPromotionQ)]);
+        ShowRecord();
+        SetFocus(Control(picBoard));
+        return;
+    }
+    switch (id) {
+        case cmbSay:
+            if (notification == CBN_SELENDOK) OnDeclare();
+            return;
+        case txtMove:
+            if (notification == EN_CHANGE) OnTyped();
+            return;
+        case cmdOK: return EndEdit(true);
+        case mnuEditMove: return BeginEdit(menuList);
+        case mnuDeleteLastMove:
+            recorder.DeleteLast(menuList);
+            ShowRecord();
+            if (const size_t count = recorder.List(menuList).Entries().size(); count > 0)
+                ChooseLine({menuList, count - 1});
+            return;
+        default: return;
+    }
+}
+
+void frmScorlet::OnMouseDown(POINT point) {
+    const int id = ChildAt(point);
+    if (IsCell(id)) {
+        OnSquare(static_cast<Square>(id - picBoard));
+    } else if (IsCaptured(id)) {
+        const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
+        input.ClickCaptured(piece, slot);
+        ShowBoard();
+    } else {
+        return;
+    }
+    SetFocus(Control(picBoard));
+}
+
+void frmScorlet::OnSquare(Square square) {
+    const auto line = input.Click(square);
+    if (line)
+        ShowRecord(line);
+    else
+        ShowBoard();
+}
+
+bool frmScorlet::OnBoardKey(WPARAM key) {
+    switch (key) {
+        case VK_LEFT: input.MoveCursor(-1, 0); break;
+        case VK_RIGHT: input.MoveCursor(1, 0); break;
+        case VK_UP: input.MoveCursor(0, 1); break;
+        case VK_DOWN: input.MoveCursor(0, -1); break;
+        case VK_ESCAPE: input.Cancel(); break;
+        case VK_RETURN: OnSquare(input.Cursor()); return true;
+        case VK_SPACE:
+            if (!input.PiecePicked())
+                host.PressEnabledClock();
+            else
+                OnSquare(input.Cursor());
+            return true;
+        default: return false;
+    }
+    ShowBoard();
+    return true;
+}
+
+void frmScorlet::OnContextMenu(HWND control, POINT point) {
+    const int id = GetDlgCtrlID(control);
+    if ((id != lstMoves && id != lstMoves + 1) || Editing()) return;
+    menuList = id == lstMoves ? White : Black;
+    if (point.x == -1 && point.y == -1) {
+        // By the keyboard: at the list's corner.
+        RECT area{};
+        GetWindowRect(control, &area);
+        point = {area.left, area.top};
+    } else {
+        POINT inside = point;
+        ScreenToClient(control, &inside);
+        const LRESULT row = SendMessageW(control, LB_ITEMFROMPOINT, 0, MAKELPARAM(inside.x, inside.y));
+        if (HIWORD(row) == 0 && SendMessageW(control, LB_GETCOUNT, 0, 0) > LOWORD(row))
+            SendMessageW(control, LB_SETCURSEL, LOWORD(row), 0);
+    }
+    const UINT state = SendMessageW(control, LB_GETCURSEL, 0, 0) >= 0 ? MF_ENABLED : MF_GRAYED;
+    const HMENU menu = CreatePopupMenu();
+    AppendMenuW(menu, MF_STRING | state, mnuEditMove, texts(TextId::EditMove).c_str());
+    AppendMenuW(menu, MF_STRING | MF_GRAYED, mnuPrintMoveList, texts(TextId::PrintMoveList).c_str());
+    AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, texts(TextId::DeleteLastMove).c_str());
+    TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
+    DestroyMenu(menu);
+}
+
+void frmScorlet::OnDeclare() {
+    const HWND say = Control(cmbSay);
+    const LRESULT chosen = SendMessageW(say, CB_GETCURSEL, 0, 0);
+    if (chosen < 0) return;
+    const bool over = recorder.HasResult();
+    recorder.Declare(static_cast<Declaration>(chosen), host.MoveCounts());
+    SendMessageW(say, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    ShowRecord();
+    if (!over && recorder.HasResult()) host.PauseForResult();
+}
+
+void frmScorlet::BeginEdit(Side side) {
+    const LRESULT chosen = SendMessageW(Control(ControlOf(lstMoves, side)), LB_GETCURSEL, 0, 0);
+    if (chosen < 0) return;
+    edited = ChosenLine{side, static_cast<size_t>(chosen)};
+    SetWindowTextW(Control(txtMove), FromAnsi(recorder.List(side).Entries()[edited->index].text).c_str());
+    SetVisible(txtMove, true);
+    SetVisible(cmdOK, true);
+    SetFocus(Control(txtMove));
+    SendMessageW(Control(txtMove), EM_SETSEL, 0, -1);
+}
+
+void frmScorlet::EndEdit(bool accept) {
+    if (!edited) return;
+    const ChosenLine line = *edited;
+    edited.reset();
+    if (accept) {
+        wchar_t text[256];
+        GetWindowTextW(Control(txtMove), text, 256);
+        recorder.Edit(line.side, line.index, ToAnsi(text));
+    }
+    SetVisible(txtMove, false);
+    SetVisible(cmdOK, false);
+    ShowRecord(line);
+    SetFocus(Control(picBoard));
+}
+
+void frmScorlet::OnTyped() {
+    if (settingText) return;
+    wchar_t text[256];
+    GetWindowTextW(Control(txtMove), text, 256);
+    const std::wstring changed = typed.Changed(text);
+    if (changed == text) return;
+    settingText = true;
+    SetWindowTextW(Control(txtMove), changed.c_str());
+    SendMessageW(Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
+    settingText = false;
+}
+
+void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
+    const int id = static_cast<int>(item.CtlID);
+    if (id == picBoard) return painter.DrawBoardEdge(item, layout);
+    if (IsPromotion(id)) return painter.DrawPromotion(item, static_cast<size_t>(id - imgPromotionQ));
+    if (IsCaptured(id)) {
+        const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
+        return painter.DrawCaptured(item, piece, input.IsPicked(piece, slot));
+    }
+    if (!IsCell(id)) return;
+    const auto square = static_cast<Square>(id - picBoard);
+    const auto& last = recorder.LastMove();
+    const CellMarks marks{
+        .origin = input.Origin() == square,
+        .lastMove = last && (last->origin == square || last->destination == square),
+        .cursor = input.Cursor() == square && GetFocus() == Control(picBoard),
+    };
+    painter.DrawCell(item, square, recorder.Position().At(square), marks);
+}
+
+int frmScorlet::ChildAt(POINT point) const {
+    const HWND child = ChildWindowFromPointEx(Window(), point, CWP_SKIPINVISIBLE);
+    return child && child != Window() ? GetDlgCtrlID(child) : 0;
+}
+
+bool frmScorlet::OnSetCursor() const {
+    POINT point{};
+    GetCursorPos(&point);
+    ScreenToClient(Window(), &point);
+    const int id = ChildAt(point);
+    const bool piece = IsCell(id) && recorder.Position().At(static_cast<Square>(id - picBoard)) != Piece::Empty;
+    if (!piece && !IsCaptured(id)) return false;
+    ::SetCursor(handPointBlue.get());
+    return true;
+}
+
+void frmScorlet::OnGetMinMaxInfo(MINMAXINFO& info) const {
+    RECT area{0, 0, Scaled(ScorletLeastWidth, dpi), Scaled(ScorletLeastHeight, dpi)};
+    AdjustWindowRectEx(&area, Style, FALSE, 0);
+    info.ptMinTrackSize = {area.right - area.left, area.bottom - area.top};
+}
+
+LRESULT CALLBACK frmScorlet::ChildProcedure(HWND child, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                            DWORD_PTR self) {
+    auto* form = reinterpret_cast<frmScorlet*>(self);
+    const auto pass = [&] {
+        return DefSubclassProc(child, message, wParam, lParam);
+    };
+    if (id == picBoard) {
+        switch (message) {
+            case WM_GETDLGCODE: {
+                const auto* key = reinterpret_cast<const MSG*>(lParam);
+                const bool own = key && key->message == WM_KEYDOWN &&
+                                 (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE || key->wParam == VK_SPACE);
+                return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
+            }
+            case WM_KEYDOWN:
+                if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
+                break;
+            case WM_SETFOCUS:
+            case WM_KILLFOCUS: {
+                // The cursor is shown only while its keys work.
+                const LRESULT result = pass();
+                InvalidateRect(form->Control(CellOf(form->input.Cursor())), nullptr, FALSE);
+                return result;
+            }
+            default: break;
+        }
+    } else if (id == cmbSay) {
+        // With the list closed, a key must not declare what it passes over: it opens the list.
+        const bool open = SendMessageW(child, CB_GETDROPPEDSTATE, 0, 0) != 0;
+        if (message == WM_CHAR && !open) return 0;
+        if (message == WM_KEYDOWN && !open && wParam != VK_TAB && wParam != VK_F4) {
+            if (wParam == VK_DOWN || wParam == VK_UP) SendMessageW(child, CB_SHOWDROPDOWN, TRUE, 0);
+            return 0;
+        }
+        if (message == WM_MOUSEWHEEL && !open) return 0;
+    } else if (id == txtMove) {
+        if (message == WM_GETDLGCODE) {
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const bool own =
+                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
+            return pass() | (own ? DLGC_WANTMESSAGE : 0);
+        }
+        if (message == WM_KEYDOWN && (wParam == VK_RETURN || wParam == VK_ESCAPE))
+            return SendMessageW(form->Window(), WM_ENDEDIT, wParam == VK_RETURN, 0);
+        if (message == WM_CHAR) {
+            // Codes below the blank are commands such as copying and pasting.
+            wchar_t text[256];
+            GetWindowTextW(child, text, 256);
+            if (wParam >= L' ' && !form->typed.TakesKey(static_cast<wchar_t>(wParam), text)) return 0;
+            if (wParam == VK_RETURN || wParam == VK_ESCAPE) return 0;
+        }
+    }
+    return pass();
+}

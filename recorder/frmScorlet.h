@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "recorder/BoardInput.h"
+#include "recorder/Recorder.h"
+#include "recorder/ScorletPainter.h"
+#include "recorder/TypedMove.h"
+
+#include <array>
+#include <optional>
+
+// What the Scorlet needs from the clock beside it.
+class ScorletHost {
+  public:
+    virtual std::array<int32_t, 2> MoveCounts() const = 0;
+    virtual void PressEnabledClock() = 0;
+    virtual void PauseForResult() = 0;  // a declaration has ended the game
+    virtual void CloseScorlet() = 0;    // asks, and destroys the window on Yes
+    virtual void ScorletDestroyed() = 0;
+
+  protected:
+    ~ScorletHost() = default;
+};
+
+// The Scorlet window: the board, the captured pieces, the promotion picker, the Say list and the move lists.
+class frmScorlet : public Form {
+  public:
+    // All of them must outlive the window.
+    frmScorlet(ScorletHost& host, const Texts& texts, const MessageBoxes& messageBoxes)
+        : Form(texts, messageBoxes), host(host) {}
+    ~frmScorlet() override;
+
+    // Opens the window at `place` on the screen, without taking the focus. Throws SystemError.
+    void Open(const RECT& place);
+
+    Recorder& Record() { return recorder; }
+    // Shows the record anew, with a line chosen.
+    void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
+    // The record and all that is under way back to the start.
+    void ResetRecord();
+
+    // Keys of the window. True: the message is done with.
+    bool TakeMessage(MSG& message);
+
+    // The size of a window whose client area has the size of the design, for the resolution of `dpi`.
+    static SIZE DesignSize(int dpi);
+
+  private:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    void CreateControls();
+    void ApplyTexts();
+    void Arrange();
+    void ShowBoard();
+    void ShowList(Side side);
+    void ChooseLine(const ChosenLine& line);
+
+    void OnCommand(int id, int notification);
+    void OnMouseDown(POINT point);
+    void OnSquare(Square square);
+    bool OnBoardKey(WPARAM key);
+    void OnContextMenu(HWND control, POINT point);
+    void OnDeclare();
+    void OnTyped();
+    void BeginEdit(Side side);
+    void EndEdit(bool accept);
+    void OnDrawItem(const DRAWITEMSTRUCT& item) const;
+    bool OnSetCursor() const;
+    void OnGetMinMaxInfo(MINMAXINFO& info) const;
+    int ChildAt(POINT point) const;
+    bool Editing() const { return edited.has_value(); }
+
+    static LRESULT CALLBACK ChildProcedure(HWND child, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                           DWORD_PTR self);
+
+    ScorletHost& host;
+    Recorder recorder;
+    BoardInput input{recorder};
+    TypedMove typed;
+    std::optional<ChosenLine> edited;
+    Side menuList = White;
+    ScorletPainter painter;
+    ScorletLayout layout{};
+    UniqueCursor handPointBlue;
+    int dpi = 96;
+    bool settingText = false;
+};
