@@ -69,7 +69,8 @@ void ClockPanels::Arrange() {
     layout = LayOutClock(static_cast<int>(client.right), static_cast<int>(client.bottom));
     painter.SetLayout(layout);
     for (Side side : BothSides) ArrangePanel(side);
-    InvalidateRect(form.Window(), nullptr, TRUE);
+    // Drawn controls show more or less at another size, so what they showed is no longer good.
+    RedrawWindow(form.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void ClockPanels::ArrangePanel(Side side) {

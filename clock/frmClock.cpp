@@ -105,28 +105,29 @@ void frmClock::ShowScorlet() {
     UpdateMenu();
 }
 
-// Right of the clock. Where the screen is too small for both the clock makes room, down to its least size.
+// Right of the clock. Where the screen is too narrow for both, first the clock and then the Scorlet give way, down to
+// their least sizes.
 RECT frmClock::PlaceBeside() {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof(monitor);
     GetMonitorInfoW(MonitorFromWindow(Window(), MONITOR_DEFAULTTOPRIMARY), &monitor);
     const RECT& screen = monitor.rcWork;
+    const LONG screenWidth = screen.right - screen.left;
     const SIZE size = frmScorlet::DesignSize(dpi);
     RECT clock{};
     GetWindowRect(Window(), &clock);
     if (!IsZoomed(Window()) && !IsIconic(Window()) && clock.right + size.cx > screen.right) {
         const LONG width = clock.right - clock.left, height = clock.bottom - clock.top;
-        const LONG left = std::max(screen.left, screen.right - size.cx - width);
-        const LONG room = std::max(screen.right - size.cx - left, LONG{Scaled(LeastWidth, dpi)});
-        const LONG narrowed = std::min(width, room);
+        const LONG narrowed = std::min(width, std::max(screenWidth - size.cx, LONG{Scaled(LeastWidth, dpi)}));
+        const LONG left = std::max(std::min(screen.right - size.cx - narrowed, clock.left), screen.left);
         SetWindowPos(Window(), nullptr, left, clock.top, narrowed, MulDiv(height, narrowed, width),
                      SWP_NOZORDER | SWP_NOACTIVATE);
         GetWindowRect(Window(), &clock);
     }
-    const LONG left = std::min(clock.right, std::max(screen.left, screen.right - size.cx));
-    const LONG width = std::min(size.cx, screen.right - left);
+    const LONG width = std::min(size.cx, std::max(screen.right - clock.right, LONG{Scaled(ScorletLeastWidth, dpi)}));
     const LONG height = std::min(size.cy, screen.bottom - screen.top);
-    const LONG top = std::clamp(clock.top, screen.top, std::max(screen.top, screen.bottom - height));
+    const LONG left = std::max(std::min(clock.right, screen.right - width), screen.left);
+    const LONG top = std::max(std::min(clock.top, screen.bottom - height), screen.top);
     return {left, top, left + width, top + height};
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -87,14 +88,18 @@ Picture Picture::OfIcon(const wchar_t* resourceName, int size) {
 
 void Picture::Draw(HDC dc, int left, int top, int size) const {
     if (Empty() || size <= 0) return;
-    if (readySize != size) {
-        ready = Shrunk(size);
-        readySize = size;
-    }
     const UniqueDc memory(CreateCompatibleDC(dc));
-    const Selection selection(memory.get(), ready.get());
+    const Selection selection(memory.get(), OfSize(size));
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
     AlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, size, size, blend);
+}
+
+HBITMAP Picture::OfSize(int size) const {
+    for (const Ready& one : ready) {
+        if (one.size == size) return one.bitmap.get();
+    }
+    ready[1] = std::exchange(ready[0], {size, Shrunk(size)});
+    return ready[0].bitmap.get();
 }
 
 UniqueBitmap Picture::Shrunk(int size) const {

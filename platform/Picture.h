@@ -6,11 +6,12 @@
 
 #include <olectl.h>
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
 // A picture with soft edges that is drawn at any size up to its own. It is kept as premultiplied 32-bit pixels and
-// shrunk by averaging areas; the last size drawn is kept ready.
+// shrunk by averaging areas; the last two sizes drawn are kept ready.
 class Picture {
   public:
     Picture() = default;
@@ -27,10 +28,15 @@ class Picture {
     void Draw(HDC dc, int left, int top, int size) const;
 
   private:
+    struct Ready {
+        int size = 0;
+        UniqueBitmap bitmap;
+    };
+
+    HBITMAP OfSize(int size) const;
     UniqueBitmap Shrunk(int size) const;
 
     int width = 0, height = 0;
     std::vector<uint32_t> pixels;  // BGRA, top row first
-    mutable UniqueBitmap ready;
-    mutable int readySize = 0;
+    mutable std::array<Ready, 2> ready;
 };

@@ -28,9 +28,8 @@ void ScorletPainter::LoadPictures() {
     for (const Side side : BothSides) {
         for (int kind = 1; kind <= 6; ++kind) {
             const Piece piece = PieceOf(side, static_cast<PieceKind>(kind));
-            const auto source = modResource::LoadResourcePicture(std::string(PieceCode(piece)));
-            pieces[static_cast<size_t>(piece)] = Picture(*source);
-            smallPieces[static_cast<size_t>(piece)] = Picture(*source);
+            pieces[static_cast<size_t>(piece)] =
+                Picture(*modResource::LoadResourcePicture(std::string(PieceCode(piece))));
         }
     }
     for (size_t i = 0; i < promotions.size(); ++i)
@@ -82,7 +81,7 @@ void ScorletPainter::DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool 
     const Buffered buffer(item);
     const RECT area = buffer.Area();
     FillRect(buffer.Dc(), &area, BackgroundBrush());
-    smallPieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
     if (picked) ThickFrame(buffer.Dc(), area, PickedColour, 2);
 }
 

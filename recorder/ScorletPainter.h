@@ -36,7 +36,6 @@ class ScorletPainter {
     // The system's own colour of windows' faces: the lists and fields are the system's too.
     UniqueBrush backgroundBrush{CreateSolidBrush(GetSysColor(COLOR_BTNFACE))};
     UniqueFont font, coordinateFont;
-    std::array<Picture, 16> pieces;       // by piece
-    std::array<Picture, 16> smallPieces;  // the same at the size of captured ones
+    std::array<Picture, 16> pieces;  // by piece
     std::array<Picture, 4> promotions;
 };

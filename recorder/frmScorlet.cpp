@@ -143,7 +143,7 @@ void frmScorlet::Arrange() {
     place(cmdOK, layout.editOk);
     place(lblPromotion, layout.promotionTitle);
     for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.promotion[static_cast<size_t>(i)]);
-    InvalidateRect(Window(), nullptr, TRUE);
+    RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {

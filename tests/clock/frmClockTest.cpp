@@ -3,6 +3,7 @@
 #include "platform/Dpi.h"
 #include "resources/resource.h"
 #include "settings/SettingsFile.h"
+#include "tests/desktop/Desktop.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +17,14 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
     Texts texts{settings.LanguageIndex};
     MessageBoxes messageBoxes{texts};
     modEnvironment::Environment environment;
-    SettingsFile settingsFile{L"C:\\no such folder\\"};
+    TestFolder folder;
+    SettingsFile settingsFile{folder.Path()};
     std::unique_ptr<frmClock> form;
 
     void SetUp() override {
         settings.LanguageIndex = GetParam();
         settings.OpenScorletAtStart = false;
+        settingsFile.Save(settings);
         environment.appearance = AppearanceOf("NONE");
         form = std::make_unique<frmClock>(environment, settingsFile, settings, texts, messageBoxes);
         form->Open();
