@@ -59,7 +59,8 @@ void frmClock::Open() {
     ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
     ShowWindow(Window(), SW_SHOWDEFAULT);
     UpdateWindow(Window());
-    if (settings.OpenScorletAtStart) ShowScorlet();
+    // As a command of its own: what stops it does not stop the clock.
+    if (settings.OpenScorletAtStart) PostMessageW(Window(), WM_COMMAND, mnuShowScorlet, 0);
     PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
 }
 
@@ -100,9 +101,10 @@ void frmClock::ShowScorlet() {
     const RECT place = PlaceBeside();
     ScorletHost& host = *this;
     auto opened = std::make_unique<frmScorlet>(host, texts, messageBoxes);
-    opened->Open(place);
+    const std::wstring problem = opened->Open(place);
     scorlet = std::move(opened);
     UpdateMenu();
+    if (!problem.empty()) messageBoxes.Inform(scorlet->Window(), problem);
 }
 
 // Right of the clock. Where the screen is too narrow for both, first the clock and then the Scorlet give way, down to
@@ -187,7 +189,7 @@ void frmClock::PlaceWindow() {
 void frmClock::PhaseChanged() {
     const Phase phase = commands.CurrentPhase();
     // A disabled button would swallow the keys.
-    if (phase == Phase::Fallen) SetFocus(Window());
+    if (phase == Phase::Fallen) FocusWhileActive(Window());
     panels.ShowPhase();
 
     // Sleep would stop the ticks.
@@ -214,8 +216,14 @@ void frmClock::Tick() {
     }
 }
 
-void frmClock::FocusClockButton(Side side) { SetFocus(Control(ControlOf(cmdClock, side))); }
-void frmClock::FocusPauseButton(Side side) { SetFocus(Control(ControlOf(cmdPause, side))); }
+void frmClock::FocusClockButton(Side side) { FocusWhileActive(Control(ControlOf(cmdClock, side))); }
+void frmClock::FocusPauseButton(Side side) { FocusWhileActive(Control(ControlOf(cmdPause, side))); }
+
+// A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
+void frmClock::FocusWhileActive(HWND control) const {
+    if (GetActiveWindow() == Window()) SetFocus(control);
+}
+
 void frmClock::PlayButtonSound() { modSound::Play(settings.ButtonSoundName); }
 void frmClock::PlayFlagSound() { modSound::Play(settings.FlagSoundName); }
 

@@ -73,6 +73,7 @@ class frmClock : public Form, private ClockView, private ScorletHost {
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnTimer(UINT_PTR id);
     void FocusRightfulButton();
+    void FocusWhileActive(HWND control) const;
     void Unload();
 
     // Clock and pause buttons act when the mouse button or the key goes down.

@@ -23,9 +23,12 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     board.Carry(move);
 
     TakeResultAway();
+    const size_t before = HalfMovesWritten();
     const ChosenLine line{sideToMove, lists[sideToMove].Write(text.View())};
     runningText += pendingText;
     pendingText = MoveOfText(lists[line.side].Entries()[line.index], line.side, line.side == White);
+    // Behind a deletion, or in a line that others have overtaken, the text is not simply longer by this move.
+    if (line.index * 2 + static_cast<size_t>(line.side) != before) RebuildText();
     promotion.reset();
     if (Board::ReachesLastRank(move.moving, destination)) promotion = Promotion{destination, line};
     sideToMove = Other(sideToMove);
@@ -36,13 +39,14 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
 void Recorder::Promote(PieceKind kind) {
     if (!promotion) return;
     board.Put(promotion->square, PieceOf(SideOf(board.At(promotion->square)), kind));
-    MoveList& list = lists[promotion->line.side];
-    const MoveEntry& entry = list.Entries()[promotion->line.index];
+    if (!promotion->line) return;
+    const auto [side, index] = *promotion->line;
+    const MoveEntry& entry = lists[side].Entries()[index];
     // An edit may have made something else of the entry.
     if (!entry.IsWritten()) return;
     std::string text = entry.text;
     SetPromotion(text, kind);
-    list.SetText(promotion->line.index, text);
+    lists[side].SetText(index, text);
     RebuildText();
 }
 
@@ -128,7 +132,9 @@ void Recorder::DeleteLast(Side side) {
     MoveList& list = lists[side];
     if (list.Empty()) return;
     list.RemoveLast();
-    if (promotion && promotion->line.side == side && promotion->line.index >= list.Entries().size()) promotion.reset();
+    if (promotion && promotion->line && promotion->line->side == side &&
+        promotion->line->index >= list.Entries().size())
+        promotion->line.reset();
     RebuildText();
 }
 
@@ -137,14 +143,20 @@ void Recorder::PutBack(Piece piece, int slot, Square square) {
     board.Put(square, piece);
 }
 
-void Recorder::RebuildText() {
-    runningText.clear();
-    pendingText.clear();
-    // Half-moves in the order of play. Waiting lines behind the last move are no part of the game yet.
+// In the order of play, up to the last written one.
+size_t Recorder::HalfMovesWritten() const {
     size_t end = 0;
     for (Side side : BothSides) {
         if (const auto last = lists[side].LastWritten()) end = std::max(end, *last * 2 + static_cast<size_t>(side) + 1);
     }
+    return end;
+}
+
+void Recorder::RebuildText() {
+    runningText.clear();
+    pendingText.clear();
+    // Waiting lines behind the last move are no part of the game yet.
+    const size_t end = HalfMovesWritten();
     for (size_t half = 0; half < end; ++half) {
         const Side side = half % 2 == 0 ? White : Black;
         const size_t row = half / 2;

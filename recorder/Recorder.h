@@ -70,12 +70,13 @@ class Recorder {
   private:
     struct Promotion {
         Square square;
-        ChosenLine line;
+        std::optional<ChosenLine> line;  // none: it has been deleted
     };
 
     void AddResult(Side list, std::string_view result);
     void TakeResultAway();
     void SetMark(size_t index, Side side, std::string_view mark);
+    size_t HalfMovesWritten() const;
     void RebuildText();
 
     Board board;

@@ -23,7 +23,10 @@ bool TypedMove::TakesKey(wchar_t character, const std::wstring& text) {
 }
 
 std::wstring TypedMove::Changed(const std::wstring& text) {
-    if (text.find(L' ') != std::wstring::npos) return {};
+    if (text.find(L' ') != std::wstring::npos) {
+        lastGood.clear();
+        return {};
+    }
     if (text.size() > LongestMove) return lastGood;
     lastGood = text;
     return text;

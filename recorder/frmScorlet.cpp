@@ -62,7 +62,7 @@ SIZE frmScorlet::DesignSize(int dpi) {
     return {area.right - area.left, area.bottom - area.top};
 }
 
-void frmScorlet::Open(const RECT& place) {
+std::wstring frmScorlet::Open(const RECT& place) {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     handPointBlue.reset(static_cast<HCURSOR>(
         LoadImageW(program, L"HANDPOINTBLUE.CUR", IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR)));
@@ -73,7 +73,6 @@ void frmScorlet::Open(const RECT& place) {
     try {
         painter.LoadPictures();
     } catch (const SystemError& error) {
-        // Without a picture moves can still be entered.
         problem = texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code()));
     }
     ApplyTexts();
@@ -82,14 +81,14 @@ void frmScorlet::Open(const RECT& place) {
     ShowRecord();
     ShowWindow(Window(), SW_SHOWNOACTIVATE);
     UpdateWindow(Window());
-    if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+    return problem;
 }
 
 void frmScorlet::CreateControls() {
     constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
     // The order is the reading and the tab order. The cells lie above the board, so they come before it.
     ForEachSquare([&](Square square) { AddControl(WC_STATICW, CellOf(square), drawn); });
-    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP);
+    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP | WS_CLIPSIBLINGS);
     AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
     for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
@@ -104,6 +103,8 @@ void frmScorlet::CreateControls() {
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
     for (int id : {static_cast<int>(picBoard), static_cast<int>(cmbSay), static_cast<int>(txtMove)})
         SetWindowSubclass(Control(id), ChildProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
+    toolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
+                               0, 0, Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
 void frmScorlet::ApplyTexts() {
@@ -213,8 +214,8 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_BOARDKEY: return OnBoardKey(wParam);
         case WM_ENDEDIT: EndEdit(wParam != 0); return 0;
         case WM_CONTEXTMENU:
-            OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-            return 0;
+            if (OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
+            break;
         case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
             SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
@@ -257,6 +258,9 @@ void frmScorlet::OnCommand(int id, int notification) {
     switch (id) {
         case cmbSay:
             if (notification == CBN_SELENDOK) OnDeclare();
+            // What was passed over and not chosen must not stand there as if it had been said.
+            if (notification == CBN_SELENDCANCEL)
+                SendMessageW(Control(cmbSay), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
             return;
         case txtMove:
             if (notification == EN_CHANGE) OnTyped();
@@ -315,9 +319,10 @@ bool frmScorlet::OnBoardKey(WPARAM key) {
     return true;
 }
 
-void frmScorlet::OnContextMenu(HWND control, POINT point) {
+bool frmScorlet::OnContextMenu(HWND control, POINT point) {
     const int id = GetDlgCtrlID(control);
-    if ((id != lstMoves && id != lstMoves + 1) || Editing()) return;
+    if (id != lstMoves && id != lstMoves + 1) return false;
+    if (Editing()) return true;
     menuList = id == lstMoves ? White : Black;
     if (point.x == -1 && point.y == -1) {
         // By the keyboard: at the list's corner.
@@ -338,6 +343,7 @@ void frmScorlet::OnContextMenu(HWND control, POINT point) {
     AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, texts(TextId::DeleteLastMove).c_str());
     TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
     DestroyMenu(menu);
+    return true;
 }
 
 void frmScorlet::OnDeclare() {
@@ -354,8 +360,9 @@ void frmScorlet::OnDeclare() {
 void frmScorlet::BeginEdit(Side side) {
     const LRESULT chosen = SendMessageW(Control(ControlOf(lstMoves, side)), LB_GETCURSEL, 0, 0);
     if (chosen < 0) return;
-    edited = ChosenLine{side, static_cast<size_t>(chosen)};
-    SetWindowTextW(Control(txtMove), FromAnsi(recorder.List(side).Entries()[edited->index].text).c_str());
+    const ChosenLine line{side, static_cast<size_t>(chosen)};
+    edited = Edited{line, recorder.List(side).Entries()[line.index]};
+    SetWindowTextW(Control(txtMove), FromAnsi(edited->entry.text).c_str());
     SetVisible(txtMove, true);
     SetVisible(cmdOK, true);
     SetFocus(Control(txtMove));
@@ -364,9 +371,14 @@ void frmScorlet::BeginEdit(Side side) {
 
 void frmScorlet::EndEdit(bool accept) {
     if (!edited) return;
-    const ChosenLine line = *edited;
+    ChosenLine line = edited->line;
+    const bool wasResult = edited->entry.IsResult();
     edited.reset();
-    if (accept) {
+    // A result moves behind new lines, and goes when play goes on; moves stay where they are.
+    const MoveList& list = recorder.List(line.side);
+    if (wasResult && list.EndsWithResult()) line.index = list.Entries().size() - 1;
+    const bool stands = line.index < list.Entries().size() && list.Entries()[line.index].IsResult() == wasResult;
+    if (accept && stands) {
         wchar_t text[256];
         GetWindowTextW(Control(txtMove), text, 256);
         recorder.Edit(line.side, line.index, ToAnsi(text));
@@ -382,11 +394,25 @@ void frmScorlet::OnTyped() {
     wchar_t text[256];
     GetWindowTextW(Control(txtMove), text, 256);
     const std::wstring changed = typed.Changed(text);
-    if (changed == text) return;
-    settingText = true;
-    SetWindowTextW(Control(txtMove), changed.c_str());
-    SendMessageW(Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
-    settingText = false;
+    if (changed != text) {
+        settingText = true;
+        SetWindowTextW(Control(txtMove), changed.c_str());
+        SendMessageW(Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
+        settingText = false;
+    }
+    ShowLastGood();
+}
+
+void frmScorlet::ShowLastGood() const {
+    std::wstring text = typed.LastGood();
+    TOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+    tool.hwnd = Window();
+    tool.uId = reinterpret_cast<UINT_PTR>(Control(txtMove));
+    tool.lpszText = text.data();
+    SendMessageW(toolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(toolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
@@ -445,6 +471,8 @@ LRESULT CALLBACK frmScorlet::ChildProcedure(HWND child, UINT message, WPARAM wPa
                 return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
             }
             case WM_KEYDOWN:
+                // A held arrow moves on; a held Enter must not pick and drop in turns.
+                if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
                 if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
                 break;
             case WM_SETFOCUS:

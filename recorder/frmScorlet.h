@@ -30,8 +30,9 @@ class frmScorlet : public Form {
         : Form(texts, messageBoxes), host(host) {}
     ~frmScorlet() override;
 
-    // Opens the window at `place` on the screen, without taking the focus. Throws SystemError.
-    void Open(const RECT& place);
+    // Opens the window at `place` on the screen, without taking the focus. The text, empty on success, says which
+    // picture could not be loaded; moves can be entered all the same. Throws SystemError.
+    std::wstring Open(const RECT& place);
 
     Recorder& Record() { return recorder; }
     // Shows the record anew, with a line chosen.
@@ -59,9 +60,10 @@ class frmScorlet : public Form {
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
     bool OnBoardKey(WPARAM key);
-    void OnContextMenu(HWND control, POINT point);
+    bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
     void OnDeclare();
     void OnTyped();
+    void ShowLastGood() const;
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
@@ -77,11 +79,17 @@ class frmScorlet : public Form {
     Recorder recorder;
     BoardInput input{recorder};
     TypedMove typed;
-    std::optional<ChosenLine> edited;
+    // The entry that is open in the edit field, and how it was.
+    struct Edited {
+        ChosenLine line;
+        MoveEntry entry;
+    };
+    std::optional<Edited> edited;
     Side menuList = White;
     ScorletPainter painter;
     ScorletLayout layout{};
     UniqueCursor handPointBlue;
+    HWND toolTips = nullptr;
     int dpi = 96;
     bool settingText = false;
 };

@@ -33,10 +33,11 @@ TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     settings.PeriodLimit.fill(60);
     settings.SetButtonSound(0);
     settings.SetFlagSound(2);
-    settings.OpenScorletAtStart = false;
     ProgramRun run(folder, settings);
     ASSERT_FALSE(CaptureFile().empty()) << "TORVANIX_SOUND_CAPTURE names no file";
     DeleteFileW(CaptureFile().c_str());
+    const HWND scorlet = run.WaitWindow(L"frmScorlet");
+    ASSERT_TRUE(scorlet);
     run.Click(ControlOf(cmdClock, White));
     EXPECT_TRUE(Eventually([&] { return Exists(CaptureFile()); })) << "the silent button sound is played too";
     ASSERT_TRUE(Eventually([&] { return run.Seconds(White) <= 3; }, 70000)) << run.Seconds(White);
@@ -46,6 +47,9 @@ TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     EXPECT_EQ(run.Text(lblFace), L"00:00:00");
     EXPECT_FALSE(run.Visible(imgFlagUp) || run.Visible(imgFlagDown + 1));
     EXPECT_TRUE(run.Visible(imgFlagUp + 1));
+    wchar_t result[16]{};
+    SendMessageW(GetDlgItem(scorlet, lstMoves), LB_GETTEXT, 1, reinterpret_cast<LPARAM>(result));
+    EXPECT_EQ(std::wstring(result), L"0-1") << "behind the waiting line";
     for (int id = cmdClock; id <= cmdPause + 1; ++id) EXPECT_FALSE(run.Enabled(id)) << id;
     for (int mark = shpTurn; mark < shpTurn + 2 * TurnMarksPerSide; ++mark) EXPECT_FALSE(run.Visible(mark)) << mark;
 

@@ -1,9 +1,12 @@
 #include "tests/desktop/Desktop.h"
 
 #include "platform/Ansi.h"
+#include "recorder/Notation.h"
+#include "recorder/Replay.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <fstream>
 #include <sstream>
 
@@ -84,30 +87,31 @@ TEST_F(ScorletTest, RealGameByClicksWithTheClockRunning) {
     std::ifstream file(TEST_DATA "/world-championship-2023-game1.moves");
     std::string line;
     ASSERT_TRUE(std::getline(file, line));
-    std::istringstream moves(line);
+    std::string text;
+    ASSERT_TRUE(ReplayLine(line, text));
+    std::istringstream moves(line), written(text);
     run.Click(run.Control(cmdClock));
     ExpectLists("1. " + Waiting + " / ");
-    int half = 0;
-    // The opening with both castlings' side, captures and a pinned piece is enough for the window.
-    for (std::string move; half < 40 && moves >> move; ++half) {
+    std::array<std::string, 2> lists;
+    std::string move, word;
+    for (int half = 0; moves >> move && written >> word && !IsResult(move); ++half) {
         Play(move);
         ASSERT_TRUE(Eventually([&] { return Code(move.substr(0, 2)) == L"O"; }, 5000)) << move;
         Press();
-        const Side next = half % 2 == 0 ? Black : White;
+        const Side side = half % 2 == 0 ? White : Black, next = Other(side);
+        lists[side] += (half > 1 ? "|" : "") + (side == White ? std::to_string(half / 2 + 1) + ". " : "") + word;
         const std::string waits = std::to_string(half / 2 + (next == White ? 2 : 1)) + ". " + Waiting;
         ASSERT_TRUE(Eventually([&] { return Lines(next).ends_with(waits); }, 5000)) << Lists();
+        ASSERT_EQ(Lines(side), lists[side]);
     }
-    const std::string white = Lines(White), black = Lines(Black);
-    EXPECT_TRUE(
-        white.starts_with("1. e4|2. Nf3|3. Bb5|4. Ba4|5. O-O|6. Bxc6|7. Re1|8. d4|9. Qxd4|10. Bf4|11. Qe3|12. "
-                          "Nd4|13. Nc3|14. Nf5|15. Nxe7|16. Bg3|17. f3|18. h3|19. Kh2|20. Rad1|"))
-        << white;
-    EXPECT_TRUE(black.starts_with("e5|Nc6|a6|Nf6|Be7|dxc6|Nd7|exd4|O-O|Nc5|Bg4|Qd7|Rad8|Ne6|Qxe7|Bh5|f6|h6|Bf7|b6"))
-        << black;
-    EXPECT_EQ(Code("f1") + Code("g1") + Code("d1") + Code("h2"), L"OOWRWK");
-    EXPECT_TRUE(Shown(imgCapturedBN) && Shown(imgCapturedWB) && Shown(imgCapturedWP) && Shown(imgCapturedBP));
-    EXPECT_FALSE(Shown(imgCapturedWQ));
-    EXPECT_EQ(run.Text(lblMoveCount) + run.Text(lblMoveCount + 1), L"21.20.");
+    EXPECT_TRUE(lists[White].starts_with("1. e4|2. Nf3|3. Bb5|4. Ba4|5. O-O|6. Bxc6|")) << lists[White];
+    EXPECT_TRUE(lists[White].ends_with("|49. Ke3")) << lists[White];
+    EXPECT_EQ(Code("e3") + Code("c1") + Code("d7"), L"WKBNBB");
+    EXPECT_TRUE(Shown(imgCapturedWQ) && Shown(imgCapturedBQ) && Shown(imgCapturedWR + 1));
+    EXPECT_EQ(run.Text(lblMoveCount) + run.Text(lblMoveCount + 1), L"49.49.");
+    Say(3);
+    EXPECT_TRUE(Eventually([&] { return Lines(Black).ends_with("|49. " + Waiting + "|1/2-1/2"); })) << Lists();
+    EXPECT_TRUE(Eventually([&] { return run.Text(cmdPause + 1) == L"Resume"; })) << "the game is over";
 }
 
 TEST_F(ScorletTest, ClicksPickMoveTheChoiceAndCancel) {
@@ -138,8 +142,16 @@ TEST_F(ScorletTest, KeysAloneEnterAMove) {
     run.Key(VK_UP);
     run.Key(VK_SPACE);  // drops the picked piece
     ExpectLists("1. e4 / ");
-    run.Key(VK_SPACE);  // none picked: presses the clock, twice
+    run.Key(VK_SPACE);  // none picked: presses the clock
     EXPECT_TRUE(Eventually([&] { return run.Text(lblMoveCount) == L"1."; }));
+    run.Key(VK_SPACE);
+    EXPECT_TRUE(Eventually([&] { return run.Text(lblMoveCount + 1) == L"1."; }));
+    // The keys still work on the board.
+    for (int i = 0; i < 3; ++i) run.Key(VK_UP);
+    run.Key(VK_RETURN);
+    for (int i = 0; i < 2; ++i) run.Key(VK_DOWN);
+    run.Key(VK_RETURN);
+    ExpectLists("1. e4 / e5");
 }
 
 TEST_F(ScorletTest, DeclarationsPromotionAndResult) {

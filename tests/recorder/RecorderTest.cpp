@@ -119,6 +119,27 @@ TEST_F(RecorderTest, PromotionCanBeChosenAgainUntilTheNextMove) {
     EXPECT_FALSE(recorder.AwaitsPromotion());
 }
 
+TEST_F(RecorderTest, TextStaysThatOfTheListsBehindADeletion) {
+    Play({"e2e4", "e7e5", "g1f3"});
+    recorder.DeleteLast(White);
+    Play({"d7d6", "b1c3"});
+    EXPECT_EQ(Lists(), "1. e4|2. Nc3 / e5|d6");
+    EXPECT_EQ(Text(), "1. e4 e5 2. Nc3 <d6 >");
+    recorder.Reset();
+    Play({"e2e4"});
+    recorder.DeleteLast(White);
+    Play({"e7e5"});
+    EXPECT_EQ(Text(), "<1... e5 >");
+
+    recorder.Reset();
+    Play({"e2e7", "h7h6", "e7f8"});
+    recorder.DeleteLast(White);
+    ASSERT_TRUE(recorder.AwaitsPromotion());
+    recorder.Promote(PieceKind::Queen);
+    EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(6, 8))), "WQ") << "the board takes the choice all the same";
+    EXPECT_EQ(Lists(), "1. exe7 / h6");
+}
+
 TEST_F(RecorderTest, EditsAndDeletionsReachTheText) {
     Play({"e2e4", "e7e5", "g1f3"});
     recorder.Edit(Black, 0, "0-0");
