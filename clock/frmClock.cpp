@@ -45,7 +45,6 @@ frmClock::~frmClock() {
 void frmClock::Open() {
     const HICON icon = LoadIconW(GetModuleHandleW(nullptr), L"AAATORVANIX");
     Create(ClassName, texts(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
-    dpi = DpiOf(Window());
     accelerators = MakeClockAccelerators();
     panels.Create();
     for (int id = cmdClock; id <= cmdPause + 1; ++id)
@@ -115,18 +114,18 @@ RECT frmClock::PlaceBeside() {
     GetMonitorInfoW(MonitorFromWindow(Window(), MONITOR_DEFAULTTOPRIMARY), &monitor);
     const RECT& screen = monitor.rcWork;
     const LONG screenWidth = screen.right - screen.left;
-    const SIZE size = frmScorlet::DesignSize(dpi);
+    const SIZE size = frmScorlet::DesignSize(Dpi());
     RECT clock{};
     GetWindowRect(Window(), &clock);
     if (!IsZoomed(Window()) && !IsIconic(Window()) && clock.right + size.cx > screen.right) {
         const LONG width = clock.right - clock.left, height = clock.bottom - clock.top;
-        const LONG narrowed = std::min(width, std::max(screenWidth - size.cx, LONG{Scaled(LeastWidth, dpi)}));
+        const LONG narrowed = std::min(width, std::max(screenWidth - size.cx, LONG{Scaled(LeastWidth, Dpi())}));
         const LONG left = std::max(std::min(screen.right - size.cx - narrowed, clock.left), screen.left);
         SetWindowPos(Window(), nullptr, left, clock.top, narrowed, MulDiv(height, narrowed, width),
                      SWP_NOZORDER | SWP_NOACTIVATE);
         GetWindowRect(Window(), &clock);
     }
-    const LONG width = std::min(size.cx, std::max(screen.right - clock.right, LONG{Scaled(ScorletLeastWidth, dpi)}));
+    const LONG width = std::min(size.cx, std::max(screen.right - clock.right, LONG{Scaled(ScorletLeastWidth, Dpi())}));
     const LONG height = std::min(size.cy, screen.bottom - screen.top);
     const LONG left = std::max(std::min(clock.right, screen.right - width), screen.left);
     const LONG top = std::max(std::min(clock.top, screen.bottom - height), screen.top);
@@ -175,7 +174,7 @@ void frmClock::PlaceWindow() {
     const int screenWidth = screen.right - screen.left, screenHeight = screen.bottom - screen.top;
 
     // What frame, caption and menu add is known only of a window that has a size.
-    const int width = Scaled(DesignWidth, dpi), height = Scaled(DesignHeight, dpi);
+    const int width = Scaled(DesignWidth, Dpi()), height = Scaled(DesignHeight, Dpi());
     SetWindowPos(Window(), nullptr, screen.left, screen.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
     RECT client{};
     GetClientRect(Window(), &client);
@@ -285,13 +284,6 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_PAINT: panels.PaintBackground(); return 0;
         case WM_SIZE: panels.Arrange(); return 0;
         case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
-        case WM_DPICHANGED: {
-            dpi = HIWORD(wParam);
-            const RECT& wanted = *reinterpret_cast<const RECT*>(lParam);
-            SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
-                         wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
-            return 0;
-        }
         case WM_SETCURSOR:
             if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;
             break;
@@ -408,9 +400,9 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
     GetClientRect(Window(), &client);
     const LONG frameWidth = window.right - window.left - client.right;
     const LONG frameHeight = window.bottom - window.top - client.bottom;
-    const LONG designed = MulDiv(environment.appearance.windowHeight, dpi, 1440);
-    info.ptMinTrackSize.x = Scaled(LeastWidth, dpi) + frameWidth;
-    info.ptMinTrackSize.y = std::max(Scaled(LeastHeight, dpi) + frameHeight, designed);
+    const LONG designed = MulDiv(environment.appearance.windowHeight, Dpi(), 1440);
+    info.ptMinTrackSize.x = Scaled(LeastWidth, Dpi()) + frameWidth;
+    info.ptMinTrackSize.y = std::max(Scaled(LeastHeight, Dpi()) + frameHeight, designed);
 }
 
 void frmClock::OnTimer(UINT_PTR id) {

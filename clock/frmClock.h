@@ -91,6 +91,5 @@ class frmClock : public Form, private ClockView, private ScorletHost {
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
     std::unique_ptr<frmScorlet> scorlet;
-    int dpi = 96;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told
 };

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "platform/Ansi.h"
+#include "platform/Dpi.h"
 #include "platform/SystemError.h"
 
 Form::~Form() {
@@ -25,6 +26,13 @@ void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style,
 }
 
 LRESULT Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_DPICHANGED) {
+        dpi = HIWORD(wParam);
+        const RECT& wanted = *reinterpret_cast<const RECT*>(lParam);
+        SetWindowPos(window, nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        return 0;
+    }
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
@@ -32,6 +40,7 @@ LRESULT CALLBACK Form::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
     if (message == WM_NCCREATE) {
         auto* form = static_cast<Form*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
         form->window = window;
+        form->dpi = DpiOf(window);
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
     }
     auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));

@@ -36,6 +36,10 @@ class Form {
     // Throws SystemError.
     void Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon);
 
+    // Dots per inch of the screen that the window is on. It changes with the screen, and the window then takes the size
+    // that the system proposes.
+    int Dpi() const { return dpi; }
+
     // A message of the window; what a form does not handle it passes on to Form::Handle.
     virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -46,4 +50,5 @@ class Form {
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND window = nullptr;
+    int dpi = 96;
 };

@@ -15,7 +15,7 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmScorlet";
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-// Messages of the window to itself, sent by its controls: a key for the board; a refused key is silent.
+// Messages of the window to itself, sent by its controls: a key for the board; the end of an edit.
 constexpr UINT WM_BOARDKEY = WM_APP + 1, WM_ENDEDIT = WM_APP + 2;
 
 constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind::Bishop, PieceKind::Knight};
@@ -67,7 +67,6 @@ std::wstring frmScorlet::Open(const RECT& place) {
     handPointBlue.reset(static_cast<HCURSOR>(
         LoadImageW(program, L"HANDPOINTBLUE.CUR", IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR)));
     Create(ClassName, texts(TextId::ScorletTitle), Style, LoadIconW(program, L"WPICON.ICO"));
-    dpi = DpiOf(Window());
     CreateControls();
     std::wstring problem;
     try {
@@ -97,14 +96,11 @@ void frmScorlet::CreateControls() {
         AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
                    WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
     }
-    AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
-    AddControl(WC_BUTTONW, cmdOK, WS_TABSTOP | BS_PUSHBUTTON);
+    field.Create(WM_ENDEDIT);
     AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
-    for (int id : {static_cast<int>(picBoard), static_cast<int>(cmbSay), static_cast<int>(txtMove)})
+    for (int id : {static_cast<int>(picBoard), static_cast<int>(cmbSay)})
         SetWindowSubclass(Control(id), ChildProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
-    toolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
-                               0, 0, Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
 void frmScorlet::ApplyTexts() {
@@ -123,8 +119,8 @@ void frmScorlet::Arrange() {
     RECT client{};
     GetClientRect(Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
-    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), dpi);
-    painter.SetLayout(layout, dpi);
+    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi());
+    painter.SetLayout(layout, Dpi());
     const auto place = [&](int id, const Box& box) {
         SetWindowPos(Control(id), nullptr, box.left, box.top, box.width, box.height, SWP_NOZORDER | SWP_NOACTIVATE);
         SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
@@ -228,13 +224,6 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         case WM_SIZE: Arrange(); return 0;
         case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
-        case WM_DPICHANGED: {
-            dpi = HIWORD(wParam);
-            const RECT& wanted = *reinterpret_cast<const RECT*>(lParam);
-            SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
-                         wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
-            return 0;
-        }
         case WM_SETCURSOR:
             if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;
             break;
@@ -263,7 +252,7 @@ void frmScorlet::OnCommand(int id, int notification) {
                 SendMessageW(Control(cmbSay), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
             return;
         case txtMove:
-            if (notification == EN_CHANGE) OnTyped();
+            if (notification == EN_CHANGE) field.OnChange();
             return;
         case cmdOK: return EndEdit(true);
         case mnuEditMove: return BeginEdit(menuList);
@@ -362,11 +351,7 @@ void frmScorlet::BeginEdit(Side side) {
     if (chosen < 0) return;
     const ChosenLine line{side, static_cast<size_t>(chosen)};
     edited = Edited{line, recorder.List(side).Entries()[line.index]};
-    SetWindowTextW(Control(txtMove), FromAnsi(edited->entry.text).c_str());
-    SetVisible(txtMove, true);
-    SetVisible(cmdOK, true);
-    SetFocus(Control(txtMove));
-    SendMessageW(Control(txtMove), EM_SETSEL, 0, -1);
+    field.Show(FromAnsi(edited->entry.text));
 }
 
 void frmScorlet::EndEdit(bool accept) {
@@ -378,41 +363,10 @@ void frmScorlet::EndEdit(bool accept) {
     const MoveList& list = recorder.List(line.side);
     if (wasResult && list.EndsWithResult()) line.index = list.Entries().size() - 1;
     const bool stands = line.index < list.Entries().size() && list.Entries()[line.index].IsResult() == wasResult;
-    if (accept && stands) {
-        wchar_t text[256];
-        GetWindowTextW(Control(txtMove), text, 256);
-        recorder.Edit(line.side, line.index, ToAnsi(text));
-    }
-    SetVisible(txtMove, false);
-    SetVisible(cmdOK, false);
+    if (accept && stands) recorder.Edit(line.side, line.index, ToAnsi(field.Text()));
+    field.Hide();
     ShowRecord(line);
     SetFocus(Control(picBoard));
-}
-
-void frmScorlet::OnTyped() {
-    if (settingText) return;
-    wchar_t text[256];
-    GetWindowTextW(Control(txtMove), text, 256);
-    const std::wstring changed = typed.Changed(text);
-    if (changed != text) {
-        settingText = true;
-        SetWindowTextW(Control(txtMove), changed.c_str());
-        SendMessageW(Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
-        settingText = false;
-    }
-    ShowLastGood();
-}
-
-void frmScorlet::ShowLastGood() const {
-    std::wstring text = typed.LastGood();
-    TOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
-    tool.hwnd = Window();
-    tool.uId = reinterpret_cast<UINT_PTR>(Control(txtMove));
-    tool.lpszText = text.data();
-    SendMessageW(toolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    SendMessageW(toolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
@@ -451,7 +405,7 @@ bool frmScorlet::OnSetCursor() const {
 }
 
 void frmScorlet::OnGetMinMaxInfo(MINMAXINFO& info) const {
-    RECT area{0, 0, Scaled(ScorletLeastWidth, dpi), Scaled(ScorletLeastHeight, dpi)};
+    RECT area{0, 0, Scaled(ScorletLeastWidth, Dpi()), Scaled(ScorletLeastHeight, Dpi())};
     AdjustWindowRectEx(&area, Style, FALSE, 0);
     info.ptMinTrackSize = {area.right - area.left, area.bottom - area.top};
 }
@@ -493,22 +447,6 @@ LRESULT CALLBACK frmScorlet::ChildProcedure(HWND child, UINT message, WPARAM wPa
             return 0;
         }
         if (message == WM_MOUSEWHEEL && !open) return 0;
-    } else if (id == txtMove) {
-        if (message == WM_GETDLGCODE) {
-            const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const bool own =
-                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
-            return pass() | (own ? DLGC_WANTMESSAGE : 0);
-        }
-        if (message == WM_KEYDOWN && (wParam == VK_RETURN || wParam == VK_ESCAPE))
-            return SendMessageW(form->Window(), WM_ENDEDIT, wParam == VK_RETURN, 0);
-        if (message == WM_CHAR) {
-            // Codes below the blank are commands such as copying and pasting.
-            wchar_t text[256];
-            GetWindowTextW(child, text, 256);
-            if (wParam >= L' ' && !form->typed.TakesKey(static_cast<wchar_t>(wParam), text)) return 0;
-            if (wParam == VK_RETURN || wParam == VK_ESCAPE) return 0;
-        }
     }
     return pass();
 }

@@ -2,9 +2,9 @@
 
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
+#include "recorder/MoveField.h"
 #include "recorder/Recorder.h"
 #include "recorder/ScorletPainter.h"
-#include "recorder/TypedMove.h"
 
 #include <array>
 #include <optional>
@@ -62,8 +62,6 @@ class frmScorlet : public Form {
     bool OnBoardKey(WPARAM key);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
     void OnDeclare();
-    void OnTyped();
-    void ShowLastGood() const;
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
@@ -78,7 +76,7 @@ class frmScorlet : public Form {
     ScorletHost& host;
     Recorder recorder;
     BoardInput input{recorder};
-    TypedMove typed;
+    MoveField field{*this};
     // The entry that is open in the edit field, and how it was.
     struct Edited {
         ChosenLine line;
@@ -89,7 +87,4 @@ class frmScorlet : public Form {
     ScorletPainter painter;
     ScorletLayout layout{};
     UniqueCursor handPointBlue;
-    HWND toolTips = nullptr;
-    int dpi = 96;
-    bool settingText = false;
 };

@@ -1,0 +1,88 @@
+#include "recorder/MoveField.h"
+
+#include "resources/resource.h"
+
+#include <commctrl.h>
+
+#include <array>
+
+void MoveField::Create(UINT message) {
+    endMessage = message;
+    const HWND field = form.AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
+    form.AddControl(WC_BUTTONW, cmdOK, WS_TABSTOP | BS_PUSHBUTTON);
+    SetWindowSubclass(field, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    toolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
+                               0, 0, form.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+void MoveField::Show(const std::wstring& text) {
+    const HWND field = form.Control(txtMove);
+    SetWindowTextW(field, text.c_str());
+    form.SetVisible(txtMove, true);
+    form.SetVisible(cmdOK, true);
+    SetFocus(field);
+    SendMessageW(field, EM_SETSEL, 0, -1);
+}
+
+void MoveField::Hide() {
+    form.SetVisible(txtMove, false);
+    form.SetVisible(cmdOK, false);
+}
+
+std::wstring MoveField::Text() const {
+    std::array<wchar_t, 256> text{};
+    GetWindowTextW(form.Control(txtMove), text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+void MoveField::OnChange() {
+    if (settingText) return;
+    const std::wstring text = Text(), changed = typed.Changed(text);
+    if (changed != text) {
+        settingText = true;
+        SetWindowTextW(form.Control(txtMove), changed.c_str());
+        SendMessageW(form.Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
+        settingText = false;
+    }
+    ShowLastGood();
+}
+
+void MoveField::ShowLastGood() const {
+    std::wstring text = typed.LastGood();
+    TOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+    tool.hwnd = form.Window();
+    tool.uId = reinterpret_cast<UINT_PTR>(form.Control(txtMove));
+    tool.lpszText = text.data();
+    SendMessageW(toolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(toolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+bool MoveField::TakesCharacter(wchar_t character) {
+    if (character == VK_RETURN || character == VK_ESCAPE) return false;
+    // Codes below the blank are commands such as copying and pasting.
+    return character < L' ' || typed.TakesKey(character, Text());
+}
+
+LRESULT CALLBACK MoveField::Procedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                      DWORD_PTR self) {
+    auto& moveField = *reinterpret_cast<MoveField*>(self);
+    const bool ends = wParam == VK_RETURN || wParam == VK_ESCAPE;
+    switch (message) {
+        case WM_GETDLGCODE: {
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const bool own =
+                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
+            return DefSubclassProc(field, message, wParam, lParam) | (own ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_KEYDOWN:
+            if (ends) return SendMessageW(moveField.form.Window(), moveField.endMessage, wParam == VK_RETURN, 0);
+            break;
+        case WM_CHAR:
+            if (!moveField.TakesCharacter(static_cast<wchar_t>(wParam))) return 0;
+            break;
+        default: break;
+    }
+    return DefSubclassProc(field, message, wParam, lParam);
+}
