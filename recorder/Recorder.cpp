@@ -50,20 +50,30 @@ void Recorder::Promote(PieceKind kind) {
     RebuildText();
 }
 
-void Recorder::Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts) {
+std::array<std::optional<size_t>, 2> Recorder::Declare(Declaration declaration,
+                                                       const std::array<int32_t, 2>& clockCounts) {
+    std::array<std::optional<size_t>, 2> added;
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
     switch (declaration) {
         case Declaration::Check:
             if (last) SetMark(*last, mover, "+");
-            return;
+            break;
         case Declaration::Mate:
-            if (!last) return;
+            if (!last) break;
             SetMark(*last, mover, "#");
-            return AddResult(mover, WinOf(mover));
-        case Declaration::Resign: TopUpMoveLists(clockCounts); return AddResult(sideToMove, WinOf(mover));
-        case Declaration::Draw: TopUpMoveLists(clockCounts); return AddResult(sideToMove, "1/2-1/2");
+            AddResult(mover, WinOf(mover));
+            break;
+        case Declaration::Resign:
+            added = TopUpMoveLists(clockCounts);
+            AddResult(sideToMove, WinOf(mover));
+            break;
+        case Declaration::Draw:
+            added = TopUpMoveLists(clockCounts);
+            AddResult(sideToMove, "1/2-1/2");
+            break;
     }
+    return added;
 }
 
 void Recorder::SetMark(size_t index, Side side, std::string_view mark) {

@@ -45,8 +45,8 @@ class Recorder {
     void Promote(PieceKind kind);
 
     // What the players declare. `clockCounts` are the moves that the clock has counted, for resigning and drawing,
-    // which fill the lists up to them.
-    void Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts);
+    // which fill the lists up to them; the last line added to each.
+    std::array<std::optional<size_t>, 2> Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts);
 
     // The result of a fallen flag of a side.
     void FlagFell(Side side);

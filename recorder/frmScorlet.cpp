@@ -340,9 +340,12 @@ void frmScorlet::OnDeclare() {
     const LRESULT chosen = SendMessageW(say, CB_GETCURSEL, 0, 0);
     if (chosen < 0) return;
     const bool over = recorder.HasResult();
-    recorder.Declare(static_cast<Declaration>(chosen), host.MoveCounts());
+    const auto added = recorder.Declare(static_cast<Declaration>(chosen), host.MoveCounts());
     SendMessageW(say, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     ShowRecord();
+    for (Side side : BothSides) {
+        if (added[side]) ChooseLine({side, *added[side]});
+    }
     if (!over && recorder.HasResult()) host.PauseForResult();
 }
 
