@@ -23,6 +23,14 @@ constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
 // can show what went wrong before; the Scorlet's window is gone.
 constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2, WM_FORGETSCORLET = WM_APP + 3;
 
+// What the taskbar leaves of the screen that a window is on.
+RECT WorkArea(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
+
 }  // namespace
 
 frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
@@ -109,10 +117,7 @@ void frmClock::ShowScorlet() {
 // Right of the clock. Where the screen is too narrow for both, first the clock and then the Scorlet give way, down to
 // their least sizes.
 RECT frmClock::PlaceBeside() {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromWindow(Window(), MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const RECT& screen = monitor.rcWork;
+    const RECT screen = WorkArea(Window());
     const LONG screenWidth = screen.right - screen.left;
     const SIZE size = frmScorlet::DesignSize(Dpi());
     RECT clock{};
@@ -167,10 +172,7 @@ void frmClock::PressEnabledClock() {
 }
 
 void frmClock::PlaceWindow() {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromWindow(Window(), MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const RECT& screen = monitor.rcWork;
+    const RECT screen = WorkArea(Window());
     const int screenWidth = screen.right - screen.left, screenHeight = screen.bottom - screen.top;
 
     // What frame, caption and menu add is known only of a window that has a size.

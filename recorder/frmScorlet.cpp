@@ -91,7 +91,7 @@ void frmScorlet::CreateControls() {
     AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
     for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
-    AddControl(WC_COMBOBOXW, cmbSay, WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST);
+    say.Create();
     for (Side side : BothSides) {
         AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
                    WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
@@ -99,8 +99,7 @@ void frmScorlet::CreateControls() {
     field.Create(WM_ENDEDIT);
     AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
-    for (int id : {static_cast<int>(picBoard), static_cast<int>(cmbSay)})
-        SetWindowSubclass(Control(id), ChildProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(Control(picBoard), BoardProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void frmScorlet::ApplyTexts() {
@@ -108,11 +107,8 @@ void frmScorlet::ApplyTexts() {
     SetText(lblPromotion, texts(TextId::PromoteTo));
     SetText(lblSay, texts(TextId::Say));
     SetText(cmdOK, texts(TextId::ButtonOk));
-    for (int i = 0; i < 4; ++i) {
-        SetText(imgPromotionQ + i, texts(PromotionTexts[static_cast<size_t>(i)]));
-        SendMessageW(Control(cmbSay), CB_ADDSTRING, 0,
-                     reinterpret_cast<LPARAM>(texts(RowBehind(TextId::SayCheck, i)).c_str()));
-    }
+    for (int i = 0; i < 4; ++i) SetText(imgPromotionQ + i, texts(PromotionTexts[static_cast<size_t>(i)]));
+    say.ApplyTexts(texts);
 }
 
 void frmScorlet::Arrange() {
@@ -246,10 +242,7 @@ void frmScorlet::OnCommand(int id, int notification) {
     }
     switch (id) {
         case cmbSay:
-            if (notification == CBN_SELENDOK) OnDeclare();
-            // What was passed over and not chosen must not stand there as if it had been said.
-            if (notification == CBN_SELENDCANCEL)
-                SendMessageW(Control(cmbSay), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+            if (const auto declaration = say.OnNotification(notification)) OnDeclare(*declaration);
             return;
         case txtMove:
             if (notification == EN_CHANGE) field.OnChange();
@@ -335,13 +328,9 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
     return true;
 }
 
-void frmScorlet::OnDeclare() {
-    const HWND say = Control(cmbSay);
-    const LRESULT chosen = SendMessageW(say, CB_GETCURSEL, 0, 0);
-    if (chosen < 0) return;
+void frmScorlet::OnDeclare(Declaration declaration) {
     const bool over = recorder.HasResult();
-    const auto added = recorder.Declare(static_cast<Declaration>(chosen), host.MoveCounts());
-    SendMessageW(say, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    const auto added = recorder.Declare(declaration, host.MoveCounts());
     ShowRecord();
     for (Side side : BothSides) {
         if (added[side]) ChooseLine({side, *added[side]});
@@ -413,43 +402,27 @@ void frmScorlet::OnGetMinMaxInfo(MINMAXINFO& info) const {
     info.ptMinTrackSize = {area.right - area.left, area.bottom - area.top};
 }
 
-LRESULT CALLBACK frmScorlet::ChildProcedure(HWND child, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+LRESULT CALLBACK frmScorlet::BoardProcedure(HWND board, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                             DWORD_PTR self) {
-    auto* form = reinterpret_cast<frmScorlet*>(self);
-    const auto pass = [&] {
-        return DefSubclassProc(child, message, wParam, lParam);
-    };
-    if (id == picBoard) {
-        switch (message) {
-            case WM_GETDLGCODE: {
-                const auto* key = reinterpret_cast<const MSG*>(lParam);
-                const bool own = key && key->message == WM_KEYDOWN &&
-                                 (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE || key->wParam == VK_SPACE);
-                return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
-            }
-            case WM_KEYDOWN:
-                // A held arrow moves on; a held Enter must not pick and drop in turns.
-                if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
-                if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
-                break;
-            case WM_SETFOCUS:
-            case WM_KILLFOCUS: {
-                // The cursor is shown only while its keys work.
-                const LRESULT result = pass();
-                InvalidateRect(form->Control(CellOf(form->input.Cursor())), nullptr, FALSE);
-                return result;
-            }
-            default: break;
+    const auto* form = reinterpret_cast<const frmScorlet*>(self);
+    switch (message) {
+        case WM_GETDLGCODE: {
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const bool own =
+                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
+            return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
         }
-    } else if (id == cmbSay) {
-        // With the list closed, a key must not declare what it passes over: it opens the list.
-        const bool open = SendMessageW(child, CB_GETDROPPEDSTATE, 0, 0) != 0;
-        if (message == WM_CHAR && !open) return 0;
-        if (message == WM_KEYDOWN && !open && wParam != VK_TAB && wParam != VK_F4) {
-            if (wParam == VK_DOWN || wParam == VK_UP) SendMessageW(child, CB_SHOWDROPDOWN, TRUE, 0);
-            return 0;
-        }
-        if (message == WM_MOUSEWHEEL && !open) return 0;
+        case WM_KEYDOWN:
+            // A held arrow moves on; a held Enter must not pick and drop in turns.
+            if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
+            if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
+            break;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            // The cursor is shown only while its keys work.
+            InvalidateRect(form->Control(CellOf(form->input.Cursor())), nullptr, FALSE);
+            break;
+        default: break;
     }
-    return pass();
+    return DefSubclassProc(board, message, wParam, lParam);
 }

@@ -4,6 +4,7 @@
 #include "recorder/BoardInput.h"
 #include "recorder/MoveField.h"
 #include "recorder/Recorder.h"
+#include "recorder/SayList.h"
 #include "recorder/ScorletPainter.h"
 
 #include <array>
@@ -61,7 +62,7 @@ class frmScorlet : public Form {
     void OnSquare(Square square);
     bool OnBoardKey(WPARAM key);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
-    void OnDeclare();
+    void OnDeclare(Declaration declaration);
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
@@ -70,13 +71,14 @@ class frmScorlet : public Form {
     int ChildAt(POINT point) const;
     bool Editing() const { return edited.has_value(); }
 
-    static LRESULT CALLBACK ChildProcedure(HWND child, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+    static LRESULT CALLBACK BoardProcedure(HWND board, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                            DWORD_PTR self);
 
     ScorletHost& host;
     Recorder recorder;
     BoardInput input{recorder};
     MoveField field{*this};
+    SayList say{*this};
     // The entry that is open in the edit field, and how it was.
     struct Edited {
         ChosenLine line;

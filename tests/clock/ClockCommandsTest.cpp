@@ -38,7 +38,7 @@ struct RecordingView : ClockView {
     bool movesWritten = false;
     bool MovesWritten() const override { return movesWritten; }
     void MoveBegun(bool, Side) override {}
-    void RecordFlagFall(Side) override {}
+    void RecordFlagFall(Side side) override { done.push_back("record " + std::to_string(side)); }
     void ResetRecorder() override {}
 };
 
@@ -146,7 +146,7 @@ TEST_F(ClockCommandsTest, FlagFallShowsBeforeItSounds) {
     for (int second = 0; second < 59; ++second) commands.Tick();
     view.done.clear();
     commands.Tick();
-    EXPECT_EQ(Done(), (Steps{"show", "flag sound"}));
+    EXPECT_EQ(Done(), (Steps{"record 0", "show", "flag sound"}));
     EXPECT_EQ(commands.CurrentPhase(), Phase::Fallen);
     EXPECT_TRUE(commands.FlagFallen(White));
     EXPECT_FALSE(commands.FlagFallen(Black) || commands.SetupEnabled());
@@ -196,6 +196,11 @@ TEST_F(ClockCommandsTest, ResetAsksWhereThereIsSomethingToLose) {
     EXPECT_EQ(Done(), (Steps{"read", "show", "tell", "focus clock 0"})) << "idle";
     commands.AskedReset();
     EXPECT_EQ(Done(), Steps{"ask"}) << "a click on a flag always asks";
+
+    view.movesWritten = true;
+    commands.AskedResetIfStarted();
+    EXPECT_EQ(Done(), Steps{"ask"}) << "idle, with moves in the Scorlet";
+    view.movesWritten = false;
 
     commands.Press(White);
     commands.Tick();

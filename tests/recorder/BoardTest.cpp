@@ -1,24 +1,13 @@
 #include "recorder/Board.h"
 
+#include "tests/recorder/Positions.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
 namespace {
-
-Square At(std::string_view name) { return SquareAt(name[0] - 'a' + 1, name[1] - '0'); }
-
-// A position of pieces as "WKe1 BRh8".
-Board Position(std::string_view pieces) {
-    Board board;
-    for (int index = 11; index <= 88; ++index) {
-        if (IsSquare(index)) board.Put(static_cast<Square>(index), Piece::Empty);
-    }
-    for (; pieces.size() >= 4; pieces.remove_prefix(std::min(pieces.size(), size_t{5})))
-        board.Put(At(pieces.substr(2, 2)), *PieceOfCode(pieces.substr(0, 2)));
-    return board;
-}
 
 std::string Codes(const Board& board, const std::vector<std::string>& squares) {
     std::string codes;

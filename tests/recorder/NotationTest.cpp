@@ -1,19 +1,13 @@
 #include "recorder/Notation.h"
 
+#include "tests/recorder/Positions.h"
+
 #include <gtest/gtest.h>
 
 namespace {
 
-Square At(std::string_view name) { return SquareAt(name[0] - 'a' + 1, name[1] - '0'); }
-
-// The move written from a position of pieces as "WKe1 BRh8".
-std::string Written(std::string_view pieces, const char* origin, const char* destination, bool longForm = false) {
-    Board board;
-    for (int index = 11; index <= 88; ++index) {
-        if (IsSquare(index)) board.Put(static_cast<Square>(index), Piece::Empty);
-    }
-    for (; pieces.size() >= 4; pieces.remove_prefix(std::min(pieces.size(), size_t{5})))
-        board.Put(At(pieces.substr(2, 2)), *PieceOfCode(pieces.substr(0, 2)));
+std::string Written(const char* pieces, const char* origin, const char* destination, bool longForm = false) {
+    const Board board = Position(pieces);
     const Move move = board.Classify(At(origin), At(destination));
     return std::string((longForm ? WriteLongForm(move) : WriteMove(board, move)).View());
 }

@@ -1,5 +1,7 @@
 #include "recorder/Recorder.h"
 
+#include "tests/recorder/Positions.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -9,8 +11,7 @@ class RecorderTest : public testing::Test {
     Recorder recorder;
 
     void Play(std::initializer_list<const char*> moves) {
-        for (const std::string_view move : moves)
-            recorder.Play(SquareAt(move[0] - 'a' + 1, move[1] - '0'), SquareAt(move[2] - 'a' + 1, move[3] - '0'));
+        for (const std::string_view move : moves) recorder.Play(At(move.substr(0, 2)), At(move.substr(2, 2)));
     }
     // The two lists as they are shown: "1. e4|2. Nf3 / e5".
     std::string Lists() const {

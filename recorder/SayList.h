@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "recorder/Recorder.h"
+
+#include <optional>
+
+// The drop-down list in which the players declare check, mate, resignation and draw. It shows no entry while it is
+// closed, so that the same one can be chosen again.
+class SayList {
+  public:
+    // The form must outlive the list.
+    explicit SayList(Form& form) : form(form) {}
+
+    void Create();
+    void ApplyTexts(const Texts& texts) const;
+
+    // A notification of the list: what has been declared by it, nothing for most.
+    std::optional<Declaration> OnNotification(int notification) const;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR reference);
+
+    Form& form;
+};
