@@ -30,6 +30,13 @@ void ClockCommands::Initialise() {
     view.TellReadingProblems();
 }
 
+void ClockCommands::TakeTimeControl(const modClock::TimeControl& control) {
+    clock.AbandonGame();
+    clock.SetTimeControl(control);
+    clock.InitialiseClock();
+    view.PhaseChanged();
+}
+
 void ClockCommands::Press(Side button) {
     const Phase phase = CurrentPhase();
     if (phase == Phase::Fallen) return view.Inform(Notice::HowToRestart);

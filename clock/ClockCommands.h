@@ -77,6 +77,9 @@ class ClockCommands : private modClock::ClockHost {
     // An idle clock with the user's time control.
     void Initialise();
 
+    // An idle clock with another one, as if none had ever been started; for when SetupEnabled.
+    void TakeTimeControl(const modClock::TimeControl& control);
+
     void Press(Side button);
     void Start();
     void PauseOrResume();

@@ -32,7 +32,7 @@ constexpr std::array ClockEntries{
     Entry{mnuReset, TextId::MenuReset, TextId::MenuResetKey},
     Entry{mnuPause, TextId::MenuPause},
     Separator,
-    Entry{mnuSetup, TextId::MenuSetup, TextId::MenuSetupKey, false},
+    Entry{mnuSetup, TextId::MenuSetup, TextId::MenuSetupKey},
 };
 
 constexpr std::array ScorletEntries{
@@ -45,7 +45,7 @@ constexpr std::array ScorletEntries{
 constexpr std::array HelpEntries{
     Entry{mnuContents, TextId::MenuContents},
     Separator,
-    Entry{mnuAbout, TextId::MenuAbout, NoKey, false},
+    Entry{mnuAbout, TextId::MenuAbout},
 };
 
 void AppendPopup(HMENU bar, const Texts& texts, TextId caption, std::span<const Entry> entries) {

@@ -5,8 +5,6 @@
 #include "resources/resource.h"
 #include "settings/modResource.h"
 
-#include <commctrl.h>
-
 #include <array>
 
 namespace {
@@ -44,8 +42,7 @@ void ClockPanels::Create() {
         add(WC_STATICW, lblMoveCount, text);
         for (int pair : {lblPeriod, lblPeriodTime, lblBonus, lblBonusTime}) add(WC_STATICW, pair, text | SS_RIGHT);
     }
-    toolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
-                               0, 0, form.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+    toolTips.Create();
 }
 
 void ClockPanels::LoadPictures() {
@@ -101,23 +98,13 @@ void ClockPanels::ArrangePanel(Side side) {
     for (int mark = 0; mark < TurnMarksPerSide; ++mark)
         move(TurnMark(side, mark), panel.turnMarks[static_cast<size_t>(mark)]);
 
-    AddToolTip(imgFlagUp, side, panel.flag, TextId::TipFlag);
-    AddToolTip(imgHand, side, panel.hand, TextId::TipHand);
-    AddToolTip(lblPeriodTime, side, panel.periodTime, TextId::TipHoursMinutes);
-    AddToolTip(lblBonusTime, side, panel.bonusTime, TextId::TipMinutesSeconds);
-}
-
-void ClockPanels::AddToolTip(int pair, Side side, const Box& box, TextId row) const {
-    std::wstring text = texts(row);
-    TOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_SUBCLASS;
-    tool.hwnd = form.Window();
-    tool.uId = static_cast<UINT_PTR>(ControlOf(pair, side));
-    tool.rect = {box.left, box.top, box.Right(), box.Bottom()};
-    tool.lpszText = text.data();
-    SendMessageW(toolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    SendMessageW(toolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    const auto tip = [&](int pair, const Box& box, TextId row) {
+        toolTips.SetArea(ControlOf(pair, side), {box.left, box.top, box.Right(), box.Bottom()}, texts(row));
+    };
+    tip(imgFlagUp, panel.flag, TextId::TipFlag);
+    tip(imgHand, panel.hand, TextId::TipHand);
+    tip(lblPeriodTime, panel.periodTime, TextId::TipHoursMinutes);
+    tip(lblBonusTime, panel.bonusTime, TextId::TipMinutesSeconds);
 }
 
 std::wstring ClockPanels::NameOf(Side side) const {

@@ -4,6 +4,7 @@
 #include "clock/ClockPainter.h"
 #include "platform/Form.h"
 #include "platform/Picture.h"
+#include "platform/ToolTips.h"
 #include "settings/Settings.h"
 
 // The pair of controls that a number belongs to, and its side; pair 0 is none.
@@ -20,7 +21,7 @@ class ClockPanels {
     // All of them must outlive the panels.
     ClockPanels(Form& form, const ClockCommands& commands, const Settings& settings, const Texts& texts,
                 uint32_t backgroundColour)
-        : form(form), commands(commands), settings(settings), texts(texts), painter(backgroundColour) {}
+        : form(form), commands(commands), settings(settings), texts(texts), painter(backgroundColour), toolTips(form) {}
 
     // Makes the controls in the form's window, which must exist. Throws SystemError.
     void Create();
@@ -51,7 +52,6 @@ class ClockPanels {
 
   private:
     void ArrangePanel(Side side);
-    void AddToolTip(int pair, Side side, const Box& box, TextId row) const;
     std::wstring NameOf(Side side) const;
     bool Runs(Side side) const { return commands.TurnMarksVisible(side); }
 
@@ -62,5 +62,5 @@ class ClockPanels {
     ClockPainter painter;
     ClockLayout layout{};
     Picture flagUp, flagDown, hand;
-    HWND toolTips = nullptr;
+    ToolTips toolTips;
 };

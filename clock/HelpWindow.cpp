@@ -2,8 +2,44 @@
 
 #include "platform/SystemError.h"
 
-void HelpWindow::Open(HWND owner, TextId file) {
+namespace {
+
+// The folders of the languages in the help file.
+const wchar_t* FolderOf(int32_t language) {
+    switch (language) {
+        case Turkish: return L"tr";
+        case French: return L"fr";
+        default: return L"en";
+    }
+}
+
+const wchar_t* NameOf(HelpPage page) {
+    switch (page) {
+        case HelpPage::Settings: return L"settings.htm";
+        case HelpPage::SavedGames: return L"saving.htm";
+        case HelpPage::Contents: break;
+    }
+    return L"index.htm";
+}
+
+}  // namespace
+
+// As the viewer takes it: the file, two colons and the page's path in it.
+std::wstring HelpWindow::AddressOf(HelpPage page) const {
+    // The row begins with a backslash, the folder ends with one.
+    const std::wstring name = texts(page == HelpPage::Contents ? TextId::HelpContents : TextId::HelpPages);
+    const std::wstring file = folder + (name.empty() ? name : name.substr(1));
+    return file + L"::/" + FolderOf(texts.LanguageIndex()) + L"/" + NameOf(page);
+}
+
+void HelpWindow::Open(HWND owner, HelpPage page) {
     Watch(GetWindow(owner, GW_HWNDFIRST));
+    const std::wstring address = AddressOf(page);
+    // The viewer cannot be told to turn to another page: it is started anew.
+    if (held && address != opened) {
+        Close(held);
+        process.reset();
+    }
     if (held) {
         if (IsIconic(held)) ShowWindow(held, SW_RESTORE);
         SetForegroundWindow(held);
@@ -12,13 +48,12 @@ void HelpWindow::Open(HWND owner, TextId file) {
     // A viewer that has been started and shows no window yet will.
     if (process && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
-    // The row begins with a backslash, the folder ends with one.
-    const std::wstring name = texts(file);
-    const std::wstring path = folder + (name.empty() ? name : name.substr(1));
-    if (name.empty() || GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES)
-        return messageBoxes.Inform(owner, texts.Compose(TextId::HelpFileMissing, path));
+    const std::wstring file = address.substr(0, address.rfind(L"::"));
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || attributes & FILE_ATTRIBUTE_DIRECTORY)
+        return messageBoxes.Inform(owner, texts.Compose(TextId::HelpFileMissing, file));
 
-    std::wstring commandLine = L"\"" + viewer + L"\" \"" + path + L"\"";
+    std::wstring commandLine = L"\"" + viewer + L"\" \"" + address + L"\"";
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION started{};
@@ -29,6 +64,7 @@ void HelpWindow::Open(HWND owner, TextId file) {
     }
     CloseHandle(started.hThread);
     process.reset(started.hProcess);
+    opened = address;
 }
 
 void HelpWindow::Watch(HWND first) {

@@ -7,6 +7,9 @@
 
 #include <string>
 
+// Pages of the help file.
+enum class HelpPage { Contents, Settings, SavedGames };
+
 // The help file in the system's help viewer: opened, followed and closed with the program.
 class HelpWindow {
   public:
@@ -14,9 +17,9 @@ class HelpWindow {
     HelpWindow(const Texts& texts, const MessageBoxes& messageBoxes, std::wstring viewer, std::wstring folder)
         : texts(texts), messageBoxes(messageBoxes), viewer(std::move(viewer)), folder(std::move(folder)) {}
 
-    // Opens the help file of a row, or brings its window to the front when it is open already. A missing viewer or file
-    // is told in a message.
-    void Open(HWND owner, TextId file);
+    // Opens a page in the language of the program, or brings its window to the front when it is open already. A missing
+    // viewer or file is told in a message.
+    void Open(HWND owner, HelpPage page);
 
     // Looks from `first` downwards in the z-order for the viewer's window and holds it.
     void Watch(HWND first);
@@ -25,10 +28,13 @@ class HelpWindow {
     void Close(HWND first);
 
   private:
+    std::wstring AddressOf(HelpPage page) const;
+
     const Texts& texts;
     const MessageBoxes& messageBoxes;
     std::wstring viewer;
     std::wstring folder;
     UniqueFile process;  // of the viewer last started
     HWND held = nullptr;
+    std::wstring opened;  // address of the page that the viewer was started with
 };

@@ -4,6 +4,8 @@
 #include "platform/Dpi.h"
 #include "platform/SystemError.h"
 #include "resources/resource.h"
+#include "settings/frmAbout.h"
+#include "settings/frmSetup.h"
 #include "settings/modSound.h"
 
 #include <commctrl.h>
@@ -23,14 +25,6 @@ constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
 // can show what went wrong before; the Scorlet's window is gone.
 constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2, WM_FORGETSCORLET = WM_APP + 3;
 
-// What the taskbar leaves of the screen that a window is on.
-RECT WorkArea(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    return monitor.rcWork;
-}
-
 }  // namespace
 
 frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
@@ -42,7 +36,7 @@ frmClock::frmClock(const modEnvironment::Environment& environment, const Setting
       commands(*this),
       timer([this] { Tick(); }),
       help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
-      panels(*this, commands, settings, texts, environment.appearance.backgroundColour) {}
+      panels(*this, commands, settings, captions, environment.appearance.backgroundColour) {}
 
 frmClock::~frmClock() {
     scorlet.reset();
@@ -52,13 +46,13 @@ frmClock::~frmClock() {
 
 void frmClock::Open() {
     const HICON icon = LoadIconW(GetModuleHandleW(nullptr), L"AAATORVANIX");
-    Create(ClassName, texts(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
+    Create(ClassName, captions(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
     accelerators = MakeClockAccelerators();
     panels.Create();
     for (int id = cmdClock; id <= cmdPause + 1; ++id)
         SetWindowSubclass(Control(id), ButtonProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
     LoadPictures();
-    SetMenu(Window(), MakeClockMenu(texts));
+    SetMenu(Window(), MakeClockMenu(captions));
     panels.ApplyTexts();
     PlaceWindow();
     commands.Initialise();
@@ -137,6 +131,23 @@ RECT frmClock::PlaceBeside() {
     return {left, top, left + width, top + height};
 }
 
+void frmClock::ShowSetup() {
+    if (!commands.SetupEnabled()) return;
+    frmSetup setup(texts, messageBoxes, environment.appearance.backgroundColour, settingsFile, settings,
+                   [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
+    setup.Open(Window());
+    setup.RunModal();
+    if (!setup.Accepted()) return;
+    commands.TakeTimeControl(ShownTimeControl());
+    if (scorlet) scorlet->ShowRecord();
+}
+
+void frmClock::ShowAbout() {
+    frmAbout about(texts, messageBoxes, environment.appearance.backgroundColour);
+    about.Open(Window());
+    about.RunModal();
+}
+
 void frmClock::CloseScorlet() {
     if (!scorlet) return;
     if (!messageBoxes.Ask(scorlet->Window(), texts(TextId::CloseScorletQuestion), true, TextId::CloseScorletTitle))
@@ -203,8 +214,9 @@ void frmClock::PhaseChanged() {
 void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
     const bool paused = commands.CurrentPhase() == Phase::Paused;
-    const std::wstring pause = texts(paused ? TextId::MenuResume : TextId::MenuPause);
+    const std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
     ModifyMenuW(menu, mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
+    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (commands.SetupEnabled() ? MF_ENABLED : MF_GRAYED));
     EnableMenuItem(menu, mnuCloseScorlet, MF_BYCOMMAND | (scorlet ? MF_ENABLED : MF_GRAYED));
 }
 
@@ -253,7 +265,12 @@ bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::Rese
 modClock::TimeControl frmClock::ReadTimeControl() {
     const std::wstring problem = settingsFile.Load(settings, texts);
     if (!problem.empty()) problems.push_back(problem);
-    SetWindowTextW(Window(), texts(TextId::ProductTitle).c_str());
+    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
+    return ShownTimeControl();
+}
+
+// Shows what the settings say; the rest of them is for the clock.
+modClock::TimeControl frmClock::ShownTimeControl() {
     panels.ShowSettings();
     modClock::TimeControl control;
     control.PeriodLimit = settings.PeriodLimit;
@@ -314,7 +331,9 @@ void frmClock::OnCommand(int id) {
         case mnuPause: return commands.PauseOrResume();
         case mnuShowScorlet: return ShowScorlet();
         case mnuCloseScorlet: return CloseScorlet();
-        case mnuContents: return help.Open(Window(), TextId::HelpContents);
+        case mnuSetup: return ShowSetup();
+        case mnuContents: return help.Open(Window(), HelpPage::Contents);
+        case mnuAbout: return ShowAbout();
         case cmdPause:
         case cmdPause + 1: return commands.PauseOrResume(PlaceOf(id).side);
         default: return;

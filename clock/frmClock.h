@@ -59,6 +59,9 @@ class frmClock : public Form, private ClockView, private ScorletHost {
 
     void LoadPictures();
     void ShowScorlet();
+    void ShowSetup();
+    void ShowAbout();
+    modClock::TimeControl ShownTimeControl();
     void UpdateMenu();
     RECT PlaceBeside();
     void PlaceWindow();

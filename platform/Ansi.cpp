@@ -17,3 +17,9 @@ std::string ToAnsi(std::wstring_view text) {
     WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
     return narrow;
 }
+
+std::optional<std::string> ToAnsiExactly(std::wstring_view text) {
+    std::string narrow = ToAnsi(text);
+    if (FromAnsi(narrow) != text) return std::nullopt;
+    return narrow;
+}

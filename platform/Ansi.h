@@ -1,10 +1,14 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
-// Windows are Unicode, files are in the system's ANSI code page. These two are the only way from one to the other.
+// Windows are Unicode, files are in the system's ANSI code page. These are the only way from one to the other.
 std::wstring FromAnsi(std::string_view text);
 
 // A character that the code page lacks becomes the code page's replacement character.
 std::string ToAnsi(std::wstring_view text);
+
+// Nothing where the code page cannot give every character back.
+std::optional<std::string> ToAnsiExactly(std::wstring_view text);

@@ -5,11 +5,18 @@
 #include "platform/Dpi.h"
 #include "platform/SystemError.h"
 
+RECT WorkArea(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
+
 Form::~Form() {
     if (window) DestroyWindow(window);
 }
 
-void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon) {
+void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon, HWND owner) {
     WNDCLASSEXW windowClass{};
     windowClass.cbSize = sizeof(windowClass);
     windowClass.lpfnWndProc = Procedure;
@@ -20,7 +27,7 @@ void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style,
     // A class that is registered already serves the form's next opening.
     if (!RegisterClassExW(&windowClass) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
         throw SystemError(GetLastError(), name);
-    if (!CreateWindowExW(WS_EX_CONTROLPARENT, name, caption.c_str(), style, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr,
+    if (!CreateWindowExW(WS_EX_CONTROLPARENT, name, caption.c_str(), style, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, owner,
                          nullptr, GetModuleHandleW(nullptr), this))
         throw SystemError(GetLastError(), name);
 }

@@ -4,8 +4,12 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <exception>
 #include <string>
+
+// What the taskbar leaves of the screen that a window is on.
+RECT WorkArea(HWND window);
 
 // Base of every window of the program: one window class per form, its messages as one virtual function, and the one
 // place where an exception of a handler ends.
@@ -30,11 +34,12 @@ class Form {
 
   protected:
     // `messageBoxes` must outlive the form.
-    Form(const Texts& texts, const MessageBoxes& messageBoxes) : texts(texts), messageBoxes(messageBoxes) {}
+    Form(const Texts& texts, const MessageBoxes& messageBoxes)
+        : texts(texts), messageBoxes(messageBoxes), language(texts.LanguageIndex()), captions(language) {}
 
     // Creates the window, hidden and without size. `name` names its class and must be the form's own.
     // Throws SystemError.
-    void Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon);
+    void Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon, HWND owner = nullptr);
 
     // Dots per inch of the screen that the window is on. It changes with the screen, and the window then takes the size
     // that the system proposes.
@@ -43,8 +48,12 @@ class Form {
     // A message of the window; what a form does not handle it passes on to Form::Handle.
     virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
-    const Texts& texts;
+    const Texts& texts;  // for messages
     const MessageBoxes& messageBoxes;
+
+    // What stands on a window stays in the language that it was made in, also when another one is chosen later.
+    const int32_t language;
+    const Texts captions;
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

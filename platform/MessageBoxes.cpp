@@ -1,6 +1,6 @@
 #include "platform/MessageBoxes.h"
 
-#include <vector>
+#include "platform/OtherWindowsDisabled.h"
 
 namespace {
 
@@ -45,32 +45,6 @@ class ButtonTexts {
 };
 
 thread_local ButtonTexts* ButtonTexts::current = nullptr;
-
-// Disables the program's other windows: the system itself disables the owner only.
-class OtherWindowsDisabled {
-  public:
-    explicit OtherWindowsDisabled(HWND owner) : owner(owner) {
-        EnumThreadWindows(GetCurrentThreadId(), Disable, reinterpret_cast<LPARAM>(this));
-    }
-    ~OtherWindowsDisabled() {
-        for (HWND window : disabled) EnableWindow(window, TRUE);
-    }
-    OtherWindowsDisabled(const OtherWindowsDisabled&) = delete;
-    OtherWindowsDisabled& operator=(const OtherWindowsDisabled&) = delete;
-
-  private:
-    static BOOL CALLBACK Disable(HWND window, LPARAM self) {
-        auto& scope = *reinterpret_cast<OtherWindowsDisabled*>(self);
-        if (window != scope.owner && IsWindowVisible(window) && IsWindowEnabled(window)) {
-            EnableWindow(window, FALSE);
-            scope.disabled.push_back(window);
-        }
-        return TRUE;
-    }
-
-    HWND owner;
-    std::vector<HWND> disabled;
-};
 
 }  // namespace
 

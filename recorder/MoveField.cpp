@@ -11,8 +11,7 @@ void MoveField::Create(UINT message) {
     const HWND field = form.AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
     form.AddControl(WC_BUTTONW, cmdOK, WS_TABSTOP | BS_PUSHBUTTON);
     SetWindowSubclass(field, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
-    toolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
-                               0, 0, form.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+    toolTips.Create();
 }
 
 void MoveField::Show(const std::wstring& text) {
@@ -44,19 +43,7 @@ void MoveField::OnChange() {
         SendMessageW(form.Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
         settingText = false;
     }
-    ShowLastGood();
-}
-
-void MoveField::ShowLastGood() const {
-    std::wstring text = typed.LastGood();
-    TOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
-    tool.hwnd = form.Window();
-    tool.uId = reinterpret_cast<UINT_PTR>(form.Control(txtMove));
-    tool.lpszText = text.data();
-    SendMessageW(toolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    SendMessageW(toolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    toolTips.Set(txtMove, typed.LastGood());
 }
 
 bool MoveField::TakesCharacter(wchar_t character) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/ToolTips.h"
 #include "recorder/TypedMove.h"
 
 #include <string>
@@ -10,7 +11,7 @@
 class MoveField {
   public:
     // The form must outlive the field.
-    explicit MoveField(Form& form) : form(form) {}
+    explicit MoveField(Form& form) : form(form), toolTips(form) {}
 
     // Makes the controls, hidden. Enter and Esc in the field send the form `endMessage` with 1 or 0 in wParam.
     void Create(UINT endMessage);
@@ -23,14 +24,13 @@ class MoveField {
     void OnChange();
 
   private:
-    void ShowLastGood() const;
     bool TakesCharacter(wchar_t character);
     static LRESULT CALLBACK Procedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                       DWORD_PTR self);
 
     Form& form;
+    ToolTips toolTips;
     TypedMove typed;
     UINT endMessage = 0;
-    HWND toolTips = nullptr;
     bool settingText = false;
 };

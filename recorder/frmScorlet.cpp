@@ -66,7 +66,7 @@ std::wstring frmScorlet::Open(const RECT& place) {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     handPointBlue.reset(static_cast<HCURSOR>(
         LoadImageW(program, L"HANDPOINTBLUE.CUR", IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR)));
-    Create(ClassName, texts(TextId::ScorletTitle), Style, LoadIconW(program, L"WPICON.ICO"));
+    Create(ClassName, captions(TextId::ScorletTitle), Style, LoadIconW(program, L"WPICON.ICO"));
     CreateControls();
     std::wstring problem;
     try {
@@ -103,12 +103,12 @@ void frmScorlet::CreateControls() {
 }
 
 void frmScorlet::ApplyTexts() {
-    SetText(lblCaptured, texts(TextId::CapturedPieces));
-    SetText(lblPromotion, texts(TextId::PromoteTo));
-    SetText(lblSay, texts(TextId::Say));
-    SetText(cmdOK, texts(TextId::ButtonOk));
-    for (int i = 0; i < 4; ++i) SetText(imgPromotionQ + i, texts(PromotionTexts[static_cast<size_t>(i)]));
-    say.ApplyTexts(texts);
+    SetText(lblCaptured, captions(TextId::CapturedPieces));
+    SetText(lblPromotion, captions(TextId::PromoteTo));
+    SetText(lblSay, captions(TextId::Say));
+    SetText(cmdOK, captions(TextId::ButtonOk));
+    for (int i = 0; i < 4; ++i) SetText(imgPromotionQ + i, captions(PromotionTexts[static_cast<size_t>(i)]));
+    say.ApplyTexts(captions);
 }
 
 void frmScorlet::Arrange() {
@@ -320,9 +320,9 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
     }
     const UINT state = SendMessageW(control, LB_GETCURSEL, 0, 0) >= 0 ? MF_ENABLED : MF_GRAYED;
     const HMENU menu = CreatePopupMenu();
-    AppendMenuW(menu, MF_STRING | state, mnuEditMove, texts(TextId::EditMove).c_str());
-    AppendMenuW(menu, MF_STRING | MF_GRAYED, mnuPrintMoveList, texts(TextId::PrintMoveList).c_str());
-    AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, texts(TextId::DeleteLastMove).c_str());
+    AppendMenuW(menu, MF_STRING | state, mnuEditMove, captions(TextId::EditMove).c_str());
+    AppendMenuW(menu, MF_STRING | MF_GRAYED, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
+    AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, captions(TextId::DeleteLastMove).c_str());
     TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
     DestroyMenu(menu);
     return true;

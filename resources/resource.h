@@ -4,6 +4,13 @@
 
 // Numbers of the controls of every form. A pair of controls has consecutive numbers, side 0 first.
 
+// Buttons that several forms have.
+enum SharedControl : int {
+    cmdCancel = 2,  // the number that the system gives Esc
+    cmdOK = 900,
+    cmdHelp,
+};
+
 // The clock window.
 enum ClockControl : int {
     cmdClock = 1000,
@@ -60,11 +67,59 @@ enum ScorletControl : int {
     cmbSay,
     lstMoves = 2152,  // White's list, then Black's
     txtMove = 2154,
-    cmdOK,
 
     mnuEditMove = 2160,
     mnuPrintMoveList,
     mnuDeleteLastMove,
+};
+
+// The setup dialog.
+enum SetupControl : int {
+    txtName = 2200,
+    lblName = 2202,
+    hsbFirstPeriod = 2204,
+    hsbSecondPeriod = 2206,
+    hsbBonus = 2208,
+    lblFirstPeriod = 2210,  // the values beside the scroll bars
+    lblSecondPeriod = 2212,
+    lblBonusValue = 2214,
+    fraClockType = 2220,
+    lblClockType,
+    cmbClockType,
+    fraPlayers,
+    lblFirstCaption,
+    lblFirstUnit,
+    lblSecondCaption,
+    lblSecondUnit,
+    lblBonusCaption,
+    lblBonusUnit,
+    frameLanguage,
+    cmbLanguage,
+    fraScorlet,
+    chkOpenScorlet,
+    chkPGN,
+    lblMoveAmount,
+    cmbMoveAmount,
+    fraSound,
+    lblButtonSound,
+    cmbButtonSound,
+    cmdPreviewButton,
+    lblFlagSound,
+    cmbFlagSound,
+    cmdPreviewFlag,
+    fraMiscellaneous,
+    chkShowMoveNumber,
+    chkTurnClock,
+    chkCountTimeDown,
+    cmdDefault,
+    cmdBlitz,
+};
+
+// The about box.
+enum AboutControl : int {
+    imgKnight = 2300,  // four of them
+    lblAboutCaption = 2304,
+    lblAboutValue = 2308,
 };
 
 // Captured pieces of a side.

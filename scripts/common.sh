@@ -18,7 +18,7 @@ ensure_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest)
+build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest fp-utils python3)
 wine_packages=(wine wine64 fonts-liberation fonts-wine)
 display_packages=(xvfb imagemagick)
 

@@ -123,14 +123,17 @@ TEST_P(frmClockTest, MenusHoldTheirEntriesAndKeys) {
             entries.push_back(EntryOf(popup, static_cast<UINT>(entry)));
         EXPECT_EQ(entries, menus[i].entries);
     }
-    for (int entry : {mnuLoad, mnuSave, mnuDelete, mnuSetup, mnuCloseScorlet, mnuPrint, mnuAbout})
+    for (int entry : {mnuLoad, mnuSave, mnuDelete, mnuCloseScorlet, mnuPrint})
         EXPECT_TRUE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
-    for (int entry : {mnuStart, mnuExit, mnuReset, mnuPause, mnuShowScorlet, mnuContents})
+    for (int entry : {mnuStart, mnuExit, mnuReset, mnuPause, mnuSetup, mnuShowScorlet, mnuContents, mnuAbout})
         EXPECT_FALSE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
 
     SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);
+    EXPECT_TRUE(GetMenuState(bar, mnuSetup, MF_BYCOMMAND) & MF_GRAYED) << "a game is on";
+    settings.LanguageIndex = GetParam() % 3 + 1;
     SendMessageW(form->Window(), WM_COMMAND, mnuPause, 0);
-    EXPECT_EQ(EntryOf(GetSubMenu(bar, 1), 1), texts(TextId::MenuResume));
+    settings.LanguageIndex = GetParam();
+    EXPECT_EQ(EntryOf(GetSubMenu(bar, 1), 1), texts(TextId::MenuResume)) << "in the language of the window";
     SendMessageW(form->Window(), WM_COMMAND, mnuPause, 0);
     EXPECT_EQ(EntryOf(GetSubMenu(bar, 1), 1), texts(TextId::MenuPause));
 }

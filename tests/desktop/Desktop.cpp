@@ -5,16 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 namespace {
-
-std::wstring ProgramPath() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return path.substr(0, path.rfind(L'\\') + 1) + L"torvanix.exe";
-}
 
 void RemoveFolder(const std::wstring& path) {
     WIN32_FIND_DATAW found;
@@ -74,6 +69,12 @@ void MoveMouseTo(HWND window) {
     EXPECT_TRUE(there) << "the mouse does not reach the window";
 }
 
+std::wstring BuildFolder() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return path.substr(0, path.rfind(L'\\') + 1);
+}
+
 bool Eventually(const std::function<bool()>& condition, int milliseconds) {
     const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
     while (!condition()) {
@@ -116,6 +117,22 @@ std::string ReadFileText(const std::wstring& path) {
 
 bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
+std::wstring CaptureFile() {
+    const wchar_t* path = _wgetenv(L"TORVANIX_SOUND_CAPTURE");
+    return path ? path : L"";
+}
+
+size_t LoudSamples() {
+    const std::string stream = ReadFileText(CaptureFile());
+    size_t count = 0;
+    for (size_t i = 0; i + 1 < stream.size(); i += 2) {
+        const auto sample =
+            static_cast<int16_t>(static_cast<uint8_t>(stream[i]) | static_cast<uint8_t>(stream[i + 1]) << 8);
+        if (std::abs(sample) > 2000) ++count;
+    }
+    return count;
+}
+
 Settings QuietSettings() {
     Settings settings;
     settings.SetButtonSound(0);
@@ -126,7 +143,7 @@ Settings QuietSettings() {
 
 ProgramRun::ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings) {
     const std::wstring program = folder.Path() + L"torvanix.exe";
-    CopyFileW(ProgramPath().c_str(), program.c_str(), FALSE);
+    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), program.c_str(), FALSE);
     if (settings) {
         CreateDirectoryW((folder.Path() + L"Data").c_str(), nullptr);
         WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(WriteSettings(*settings)));

@@ -16,6 +16,9 @@
 // Waits until the condition holds; false after the deadline.
 bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000);
 
+// Where the programs lie that the build makes, this one among them; with a trailing backslash.
+std::wstring BuildFolder();
+
 // Text of a window of any process.
 std::wstring TextOf(HWND window);
 
@@ -40,6 +43,11 @@ class TestFolder {
 void WriteFileText(const std::wstring& path, const std::string& bytes);
 std::string ReadFileText(const std::wstring& path);  // empty where there is no such file
 bool Exists(const std::wstring& path);
+
+// What the program has played, where the sound system of this machine writes it to a file; empty where it does not.
+std::wstring CaptureFile();
+// Samples of the last sound played that are not silence: every sound begins the 16-bit stream anew.
+size_t LoudSamples();
 
 // The DEFAULT preset without sounds and without the Scorlet.
 Settings QuietSettings();

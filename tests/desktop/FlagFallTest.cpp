@@ -2,30 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
-namespace {
-
-// What the program has played, where the sound system of this machine writes it to a file; empty where it does not.
-std::wstring CaptureFile() {
-    const wchar_t* path = _wgetenv(L"TORVANIX_SOUND_CAPTURE");
-    return path ? path : L"";
-}
-
-// Samples of the last sound played that are not silence: every sound begins the 16-bit stream anew.
-size_t LoudSamples() {
-    const std::string stream = ReadFileText(CaptureFile());
-    size_t count = 0;
-    for (size_t i = 0; i + 1 < stream.size(); i += 2) {
-        const auto sample =
-            static_cast<int16_t>(static_cast<uint8_t>(stream[i]) | static_cast<uint8_t>(stream[i + 1]) << 8);
-        if (std::abs(sample) > 2000) ++count;
-    }
-    return count;
-}
-
-}  // namespace
-
 TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     const TestFolder folder;
     Settings settings;

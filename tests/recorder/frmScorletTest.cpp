@@ -1,7 +1,7 @@
 #include "recorder/frmScorlet.h"
 
 #include "platform/Dpi.h"
-#include "resources/resource.h"
+#include "tests/desktop/TextFit.h"
 
 #include <gtest/gtest.h>
 
@@ -21,15 +21,6 @@ struct SilentHost : ScorletHost {
 
 class frmScorletTest : public testing::TestWithParam<int32_t> {};
 
-int WidthOf(HWND control, const std::wstring& text) {
-    const HDC dc = GetDC(control);
-    const Selection selection(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    SIZE size{};
-    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-    ReleaseDC(control, dc);
-    return static_cast<int>(size.cx);
-}
-
 }  // namespace
 
 TEST_P(frmScorletTest, EveryTextFitsItsControlAtEverySize) {
@@ -44,17 +35,7 @@ TEST_P(frmScorletTest, EveryTextFitsItsControlAtEverySize) {
                                         std::array{ScorletLeastWidth, ScorletLeastHeight}, std::array{1200, 900}}) {
         SCOPED_TRACE(testing::Message() << width << " x " << height);
         SetWindowPos(form.Window(), nullptr, 0, 0, Scaled(width, 96) + 20, Scaled(height, 96) + 40, SWP_NOZORDER);
-        const auto expectFits = [&](int id, TextId text, int room = 0) {
-            RECT area{};
-            GetClientRect(form.Control(id), &area);
-            EXPECT_LE(WidthOf(form.Control(id), texts(text)) + room, area.right) << id;
-        };
-        expectFits(lblCaptured, TextId::CapturedPieces);
-        expectFits(lblPromotion, TextId::PromoteTo);
-        expectFits(lblSay, TextId::Say);
-        expectFits(cmdOK, TextId::ButtonOk, 8);
-        constexpr int dropButton = 26;
-        for (int i = 0; i < 4; ++i) expectFits(cmbSay, RowBehind(TextId::SayCheck, i), dropButton);
+        ExpectTextsFit(form.Window());
     }
 }
 

@@ -1,0 +1,119 @@
+#include "platform/Dialog.h"
+
+#include "platform/Dpi.h"
+#include "platform/OtherWindowsDisabled.h"
+#include "platform/Painting.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int TypeHeight = 13;  // of the 96 dpi design
+
+}  // namespace
+
+Dialog::Dialog(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t colour)
+    : Form(texts, messageBoxes),
+      background(CreateSolidBrush(RGB(colour >> 16 & 0xFF, colour >> 8 & 0xFF, colour & 0xFF))) {}
+
+void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
+                    std::span<const DialogItem> controls) {
+    items = controls;
+    Form::Create(name, captions(caption), WS_POPUP | WS_CAPTION | WS_SYSMENU,
+                 LoadIconW(GetModuleHandleW(nullptr), icon), owner);
+    for (const DialogItem& item : items) {
+        AddControl(item.kind, item.id, WS_VISIBLE | item.style);
+        if (item.text) SetText(item.id, captions(*item.text));
+    }
+    Place(owner, width, height);
+    Arrange();
+}
+
+// In the middle of the owner, and on the screen.
+void Dialog::Place(HWND owner, int width, int height) {
+    const RECT screen = WorkArea(owner);
+    RECT around{}, frame{0, 0, Scaled(width, Dpi()), Scaled(height, Dpi())};
+    GetWindowRect(owner, &around);
+    AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)), FALSE, 0);
+    const LONG wide = frame.right - frame.left, high = frame.bottom - frame.top;
+    const LONG left = std::max(std::min((around.left + around.right - wide) / 2, screen.right - wide), screen.left);
+    const LONG top = std::max(std::min((around.top + around.bottom - high) / 2, screen.bottom - high), screen.top);
+    SetWindowPos(Window(), nullptr, left, top, wide, high, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Dialog::Arrange() {
+    UniqueFont previous = std::move(font);
+    font = MakeFont(Scaled(TypeHeight, Dpi()), false);
+    for (const DialogItem& item : items) {
+        const Box& box = item.box;
+        SendMessageW(Control(item.id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
+        SetWindowPos(Control(item.id), nullptr, Scaled(box.left, Dpi()), Scaled(box.top, Dpi()),
+                     Scaled(box.width, Dpi()), Scaled(box.height, Dpi()), SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Dialog::RunModal() {
+    {
+        const OtherWindowsDisabled others(Window());
+        open = true;
+        ShowWindow(Window(), SW_SHOW);
+        MSG message{};
+        while (open && Window()) {
+            if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+                // The program ends: its own loop must see that too.
+                PostQuitMessage(static_cast<int>(message.wParam));
+                break;
+            }
+            if (IsDialogMessageW(Window(), &message)) continue;
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    // After the owner is enabled again: the system would activate another program's window otherwise.
+    if (Window()) DestroyWindow(Window());
+}
+
+void Dialog::Close() {
+    open = false;
+    // The loop looks again after the next message.
+    PostMessageW(Window(), WM_NULL, 0, 0);
+}
+
+int Dialog::EnterButton() const {
+    const HWND focused = GetFocus();
+    const bool button = SendMessageW(focused, WM_GETDLGCODE, 0, 0) & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON);
+    return focused && button ? GetDlgCtrlID(focused) : DefaultButton();
+}
+
+LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case DM_GETDEFID:
+            if (const int id = EnterButton()) return MAKELRESULT(id, DC_HASDEFID);
+            return 0;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) == WA_INACTIVE) {
+                focus = GetFocus();
+            } else if (!IsChild(Window(), GetFocus())) {
+                const HWND first = GetNextDlgTabItem(Window(), nullptr, FALSE);
+                const bool takesFocus = first && GetWindowLongPtrW(first, GWL_STYLE) & WS_TABSTOP;
+                SetFocus(focus ? focus : takesFocus ? first : Window());
+            }
+            return 0;
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+            return reinterpret_cast<LRESULT>(background.get());
+        case WM_ERASEBKGND: {
+            RECT client{};
+            GetClientRect(Window(), &client);
+            FillRect(reinterpret_cast<HDC>(wParam), &client, background.get());
+            return TRUE;
+        }
+        case WM_SIZE: Arrange(); return 0;
+        case WM_CLOSE: Close(); return 0;
+        default: return Form::Handle(message, wParam, lParam);
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "base/Box.h"
+#include "platform/Form.h"
+#include "platform/Handles.h"
+
+#include <optional>
+#include <span>
+
+// A control of a dialog.
+struct DialogItem {
+    int id;
+    const wchar_t* kind;
+    DWORD style;  // WS_VISIBLE is added
+    Box box;      // in the 96 dpi design
+    std::optional<TextId> text = std::nullopt;
+};
+
+// Base of the forms that stand over the clock until they are closed. Enter presses the default button, or the one that
+// has the focus, Esc the one with the number IDCANCEL.
+class Dialog : public Form {
+  public:
+    // Shows the window, which must have been created, with the other windows of the program disabled, until Close.
+    // Running clocks go on.
+    void RunModal();
+
+  protected:
+    // `background` as 0xRRGGBB.
+    Dialog(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background);
+
+    // Creates the window over its owner, hidden, with its items in their order, which is that of reading and of the
+    // tab key. `width` and `height` are those of the design. The items must outlive the dialog. Throws SystemError.
+    void Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
+                std::span<const DialogItem> items);
+
+    void Close();
+
+    // The button that Enter presses while no other has the focus; 0: none.
+    virtual int DefaultButton() const { return 0; }
+
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    HBRUSH Background() const { return background.get(); }
+
+  private:
+    void Place(HWND owner, int width, int height);
+    void Arrange();
+    int EnterButton() const;
+
+    UniqueBrush background;
+    UniqueFont font;
+    std::span<const DialogItem> items;
+    HWND focus = nullptr;  // while the window is not active
+    bool open = false;
+};

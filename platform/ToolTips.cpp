@@ -1,0 +1,37 @@
+#include "platform/ToolTips.h"
+
+namespace {
+
+// The size of the structure's first version, which every version of the common controls takes.
+TOOLINFOW ToolOf(HWND form, UINT flags, UINT_PTR id, std::wstring& text) {
+    TOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_SUBCLASS | flags;
+    tool.hwnd = form;
+    tool.uId = id;
+    tool.lpszText = text.data();
+    return tool;
+}
+
+}  // namespace
+
+void ToolTips::Create() {
+    window = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0,
+                             0, form.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+void ToolTips::Set(int id, std::wstring text) const {
+    TOOLINFOW tool = ToolOf(form.Window(), TTF_IDISHWND, reinterpret_cast<UINT_PTR>(form.Control(id)), text);
+    Replace(tool);
+}
+
+void ToolTips::SetArea(int id, const RECT& area, std::wstring text) const {
+    TOOLINFOW tool = ToolOf(form.Window(), 0, static_cast<UINT_PTR>(id), text);
+    tool.rect = area;
+    Replace(tool);
+}
+
+void ToolTips::Replace(TOOLINFOW& tool) const {
+    SendMessageW(window, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(window, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "settings/Settings.h"
+
+// What the setup dialog lets the players set.
+
+// The range of a time's scroll bar and its steps: minutes for periods, seconds for the bonus.
+struct TimeScale {
+    int32_t least, most, smallStep, largeStep;
+};
+inline constexpr TimeScale FirstPeriodScale{1, 180, 1, 5};
+inline constexpr TimeScale SecondPeriodScale{0, 180, 1, 5};
+inline constexpr TimeScale BonusScale{0, 3599, 1, 10};
+
+// The move amounts in the list.
+inline constexpr int32_t MostMovesListed = 100;
+
+// What can be set with a clock type. A number that is no type takes nothing away.
+struct TypeRules {
+    bool secondPeriod;
+    bool bonus;
+    bool moveAmount;
+};
+TypeRules RulesOf(int32_t clockType);
+
+// Takes the type with its rules: what cannot be set becomes 0, and HOURGLASS counts down.
+void ChooseClockType(Settings& settings, int32_t type);
+
+// Takes a preset, then the rules of its type.
+void ChoosePreset(Settings& settings, const Preset& preset);

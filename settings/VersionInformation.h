@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+// What the running program file says of itself in its version resource; empty where it says nothing.
+struct VersionInformation {
+    std::wstring Comments;
+    std::wstring ProductName;
+    std::wstring Version;  // major.minor.revision
+    std::wstring LegalCopyright;
+};
+
+VersionInformation ReadVersionInformation();

@@ -1,0 +1,73 @@
+#include "settings/frmAbout.h"
+
+#include "platform/SystemError.h"
+#include "resources/resource.h"
+#include "settings/VersionInformation.h"
+#include "settings/modResource.h"
+
+#include <commctrl.h>
+
+namespace {
+
+constexpr std::array KnightNames{"WN", "BN", "BNR", "WNR"};
+
+// The knights of a colour face each other across the texts.
+constexpr int Width = 690, Height = 250, Knight = 96, Row = 44;
+
+constexpr DialogItem KnightAt(int index, int left, int top) {
+    return {imgKnight + index, WC_STATICW, SS_OWNERDRAW, {left, top, Knight, Knight}};
+}
+constexpr DialogItem CaptionAt(int row, TextId text) {
+    return {lblAboutCaption + row, WC_STATICW, SS_NOPREFIX | SS_RIGHT, {124, 40 + Row * row, 130, 36}, text};
+}
+constexpr DialogItem ValueAt(int row) {
+    return {lblAboutValue + row, WC_STATICW, SS_NOPREFIX, {266, 40 + Row * row, 302, 36}};
+}
+
+constexpr std::array Items{
+    CaptionAt(0, TextId::CopyrightNotice),
+    ValueAt(0),
+    CaptionAt(1, TextId::ProgramName),
+    ValueAt(1),
+    CaptionAt(2, TextId::Version),
+    ValueAt(2),
+    CaptionAt(3, TextId::LegalTrademarks),
+    ValueAt(3),
+    KnightAt(0, 16, 20),
+    KnightAt(1, 16, 134),
+    KnightAt(2, Width - 16 - Knight, 20),
+    KnightAt(3, Width - 16 - Knight, 134),
+};
+
+}  // namespace
+
+void frmAbout::Open(HWND owner) {
+    Create(owner, L"frmAbout", TextId::ProductTitle, L"AAATORVANIX", Width, Height, Items);
+    const VersionInformation version = ReadVersionInformation();
+    SetText(lblAboutValue, version.Comments);
+    SetText(lblAboutValue + 1, version.ProductName);
+    SetText(lblAboutValue + 2, version.Version);
+    SetText(lblAboutValue + 3, version.LegalCopyright);
+    for (size_t i = 0; i < knights.size(); ++i) {
+        SetText(imgKnight + static_cast<int>(i), captions(TextId::PromotionKnight));
+        knights[i] = Picture(*modResource::LoadResourcePicture(KnightNames[i]));
+    }
+}
+
+LRESULT frmAbout::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_LBUTTONUP:
+        case WM_RBUTTONUP: Close(); return 0;
+        case WM_COMMAND:
+            // Enter and Esc: there is no control to send another.
+            Close();
+            return 0;
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+            FillRect(item.hDC, &item.rcItem, Background());
+            knights[item.CtlID - imgKnight].Draw(item.hDC, 0, 0, static_cast<int>(item.rcItem.right));
+            return TRUE;
+        }
+        default: return Dialog::Handle(message, wParam, lParam);
+    }
+}

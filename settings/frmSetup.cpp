@@ -1,0 +1,352 @@
+#include "settings/frmSetup.h"
+
+#include "clock/TimeText.h"
+#include "platform/Ansi.h"
+#include "platform/SystemError.h"
+#include "resources/resource.h"
+#include "settings/modSound.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int Width = 720, Height = 472;
+constexpr int LineHeight = 18, OpenListHeight = 240;
+
+constexpr DialogItem Group(int id, Box box, TextId text) { return {id, WC_BUTTONW, BS_GROUPBOX, box, text}; }
+constexpr DialogItem Label(int id, Box box, TextId text) { return {id, WC_STATICW, SS_LEFT, box, text}; }
+constexpr DialogItem CheckBox(int id, int left, int top, TextId text) {
+    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTOCHECKBOX, {left, top, 262, 20}, text};
+}
+constexpr DialogItem List(int id, int left, int top, int width) {
+    return {id, WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, {left, top, width, OpenListHeight}};
+}
+constexpr DialogItem Button(int id, Box box, TextId text) {
+    return {id, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, box, text};
+}
+constexpr DialogItem Name(int id, int left, int top) {
+    return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, 180, 23}};
+}
+// A caption over the scroll bars of both sides; what it says depends on the clock type.
+constexpr DialogItem TimeCaption(int id, int top) { return {id, WC_STATICW, SS_NOPREFIX, {22, top, 290, LineHeight}}; }
+constexpr DialogItem Unit(int id, int top, TextId text) {
+    return {id, WC_STATICW, SS_RIGHT | SS_NOTIFY, {312, top, 84, LineHeight}, text};
+}
+constexpr DialogItem Bar(int id, int left, int top) {
+    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 128, 20}};
+}
+constexpr DialogItem Value(int id, int left, int top) {
+    return {id, WC_STATICW, SS_RIGHT, {left, top + 2, 46, LineHeight}};
+}
+
+constexpr std::array Items{
+    Group(fraClockType, {10, 8, 400, 80}, TextId::ClockTypeGroup),
+    Label(lblClockType, {22, 30, 376, LineHeight}, TextId::SelectClockType),
+    List(cmbClockType, 22, 52, 376),
+    Group(fraPlayers, {10, 96, 400, 322}, TextId::PlayersGroup),
+    Label(lblName, {22, 118, 180, LineHeight}, TextId::WhiteName),
+    Name(txtName, 22, 138),
+    Label(lblName + 1, {216, 118, 180, LineHeight}, TextId::BlackName),
+    Name(txtName + 1, 216, 138),
+    TimeCaption(lblFirstCaption, 184),
+    Unit(lblFirstUnit, 184, TextId::HoursMinutes),
+    Bar(hsbFirstPeriod, 22, 207),
+    Value(lblFirstPeriod, 154, 207),
+    Bar(hsbFirstPeriod + 1, 216, 207),
+    Value(lblFirstPeriod + 1, 350, 207),
+    TimeCaption(lblSecondCaption, 262),
+    Unit(lblSecondUnit, 262, TextId::HoursMinutes),
+    Bar(hsbSecondPeriod, 22, 285),
+    Value(lblSecondPeriod, 154, 285),
+    Bar(hsbSecondPeriod + 1, 216, 285),
+    Value(lblSecondPeriod + 1, 350, 285),
+    TimeCaption(lblBonusCaption, 340),
+    Unit(lblBonusUnit, 340, TextId::MinutesSeconds),
+    Bar(hsbBonus, 22, 363),
+    Value(lblBonusValue, 154, 363),
+    Bar(hsbBonus + 1, 216, 363),
+    Value(lblBonusValue + 1, 350, 363),
+    Group(frameLanguage, {420, 8, 290, 58}, TextId::LanguageGroup),
+    List(cmbLanguage, 432, 30, 266),
+    Group(fraScorlet, {420, 74, 290, 124}, TextId::ScorletGroup),
+    CheckBox(chkOpenScorlet, 432, 96, TextId::OpenScorlet),
+    CheckBox(chkPGN, 432, 120, TextId::SavePgn),
+    Label(lblMoveAmount, {432, 146, 266, LineHeight}, TextId::MoveAmount),
+    List(cmbMoveAmount, 432, 166, 100),
+    Group(fraSound, {420, 206, 290, 116}, TextId::SoundGroup),
+    Label(lblButtonSound, {432, 228, 266, LineHeight}, TextId::ButtonSound),
+    List(cmbButtonSound, 432, 246, 170),
+    Button(cmdPreviewButton, {610, 245, 88, 25}, TextId::Preview),
+    Label(lblFlagSound, {432, 275, 266, LineHeight}, TextId::FlagSound),
+    List(cmbFlagSound, 432, 293, 170),
+    Button(cmdPreviewFlag, {610, 292, 88, 25}, TextId::Preview),
+    Group(fraMiscellaneous, {420, 330, 290, 88}, TextId::MiscellaneousGroup),
+    CheckBox(chkShowMoveNumber, 432, 348, TextId::ShowMoveNumber),
+    CheckBox(chkTurnClock, 432, 370, TextId::TurnClock),
+    CheckBox(chkCountTimeDown, 432, 392, TextId::CountTimeDown),
+    Button(cmdDefault, {10, 430, 116, 30}, TextId::ButtonDefault),
+    Button(cmdBlitz, {134, 430, 116, 30}, TextId::ButtonBlitz),
+    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {382, 430, 104, 30}, TextId::ButtonOk},
+    Button(cmdCancel, {494, 430, 104, 30}, TextId::ButtonCancel),
+    Button(cmdHelp, {606, 430, 104, 30}, TextId::ButtonHelp),
+};
+
+constexpr std::array Times{
+    TimeBars{hsbFirstPeriod, lblFirstPeriod, FirstPeriodScale, 60, &Settings::PeriodLimit},
+    TimeBars{hsbSecondPeriod, lblSecondPeriod, SecondPeriodScale, 60, &Settings::SecondPeriodTime},
+    TimeBars{hsbBonus, lblBonusValue, BonusScale, 1, &Settings::MoveBonus},
+};
+
+struct CheckedSetting {
+    int box;
+    bool Settings::*setting;
+};
+constexpr std::array Checks{
+    CheckedSetting{chkOpenScorlet, &Settings::OpenScorletAtStart}, CheckedSetting{chkPGN, &Settings::WritePgn},
+    CheckedSetting{chkShowMoveNumber, &Settings::ShowMoveNumber},  CheckedSetting{chkTurnClock, &Settings::TurnClock},
+    CheckedSetting{chkCountTimeDown, &Settings::CountTimeDown},
+};
+
+// In the order of the list.
+constexpr std::array<int32_t, 3> Languages{English, French, Turkish};
+
+constexpr int32_t ClockTypes = 4;
+
+}  // namespace
+
+frmSetup::frmSetup(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const SettingsFile& file,
+                   Settings& settings, std::function<void(HWND)> openHelp)
+    : Dialog(texts, messageBoxes, background),
+      file(file),
+      settings(settings),
+      draft(settings),
+      openHelp(std::move(openHelp)) {}
+
+void frmSetup::Open(HWND owner) {
+    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", Width, Height, Items);
+    FillLists();
+    SetToolTips();
+    ShowDraft();
+    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.PlayerNames[side]));
+}
+
+void frmSetup::FillLists() {
+    for (int32_t i = 0; i < ClockTypes; ++i) AddEntry(cmbClockType, captions(RowBehind(TextId::ClockTypeNames, i)));
+    for (int32_t language : Languages)
+        AddEntry(cmbLanguage, captions.LookUp(TextIdentifier(TextId::LanguageNames, language)));
+    for (int32_t moves = 1; moves <= MostMovesListed; ++moves) AddEntry(cmbMoveAmount, std::to_wstring(moves));
+    if (draft.MovesFirstPeriod > MostMovesListed) AddEntry(cmbMoveAmount, std::to_wstring(draft.MovesFirstPeriod));
+    for (size_t i = 0; i < ButtonSounds.size(); ++i)
+        AddEntry(cmbButtonSound, captions(RowBehind(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
+    for (size_t i = 0; i < FlagSounds.size(); ++i)
+        AddEntry(cmbFlagSound, captions(RowBehind(TextId::FlagSoundNames, static_cast<int32_t>(i))));
+}
+
+void frmSetup::SetToolTips() {
+    toolTips.Create();
+    for (int unit : {lblFirstUnit, lblSecondUnit}) toolTips.Set(unit, captions(TextId::TipHoursMinutes));
+    toolTips.Set(lblBonusUnit, captions(TextId::TipMinutesSeconds));
+    for (int button : {cmdPreviewButton, cmdPreviewFlag}) toolTips.Set(button, captions(TextId::Preview));
+}
+
+void frmSetup::ShowDraft() {
+    Choose(cmbClockType, draft.ClockType);
+    // A language that is none of the three leaves its list without a choice.
+    const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
+    Choose(cmbLanguage, language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin()));
+    Choose(cmbMoveAmount, std::min(draft.MovesFirstPeriod - 1, MostMovesListed));
+    Choose(cmbButtonSound, draft.ButtonSoundIndex);
+    Choose(cmbFlagSound, draft.FlagSoundIndex);
+    for (const auto& [box, setting] : Checks)
+        SendMessageW(Control(box), BM_SETCHECK, draft.*setting ? BST_CHECKED : BST_UNCHECKED, 0);
+    for (const TimeBars& bars : Times) {
+        for (Side side : BothSides) ShowTime(bars, side);
+    }
+    // Last: a range makes a scroll bar enabled.
+    ShowClockType();
+}
+
+void frmSetup::ShowClockType() {
+    const TypeRules rules = RulesOf(draft.ClockType);
+    const std::wstring moves = std::to_wstring(draft.MovesFirstPeriod);
+    SetText(lblFirstCaption, rules.moveAmount
+                                 ? captions(TextId::FirstTimeBefore) + moves + captions(TextId::FirstTimeAfter)
+                                 : captions(TextId::CompleteGameTime));
+    SetText(lblSecondCaption,
+            rules.secondPeriod ? captions(TextId::SecondTimeBefore) + moves + captions(TextId::SecondTimeAfter) : L"");
+    SetText(lblBonusCaption, rules.bonus ? captions(TextId::BonusTime) : L"");
+    for (Side side : BothSides) {
+        for (int pair : {hsbSecondPeriod, lblSecondPeriod}) SetEnabled(ControlOf(pair, side), rules.secondPeriod);
+        for (int pair : {hsbBonus, lblBonusValue}) SetEnabled(ControlOf(pair, side), rules.bonus);
+    }
+    SetEnabled(lblSecondUnit, rules.secondPeriod);
+    SetEnabled(lblBonusUnit, rules.bonus);
+    SetEnabled(lblMoveAmount, rules.moveAmount);
+    SetEnabled(cmbMoveAmount, rules.moveAmount);
+}
+
+void frmSetup::ShowTime(const TimeBars& bars, Side side) {
+    const int32_t seconds = (draft.*bars.time)[side];
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_RANGE | SIF_POS;
+    info.nMin = bars.scale.least;
+    info.nMax = bars.scale.most;
+    info.nPos = seconds / bars.unit;
+    SetScrollInfo(Control(ControlOf(bars.bar, side)), SB_CTL, &info, TRUE);
+    SetText(ControlOf(bars.value, side),
+            FromAnsi(bars.unit == 60 ? HoursMinutesText(seconds) : MinutesSecondsText(seconds)));
+}
+
+LRESULT frmSetup::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
+        case WM_HSCROLL: OnScroll(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), LOWORD(wParam)); return 0;
+        case WM_MOUSEWHEEL:
+            if (OnWheel(GET_WHEEL_DELTA_WPARAM(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
+            break;
+        default: break;
+    }
+    return Dialog::Handle(message, wParam, lParam);
+}
+
+int frmSetup::DefaultButton() const { return cmdOK; }
+
+void frmSetup::OnCommand(int id, int notification) {
+    switch (id) {
+        case txtName:
+        case txtName + 1:
+            if (notification == EN_CHANGE) OnName(id == txtName ? White : Black);
+            return;
+        case cmbClockType:
+        case cmbLanguage:
+        case cmbMoveAmount:
+        case cmbButtonSound:
+        case cmbFlagSound:
+            // What the keys pass over in an open list has not been chosen: a clock type would take times away.
+            if (notification == CBN_CLOSEUP ||
+                (notification == CBN_SELCHANGE && !SendMessageW(Control(id), CB_GETDROPPEDSTATE, 0, 0)))
+                OnList(id, Chosen(id));
+            return;
+        case cmdPreviewButton: return modSound::Play(draft.ButtonSoundName);
+        case cmdPreviewFlag: return modSound::Play(draft.FlagSoundName);
+        case cmdDefault: ChoosePreset(draft, DefaultPreset); return ShowDraft();
+        case cmdBlitz: ChoosePreset(draft, BlitzPreset); return ShowDraft();
+        case cmdOK: return OnOk();
+        case cmdCancel: return Close();
+        case cmdHelp: return openHelp(Window());
+        default: break;
+    }
+    for (const auto& [box, setting] : Checks) {
+        if (box == id) draft.*setting = SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    }
+}
+
+void frmSetup::OnList(int id, int position) {
+    if (position < 0) return;
+    switch (id) {
+        case cmbClockType: ChooseClockType(draft, position); return ShowDraft();
+        case cmbLanguage: settings.LanguageIndex = Languages[static_cast<size_t>(position)]; return;
+        case cmbMoveAmount: {
+            wchar_t text[16];
+            GetWindowTextW(Control(id), text, 16);
+            draft.MovesFirstPeriod = std::stoi(text);
+            return ShowClockType();
+        }
+        case cmbButtonSound: return draft.SetButtonSound(position);
+        default: return draft.SetFlagSound(position);
+    }
+}
+
+// A change that the settings file could not hold is undone.
+void frmSetup::OnName(Side side) {
+    const HWND field = Control(ControlOf(txtName, side));
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(field)), L'\0');
+    GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1);
+    std::string& name = draft.PlayerNames[side];
+    const auto typed = ToAnsiExactly(text);
+    const size_t other = draft.PlayerNames[Other(side)].size();
+    if (typed && typed->size() + other <= static_cast<size_t>(MaxNameCharacters)) {
+        name = *typed;
+        return;
+    }
+    MessageBeep(MB_OK);
+    DWORD end = 0;
+    SendMessageW(field, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
+    const std::wstring old = FromAnsi(name);
+    const auto caret = static_cast<LPARAM>(end) - static_cast<LPARAM>(text.size()) + static_cast<LPARAM>(old.size());
+    SetWindowTextW(field, old.c_str());
+    SendMessageW(field, EM_SETSEL, static_cast<WPARAM>(std::max(caret, LPARAM{0})), std::max(caret, LPARAM{0}));
+}
+
+void frmSetup::OnScroll(int bar, int request) {
+    for (const TimeBars& bars : Times) {
+        const int side = bar - bars.bar;
+        if (side != White && side != Black) continue;
+        int32_t& seconds = (draft.*bars.time)[static_cast<size_t>(side)];
+        int32_t value = seconds / bars.unit;
+        switch (request) {
+            case SB_LINELEFT: value -= bars.scale.smallStep; break;
+            case SB_LINERIGHT: value += bars.scale.smallStep; break;
+            case SB_PAGELEFT: value -= bars.scale.largeStep; break;
+            case SB_PAGERIGHT: value += bars.scale.largeStep; break;
+            case SB_LEFT: value = bars.scale.least; break;
+            case SB_RIGHT: value = bars.scale.most; break;
+            case SB_THUMBTRACK:
+            case SB_THUMBPOSITION: {
+                SCROLLINFO info{};
+                info.cbSize = sizeof(info);
+                info.fMask = SIF_TRACKPOS;
+                GetScrollInfo(Control(bar), SB_CTL, &info);
+                value = info.nTrackPos;
+                break;
+            }
+            default: return;
+        }
+        seconds = std::clamp(value, bars.scale.least, bars.scale.most) * bars.unit;
+        return ShowTime(bars, static_cast<Side>(side));
+    }
+}
+
+// Turns the scroll bar under the mouse, else the one with the focus: a notch is a small step, forwards is more.
+bool frmSetup::OnWheel(short delta, POINT point) {
+    const auto isBar = [](HWND control) {
+        const int id = GetDlgCtrlID(control);
+        return id >= hsbFirstPeriod && id <= hsbBonus + 1 && IsWindowEnabled(control);
+    };
+    HWND bar = WindowFromPoint(point);
+    if (!isBar(bar)) bar = GetFocus();
+    if (!isBar(bar)) return false;
+    wheelRest += delta;
+    for (; wheelRest >= WHEEL_DELTA; wheelRest -= WHEEL_DELTA) OnScroll(GetDlgCtrlID(bar), SB_LINERIGHT);
+    for (; wheelRest <= -WHEEL_DELTA; wheelRest += WHEEL_DELTA) OnScroll(GetDlgCtrlID(bar), SB_LINELEFT);
+    return true;
+}
+
+void frmSetup::OnOk() {
+    draft.LanguageIndex = settings.LanguageIndex;
+    try {
+        file.Save(draft);
+    } catch (const SystemError& error) {
+        messageBoxes.Inform(Window(),
+                            texts.Compose(TextId::SettingsNotSaved, error.Thing(), texts.Reason(error.Code())));
+        return;
+    }
+    settings = draft;
+    accepted = true;
+    Close();
+}
+
+void frmSetup::AddEntry(int list, const std::wstring& text) const {
+    SendMessageW(Control(list), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+int frmSetup::Chosen(int list) const { return static_cast<int>(SendMessageW(Control(list), CB_GETCURSEL, 0, 0)); }
+
+void frmSetup::Choose(int list, int position) const {
+    SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(position), 0);
+}

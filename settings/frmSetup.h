@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/Dialog.h"
+#include "platform/ToolTips.h"
+#include "settings/SettingsFile.h"
+#include "settings/SetupRules.h"
+
+#include <array>
+#include <functional>
+
+// The scroll bars of a time, one for each side, and the labels of their values.
+struct TimeBars {
+    int bar, value;
+    TimeScale scale;
+    int32_t unit;  // seconds
+    std::array<int32_t, 2> Settings::*time;
+};
+
+// The setup dialog. It works on a draft: OK saves and takes it, all else leaves the settings as they are, but for the
+// language, which counts as soon as it is chosen.
+class frmSetup : public Dialog {
+  public:
+    // All of them must outlive the dialog. `openHelp` opens the help page of the settings over a window.
+    frmSetup(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const SettingsFile& file,
+             Settings& settings, std::function<void(HWND)> openHelp);
+
+    // Throws SystemError.
+    void Open(HWND owner);
+
+    // Whether the settings have been saved and changed.
+    bool Accepted() const { return accepted; }
+
+  private:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    int DefaultButton() const override;
+
+    void FillLists();
+    void SetToolTips();
+
+    // Show the draft in the controls.
+    void ShowDraft();
+    void ShowClockType();
+    void ShowTime(const TimeBars& bars, Side side);
+
+    void OnCommand(int id, int notification);
+    void OnList(int id, int position);
+    void OnName(Side side);
+    void OnScroll(int bar, int request);
+    bool OnWheel(short delta, POINT screenPoint);
+    void OnOk();
+
+    void AddEntry(int list, const std::wstring& text) const;
+    int Chosen(int list) const;
+    void Choose(int list, int position) const;
+
+    const SettingsFile& file;
+    Settings& settings;
+    Settings draft;
+    std::function<void(HWND)> openHelp;
+    ToolTips toolTips{*this};
+    int wheelRest = 0;  // of a notch
+    bool accepted = false;
+};

@@ -1,0 +1,74 @@
+#include "tests/desktop/Desktop.h"
+
+#include <gtest/gtest.h>
+
+// The help file in the system's viewer.
+
+namespace {
+
+constexpr wchar_t ViewerClass[] = L"HH Parent";
+
+HWND Viewer() { return FindWindowW(ViewerClass, nullptr); }
+
+// Renames a file for the life of the scope.
+class Hidden {
+  public:
+    explicit Hidden(std::wstring path) : path(std::move(path)) {
+        renamed = MoveFileW(this->path.c_str(), (this->path + L".away").c_str()) != 0;
+    }
+    ~Hidden() {
+        if (renamed) MoveFileW((path + L".away").c_str(), path.c_str());
+    }
+    Hidden(const Hidden&) = delete;
+    Hidden& operator=(const Hidden&) = delete;
+
+  private:
+    std::wstring path;
+    bool renamed;
+};
+
+}  // namespace
+
+TEST(HelpTest, OpensPagesInOneViewerThatEndsWithTheProgram) {
+    const TestFolder folder;
+    CopyFileW((BuildFolder() + L"TORVANIX.chm").c_str(), (folder.Path() + L"TORVANIX.chm").c_str(), FALSE);
+    ProgramRun run(folder, QuietSettings());
+    ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));
+    run.Choose(3, 0);
+    HWND contents = nullptr;
+    ASSERT_TRUE(Eventually([&] { return (contents = Viewer()) != nullptr && IsWindowVisible(contents); }));
+    EXPECT_EQ(TextOf(contents), L"TORVANIX");
+    // The program looks for the viewer's window every half second.
+    Sleep(1200);
+
+    SetForegroundWindow(run.Clock());
+    ASSERT_TRUE(Eventually([&] { return GetForegroundWindow() == run.Clock(); }));
+    run.Choose(3, 0);
+    EXPECT_TRUE(Eventually([&] { return GetForegroundWindow() == contents; })) << "the viewer that is open";
+
+    SetForegroundWindow(run.Clock());
+    ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));
+    run.Key('S', true);
+    run.Click(GetDlgItem(run.WaitWindow(L"frmSetup"), cmdHelp));
+    HWND page = nullptr;
+    EXPECT_TRUE(Eventually([&] { return (page = Viewer()) != nullptr && page != contents; })) << "another page";
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(contents); }));
+    Sleep(1200);
+    SendMessageW(run.WaitWindow(L"frmSetup"), WM_CLOSE, 0, 0);
+    ASSERT_TRUE(Eventually([&] { return IsWindowEnabled(run.Clock()); }));
+    EXPECT_TRUE(run.Close());
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(page); })) << "closed at the program's exit";
+}
+
+TEST(HelpTest, MissingViewerIsNamed) {
+    wchar_t windows[MAX_PATH], system[MAX_PATH];
+    GetWindowsDirectoryW(windows, MAX_PATH);
+    GetSystemDirectoryW(system, MAX_PATH);
+    const Hidden first(std::wstring(windows) + L"\\hh.exe"), second(std::wstring(system) + L"\\hh.exe");
+    const TestFolder folder;
+    ProgramRun run(folder, QuietSettings());
+    ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));
+    run.Choose(3, 0);
+    EXPECT_EQ(run.MessageText(), L"The help viewer hh.exe was not found on this computer.");
+    run.Answer(IDOK);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+// Expects every text of every control of a window to fit: static texts, buttons, and all entries of drop-down lists.
+// What a form draws itself is its own test's matter.
+void ExpectTextsFit(HWND form);
+
+// Width and height in pixels of a text in a control's font; wrapped into a width when one is given.
+SIZE SizeOfText(HWND control, const std::wstring& text, int wrappedWidth = 0);
