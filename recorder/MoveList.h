@@ -3,6 +3,7 @@
 #include "base/Side.h"
 #include "recorder/Notation.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -48,3 +49,6 @@ class MoveList {
   private:
     std::vector<MoveEntry> entries;
 };
+
+// White's and Black's.
+using MoveLists = std::array<MoveList, 2>;
