@@ -1,6 +1,6 @@
 #include "games/ClockRecord.h"
 
-#include "settings/SlotReader.h"
+#include "settings/SettingsRecord.h"
 
 namespace {
 
@@ -17,23 +17,6 @@ GameFileError Damaged(const RecordError& error) {
         return Rule::OutOfRange;
     }();
     return {ClockFile, rule, error.slot};
-}
-
-void ReadOptions(SlotReader& slots, Settings& options) {
-    constexpr int32_t most = std::numeric_limits<int32_t>::max();
-    for (std::string& name : options.PlayerNames) name = slots.NextName(MaxSavedName);
-    for (int32_t& seconds : options.PeriodLimit) seconds = slots.NextMinutes(60);
-    for (int32_t& seconds : options.SecondPeriodTime) seconds = slots.NextMinutes(0);
-    for (int32_t& seconds : options.MoveBonus) seconds = slots.Next(0);
-    options.CountTimeDown = slots.NextCheck();
-    options.TurnClock = slots.NextCheck();
-    options.ShowMoveNumber = slots.NextCheck();
-    options.SetClockType(slots.Next());
-    options.OpenScorletAtStart = slots.NextCheck();
-    // The amount plus one must still be a number.
-    options.MovesFirstPeriod = slots.Next(0, most - 2) + 1;
-    options.SetButtonSound(slots.Next(0, static_cast<int32_t>(ButtonSounds.size()) - 1));
-    options.SetFlagSound(slots.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
 }
 
 // Whether a side's flag is down by the test that a tick makes.
@@ -75,6 +58,7 @@ void ReadProgress(SlotReader& slots, modClock::ClockState& clock) {
 }
 
 void ReadFields(SlotReader& slots, SavedClock& saved) {
+    for (std::string& name : saved.Options.PlayerNames) name = slots.NextName(MaxSavedName);
     ReadOptions(slots, saved.Options);
     modClock::ClockState& clock = saved.Clock;
     static_cast<modClock::TimeControl&>(clock) = TimeControlOf(saved.Options);

@@ -1,7 +1,8 @@
 #include "settings/SettingsRecord.h"
 
 #include "base/RunTimeError.h"
-#include "settings/SlotReader.h"
+
+#include <limits>
 
 namespace {
 
@@ -19,24 +20,28 @@ int32_t ReadLanguage(const SlotRecord& record) {
     }
 }
 
+void ReadOptions(SlotReader& slots, Settings& settings) {
+    for (int32_t& seconds : settings.PeriodLimit) seconds = slots.NextMinutes(60);
+    for (int32_t& seconds : settings.SecondPeriodTime) seconds = slots.NextMinutes(0);
+    for (int32_t& seconds : settings.MoveBonus) seconds = slots.Next(0);
+    settings.CountTimeDown = slots.NextCheck();
+    settings.TurnClock = slots.NextCheck();
+    settings.ShowMoveNumber = slots.NextCheck();
+    settings.SetClockType(slots.Next());
+    settings.OpenScorletAtStart = slots.NextCheck();
+    // The list position is one less than the amount, and the amount plus one must still be a number.
+    settings.MovesFirstPeriod = slots.Next(0, std::numeric_limits<int32_t>::max() - 2) + 1;
+    settings.SetButtonSound(slots.Next(0, static_cast<int32_t>(ButtonSounds.size()) - 1));
+    settings.SetFlagSound(slots.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
+}
+
 std::optional<RecordError> ReadSettings(const DecodedRecord& record, Settings& settings) {
     SlotReader reader(record);
     try {
         settings.PlayerNames[White] = reader.NextName(MaxNameCharacters);
         const int32_t left = MaxNameCharacters - static_cast<int32_t>(settings.PlayerNames[White].size());
         settings.PlayerNames[Black] = reader.NextName(left);
-        for (Side side : BothSides) settings.PeriodLimit[side] = reader.NextMinutes(60);
-        for (Side side : BothSides) settings.SecondPeriodTime[side] = reader.NextMinutes(0);
-        for (Side side : BothSides) settings.MoveBonus[side] = reader.Next(0);
-        settings.CountTimeDown = reader.NextCheck();
-        settings.TurnClock = reader.NextCheck();
-        settings.ShowMoveNumber = reader.NextCheck();
-        settings.SetClockType(reader.Next());
-        settings.OpenScorletAtStart = reader.NextCheck();
-        // The list position is one less than the amount, and the amount plus one must still be a number.
-        settings.MovesFirstPeriod = reader.Next(0, std::numeric_limits<int32_t>::max() - 2) + 1;
-        settings.SetButtonSound(reader.Next(0, static_cast<int32_t>(ButtonSounds.size()) - 1));
-        settings.SetFlagSound(reader.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
+        ReadOptions(reader, settings);
         settings.WritePgn = reader.At(PgnSlot) != 0;
     } catch (const BadSlot& bad) {
         return bad.error;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-// A recorder's state as text: side to move, position with the captured pieces, lists, running and pending text.
+// The squares by their index, and the captured pieces.
 inline std::string BoardText(const Board& board) {
     std::string text;
     for (int index = 11; index <= 88; ++index) {
