@@ -43,7 +43,7 @@ void ClockCommands::Press(Side button) {
     if (!ClockButtonEnabled(button)) return;
     view.PlayButtonSound();
     // Playing takes time, and a tick that the system let through meanwhile may have ended the game.
-    if (CurrentPhase() != phase || clock.CountsOutOfStep()) return;
+    if (CurrentPhase() != phase || clock.State().CountsOutOfStep()) return;
 
     // Whoever presses first, side 0's clock must run: the counts would be out of step for ever otherwise.
     const Side pressed = phase == Phase::Idle ? Black : button;
@@ -113,6 +113,15 @@ void ClockCommands::Reset() {
     view.ResetRecorder();
     Initialise();
     view.FocusClockButton(White);
+}
+
+void ClockCommands::TakeLoadedGame(const modClock::ClockState& loaded) {
+    clock.AbandonGame();
+    clock.Restore(loaded);
+    const bool fallen = !loaded.GameStarted && loaded.MoveCount[White] > 0;
+    fallenSide = fallen ? std::optional(loaded.SideByCounts()) : std::nullopt;
+    blinkText = CurrentPhase() == Phase::Paused ? BlinkMark::Paused : BlinkMark::ToMove;
+    view.PhaseChanged();
 }
 
 void ClockCommands::Tick() {

@@ -92,6 +92,10 @@ class ClockCommands : private modClock::ClockHost {
     void AskedResetIfStarted();  // asks first when there is a game to lose
     void Reset();
 
+    // The clock of a saved game, whatever stood before: paused when the game was under way, fallen for the side that
+    // was to move when it was over, else idle. The counts must be in step.
+    void TakeLoadedGame(const modClock::ClockState& loaded);
+
     void Tick();
 
     // Stops the timer before the window goes.

@@ -9,8 +9,8 @@ bool Clock::Untouched() const {
     return !state.GameStarted && state.MoveCount[White] == 0 && state.MoveCount[Black] == 0;
 }
 
-bool Clock::CountsOutOfStep() const {
-    const int64_t lead = int64_t{state.MoveCount[White]} - state.MoveCount[Black];
+bool ClockState::CountsOutOfStep() const {
+    const int64_t lead = int64_t{MoveCount[White]} - MoveCount[Black];
     return lead != 0 && lead != 1;
 }
 
@@ -21,8 +21,9 @@ std::string Clock::Face(Side side) const {
 void Clock::SetTimeControl(const TimeControl& control) { static_cast<TimeControl&>(state) = control; }
 
 void Clock::Restore(const ClockState& kept) {
-    const int32_t handle = state.TimerHandle;
     const bool running = state.TimerRunning;
+    const int32_t left = kept.MoveCount[White] > 0 || kept.MoveCount[Black] > 0 ? 1 : 0;
+    const int32_t handle = running ? state.TimerHandle : left;
     state = kept;
     state.TimerHandle = handle;
     state.TimerRunning = running;
@@ -62,7 +63,7 @@ void Clock::ShowClock(Side side) {
 
 void Clock::ClockTick() {
     state.ActiveSide = TurnSide();
-    if (CountsOutOfStep()) return;
+    if (state.CountsOutOfStep()) return;
 
     const Side side = state.ActiveSide;
     const bool granted = state.SecondPeriodDue[side] && state.SecondPeriodEnabled;

@@ -35,6 +35,12 @@ struct ClockState : TimeControl {
     bool GameStarted = false;
     int32_t TimerHandle = 0;    // what the last SetTimer or KillTimer gave; 1 is what a kill leaves behind
     bool TimerRunning = false;  // the one-second timer exists
+
+    // True when side 0 has neither as many moves as side 1 nor one more: presses and ticks then change nothing.
+    bool CountsOutOfStep() const;
+
+    // The side whose move it is by the counts, which a fallen flag leaves as they are.
+    Side SideByCounts() const { return MoveCount[White] > MoveCount[Black] ? White : Black; }
 };
 
 // What the clock needs from the program around it.
@@ -65,16 +71,14 @@ class Clock {
     // True until the first press after a reset.
     bool Untouched() const;
 
-    // True when side 0 has neither as many moves as side 1 nor one more: presses and ticks then change nothing.
-    bool CountsOutOfStep() const;
-
     // Side's face as "HH:MM:SS", of the parts that ShowClock made.
     std::string Face(Side side) const;
 
     // Takes the time control of the next game. InitialiseClock must follow.
     void SetTimeControl(const TimeControl& control);
 
-    // Takes a whole state as it stands, its timer excepted.
+    // Takes a whole state as it stands, its timer excepted: a running one goes on, and without one the handle becomes
+    // 1 when a move has been counted, else 0.
     void Restore(const ClockState& kept);
 
     // Times, counts, earned periods and turn back to the start of a game.

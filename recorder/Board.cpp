@@ -1,5 +1,7 @@
 #include "recorder/Board.h"
 
+#include <algorithm>
+
 void Board::Reset() {
     constexpr std::array backRank{PieceKind::Rook, PieceKind::Knight, PieceKind::Bishop, PieceKind::Queen,
                                   PieceKind::King, PieceKind::Bishop, PieceKind::Knight, PieceKind::Rook};
@@ -82,4 +84,15 @@ void Board::AddCaptured(Piece piece) {
 void Board::HideCaptured(Piece piece, int slot) {
     uint8_t& tray = trays[static_cast<size_t>(piece)];
     tray = static_cast<uint8_t>(tray & ~(1 << slot));
+}
+
+void Board::ShowMissingAsCaptured() {
+    HideAllCaptured();
+    for (const Side side : BothSides) {
+        for (const PieceKind kind : TrayKinds) {
+            const Piece piece = PieceOf(side, kind);
+            for (auto left = std::count(cells.begin(), cells.end(), piece); left < TraySlots(kind); ++left)
+                AddCaptured(piece);
+        }
+    }
 }

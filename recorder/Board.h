@@ -66,6 +66,8 @@ class Board {
     void AddCaptured(Piece piece);
     void HideCaptured(Piece piece, int slot);
     void HideAllCaptured() { trays = {}; }
+    // Shows what the position lacks of each kind against the initial one. A pawn that has been promoted is missing too.
+    void ShowMissingAsCaptured();
 
   private:
     bool EnPassant(Square origin, Square destination, Piece moving) const;

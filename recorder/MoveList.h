@@ -3,6 +3,7 @@
 #include "base/Side.h"
 #include "recorder/Notation.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@ struct MoveEntry {
     int32_t number;  // 0: a result
     std::string text;
 
+    bool operator==(const MoveEntry&) const = default;
     bool IsResult() const { return number == 0; }
     bool IsWaiting() const { return !IsResult() && text == MissingMove; }
     bool IsWritten() const { return !IsResult() && text != MissingMove; }
@@ -21,6 +23,7 @@ struct MoveEntry {
 // The moves of one side, entry i being its move i + 1; a result can only be the last.
 class MoveList {
   public:
+    bool operator==(const MoveList&) const = default;
     const std::vector<MoveEntry>& Entries() const { return entries; }
     bool Empty() const { return entries.empty(); }
     size_t Moves() const { return entries.size() - (EndsWithResult() ? 1 : 0); }
@@ -48,3 +51,6 @@ class MoveList {
   private:
     std::vector<MoveEntry> entries;
 };
+
+// White's and Black's.
+using MoveLists = std::array<MoveList, 2>;

@@ -17,6 +17,36 @@ std::string MoveOfText(const MoveEntry& entry, Side side, bool numbered) {
 
 void Recorder::Reset() { *this = Recorder(); }
 
+void Recorder::Restore(const Board& position, const MoveLists& moves, Side toMove,
+                       const std::optional<std::string>& text) {
+    Reset();
+    board = position;
+    board.ShowMissingAsCaptured();
+    lists = moves;
+    sideToMove = toMove;
+    if (text)
+        runningText = *text;
+    else
+        RebuildText();
+    AwaitPromotionAgain();
+}
+
+// A pawn on its last rank, on the square of the last move, has not been promoted yet.
+void Recorder::AwaitPromotionAgain() {
+    const Side mover = Other(sideToMove);
+    const auto last = lists[mover].LastWritten();
+    if (!last) return;
+    for (const int rank : {1, 8}) {
+        for (int file = 1; file <= 8; ++file) {
+            const Square square = SquareAt(file, rank);
+            const std::string name{FileLetter(square), RankDigit(square)};
+            const bool movedTo = lists[mover].Entries()[*last].text.find(name) != std::string::npos;
+            if (movedTo && Board::ReachesLastRank(board.At(square), square))
+                promotion = Promotion{square, ChosenLine{mover, *last}};
+        }
+    }
+}
+
 ChosenLine Recorder::Play(Square origin, Square destination) {
     const Move move = board.Classify(origin, destination);
     const MoveText text = WriteMove(board, move);

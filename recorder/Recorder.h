@@ -20,6 +20,7 @@ class Recorder {
   public:
     const Board& Position() const { return board; }
     const MoveList& List(Side side) const { return lists[side]; }
+    const MoveLists& Lists() const { return lists; }
     Side SideToMove() const { return sideToMove; }
     // The move last carried out, for showing it.
     const std::optional<Move>& LastMove() const { return lastMove; }
@@ -34,6 +35,10 @@ class Recorder {
 
     // The initial position, empty lists, White to move.
     void Reset();
+
+    // A game that was kept: play goes on from there. The captured pieces follow from the position, the running text
+    // from the lists where none was kept.
+    void Restore(const Board& position, const MoveLists& moves, Side toMove, const std::optional<std::string>& text);
 
     // Carries out and writes the move between two squares, for the side to move whatever the piece's colour. The origin
     // must hold a piece. A result that stood is taken away: play goes on.
@@ -73,6 +78,7 @@ class Recorder {
         std::optional<ChosenLine> line;  // none: it has been deleted
     };
 
+    void AwaitPromotionAgain();
     void AddResult(Side list, std::string_view result);
     void TakeResultAway();
     void SetMark(size_t index, Side side, std::string_view mark);
@@ -80,7 +86,7 @@ class Recorder {
     void RebuildText();
 
     Board board;
-    std::array<MoveList, 2> lists;
+    MoveLists lists;
     Side sideToMove = White;
     std::string runningText;
     std::string pendingText;

@@ -6,9 +6,6 @@
 
 namespace {
 
-// A slot takes ten bytes at most: what a file holds behind that is not read.
-constexpr size_t LongestRecord = SlotCount * 10;
-
 std::wstring ReasonOf(const RecordError& error, const Texts& texts) {
     const auto row = [&] {
         switch (error.rule) {

@@ -12,6 +12,9 @@
 // 11: 16-bit boolean, -1 for true.
 inline constexpr int32_t SlotCount = 1000;
 
+// The most bytes of a record: a slot takes ten. What a file holds behind them need not be read.
+inline constexpr size_t LongestRecord = SlotCount * 10;
+
 using SlotValue = std::variant<std::monostate, int32_t, double, bool>;
 using SlotRecord = std::array<SlotValue, SlotCount>;
 

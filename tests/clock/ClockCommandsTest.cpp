@@ -218,6 +218,49 @@ TEST_F(ClockCommandsTest, ResetAsksWhereThereIsSomethingToLose) {
     EXPECT_EQ(Enabled(), "11 11");
 }
 
+TEST_F(ClockCommandsTest, ALoadedGameTakesThePlaceOfWhatStood) {
+    modClock::ClockState loaded;
+    static_cast<modClock::TimeControl&>(loaded) = view.control;
+    loaded.PeriodLimit.fill(600);
+    loaded.PlayerTime = {45, 30};
+    loaded.MoveCount = {3, 2};
+    loaded.TurnFlag = true;
+    loaded.GameStarted = true;
+    commands.Press(White);
+    view.done.clear();
+    commands.TakeLoadedGame(loaded);
+    EXPECT_EQ(Done(), Steps{"show"});
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Paused);
+    EXPECT_EQ(commands.Clock().State().TimerHandle, 1);
+    EXPECT_EQ(commands.Clock().Face(White), "00:00:45");
+    EXPECT_EQ(commands.BlinkText(), BlinkMark::Paused);
+    EXPECT_TRUE(commands.ReadsResume(White));
+    EXPECT_FALSE(commands.SetupEnabled());
+    commands.PauseOrResume();
+    commands.Tick();
+    EXPECT_EQ(commands.Clock().State().PlayerTime, (std::array{44, 30}));
+    EXPECT_EQ(commands.Clock().State().MoveCount, (std::array{3, 2})) << "resuming counts no move";
+
+    loaded.GameStarted = loaded.TurnFlag = false;
+    for (const auto& [counts, fallen] : {std::pair{std::array{3, 2}, White}, {std::array{3, 3}, Black}}) {
+        loaded.MoveCount = counts;
+        commands.TakeLoadedGame(loaded);
+        EXPECT_EQ(commands.CurrentPhase(), Phase::Fallen);
+        EXPECT_TRUE(commands.FlagFallen(fallen));
+        EXPECT_FALSE(commands.FlagFallen(Other(fallen)) || commands.SetupEnabled());
+    }
+
+    loaded.MoveCount = {0, 0};
+    loaded.PlayerTime = {0, 0};
+    commands.TakeLoadedGame(loaded);
+    EXPECT_EQ(commands.CurrentPhase(), Phase::Idle);
+    EXPECT_EQ(commands.Clock().Face(Black), "00:10:00");
+    view.done.clear();
+    commands.Start();
+    EXPECT_EQ(Done(), (Steps{"button sound", "show", "focus clock 0"})) << "begins with what was loaded";
+    EXPECT_EQ(commands.Clock().State().PlayerTime[White], 600);
+}
+
 TEST_F(ClockCommandsTest, TimerFailuresAreTold) {
     view.timersWork = false;
     commands.Press(White);

@@ -95,3 +95,20 @@ TEST(BoardTest, TraysShowTheFirstHiddenSlotAndNoMoreThanTheyHave) {
     board.Reset();
     EXPECT_EQ(shown(rook), "00000000");
 }
+
+TEST(BoardTest, WhatAPositionLacksIsShownAsCaptured) {
+    const auto shown = [](const Board& board, Side side) {
+        std::string pieces;
+        for (const PieceKind kind : TrayKinds) {
+            for (int slot = 0; slot < 8; ++slot) {
+                if (board.CapturedShown(PieceOf(side, kind), slot)) pieces += PieceLetter(kind);
+            }
+        }
+        return pieces;
+    };
+    Board board = Position("WKe1 WQd1 WQd8 WQa8 WNb1 WNc1 WNe2 WPa2 WPb2 BKe8");
+    board.AddCaptured(PieceOf(White, PieceKind::Queen));
+    board.ShowMissingAsCaptured();
+    EXPECT_EQ(shown(board, White), "RRBBPPPPPP") << "promoted pawns are missing, and no kind has less than none";
+    EXPECT_EQ(shown(board, Black), "QRRBBNNPPPPPPPP");
+}

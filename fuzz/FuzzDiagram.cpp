@@ -1,0 +1,12 @@
+#include "fuzz/Fuzz.h"
+#include "games/Diagram.h"
+
+// A diagram that can be read is written as it was, but for the line end that may be missing.
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const std::string_view text = TextOf(data, size);
+    Board board;
+    if (ReadDiagram(text, board)) return 0;
+    const std::string written = WriteDiagram(board);
+    Require(written.size() == DiagramBytes && written.starts_with(text));
+    return 0;
+}

@@ -1,0 +1,57 @@
+#include "fuzz/Fuzz.h"
+#include "games/SavedGame.h"
+
+#include <array>
+
+namespace {
+
+constexpr CalendarDate Today{2024, 3, 9};
+
+// The files of a game one after the other, with a mark between them.
+GameFiles Split(std::string_view input) {
+    constexpr std::string_view mark = "<<>>";
+    GameFiles files;
+    for (const GameFile file : AllGameFiles) {
+        const size_t end = input.find(mark);
+        files[file] = input.substr(0, end);
+        if (end == std::string_view::npos) break;
+        input.remove_prefix(end + mark.size());
+    }
+    return files;
+}
+
+bool Load(const GameFiles& files, LoadedGame& game) {
+    const auto read = [&](GameFile file, size_t limit) -> std::optional<std::vector<uint8_t>> {
+        if (!files[file]) return std::nullopt;
+        const std::string bytes = files[file]->substr(0, limit);
+        return std::vector<uint8_t>(bytes.begin(), bytes.end());
+    };
+    return !DecodeGame(read, Settings(), game);
+}
+
+// As the program goes on with a loaded game: moves, a promotion, declarations, and a missing line.
+void PlayOn(Recorder& recorder) {
+    const std::array<int32_t, 2> counts{3, 3};
+    for (int index = 11; index < 88; ++index) {
+        const auto square = static_cast<Square>(index);
+        if (IsSquare(index) && recorder.Position().At(square) != Piece::Empty) recorder.Play(square, Square{88});
+    }
+    recorder.Promote(PieceKind::Rook);
+    recorder.Declare(Declaration::Check, counts);
+    recorder.DeleteLast(White);
+    recorder.Declare(Declaration::Mate, counts);
+    recorder.TopUpMoveLists(counts);
+}
+
+}  // namespace
+
+// A game that can be loaded is saved and loaded as the same, and can be played on.
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    LoadedGame game, again;
+    if (!Load(Split(TextOf(data, size)), game)) return 0;
+    const GameFiles saved = PrepareGame(game.Options, game.Clock, &game.Scorlet, Today);
+    Require(Load(saved, again));
+    Require(PrepareGame(again.Options, again.Clock, &again.Scorlet, Today) == saved);
+    PlayOn(again.Scorlet);
+    return 0;
+}

@@ -1,0 +1,12 @@
+#include "fuzz/Fuzz.h"
+#include "games/ClockRecord.h"
+
+// A clock record that can be read is written and read as the same.
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    SavedClock saved, again;
+    if (ReadClockRecord({data, size}, Settings(), saved)) return 0;
+    const std::string bytes = WriteClockRecord(saved);
+    Require(!ReadClockRecord({reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size()}, Settings(), again));
+    Require(WriteClockRecord(again) == bytes);
+    return 0;
+}

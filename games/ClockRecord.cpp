@@ -1,0 +1,154 @@
+#include "games/ClockRecord.h"
+
+#include "settings/SettingsRecord.h"
+
+namespace {
+
+using Rule = GameFileError::Rule;
+
+GameFileError Damaged(const RecordError& error) {
+    const auto rule = [&] {
+        switch (error.rule) {
+            case RecordError::Rule::UnknownTag: return Rule::UnknownTag;
+            case RecordError::Rule::ShortFile: return Rule::ShortRecord;
+            case RecordError::Rule::Overflow: return Rule::Overflow;
+            case RecordError::Rule::OutOfRange: break;
+        }
+        return Rule::OutOfRange;
+    }();
+    return {ClockFile, rule, error.slot};
+}
+
+// Whether a side's flag is down by the test that a tick makes.
+bool OutOfTime(const modClock::ClockState& clock, Side side) {
+    if (clock.CountTimeDown) return clock.PlayerTime[side] == 0;
+    const bool granted = clock.SecondPeriodDue[side] && clock.SecondPeriodEnabled;
+    return !granted && int64_t{clock.MoveBonus[side]} + clock.PlayerTime[side] > clock.PeriodLimit[side];
+}
+
+// Counting up, a bonus or a second period of no time may carry the time past the limit without the flag: it falls at
+// the next second only.
+bool MayWaitForTick(const modClock::ClockState& clock, Side side) {
+    const bool emptyPeriod = clock.SecondPeriodEnabled && clock.SecondPeriodTime[side] == 0;
+    return !clock.CountTimeDown && (clock.MoveBonus[side] > 0 || emptyPeriod);
+}
+
+// What the last fields would say, as far as it can be told without them.
+void InferProgress(modClock::ClockState& clock) {
+    const Side side = clock.SideByCounts();
+    clock.GameStarted = clock.MoveCount[White] > 0 && !OutOfTime(clock, side);
+    clock.TurnFlag = clock.GameStarted && side == White;
+    for (Side each : BothSides) {
+        // The number of moves that earns the second period is one higher for White.
+        const int64_t earning = int64_t{clock.MovesFirstPeriod} + (each == White ? 1 : 0);
+        clock.SecondPeriodArmed[each] =
+            clock.SecondPeriodEnabled && !clock.SecondPeriodDue[each] && clock.MoveCount[each] < earning;
+    }
+}
+
+void ReadProgress(SlotReader& slots, modClock::ClockState& clock) {
+    const bool white = clock.SideByCounts() == White;
+    clock.TurnFlag = slots.NextCheck();
+    clock.GameStarted = slots.NextCheck();
+    // White runs first, so no game is under way without a move counted for it.
+    const bool agrees =
+        clock.GameStarted ? clock.TurnFlag == white && clock.MoveCount[White] > 0 : !clock.TurnFlag || white;
+    if (!agrees) throw GameFileError{ClockFile, Rule::TurnAgainstCounts, slots.Last() - 1};
+    for (bool& armed : clock.SecondPeriodArmed) armed = slots.NextCheck();
+}
+
+void ReadFields(SlotReader& slots, SavedClock& saved) {
+    for (std::string& name : saved.Options.PlayerNames) name = slots.NextName(MaxSavedName);
+    ReadOptions(slots, saved.Options);
+    modClock::ClockState& clock = saved.Clock;
+    static_cast<modClock::TimeControl&>(clock) = TimeControlOf(saved.Options);
+    for (int32_t& seconds : clock.PlayerTime) seconds = slots.Next(0);
+    const int32_t lastTime = slots.Last();
+    for (bool& due : clock.SecondPeriodDue) due = slots.NextCheck();
+    for (int32_t& moves : clock.MoveCount) moves = slots.Next(0, MostSavedMoves);
+    if (clock.CountsOutOfStep()) throw GameFileError{ClockFile, Rule::CountsOutOfStep, slots.Last()};
+    saved.SideToMove = slots.NextCheck() ? White : Black;
+    saved.Options.WritePgn = slots.NextCheck();
+    if (slots.NextIsEmpty()) {
+        InferProgress(clock);
+        slots.Skip(4);
+    } else {
+        ReadProgress(slots, clock);
+    }
+    const Side side = clock.SideByCounts();
+    if (clock.GameStarted && OutOfTime(clock, side) && !MayWaitForTick(clock, side))
+        throw GameFileError{ClockFile, Rule::NoTimeLeft, lastTime - (side == White ? 1 : 0)};
+    saved.ScorletLoaded = slots.NextIsEmpty() || slots.NextCheck();
+}
+
+}  // namespace
+
+modClock::TimeControl TimeControlOf(const Settings& settings) {
+    modClock::TimeControl control;
+    control.PeriodLimit = settings.PeriodLimit;
+    control.SecondPeriodTime = settings.SecondPeriodTime;
+    control.MoveBonus = settings.MoveBonus;
+    control.CountTimeDown = settings.CountTimeDown;
+    control.SecondPeriodEnabled = settings.SecondPeriodEnabled;
+    control.MovesFirstPeriod = settings.MovesFirstPeriod;
+    return control;
+}
+
+std::string WriteClockRecord(const SavedClock& saved) {
+    SlotRecord record;
+    size_t next = 0;
+    const auto write = [&](auto value) {
+        record[next++] = value;
+    };
+    const Settings& options = saved.Options;
+    const modClock::ClockState& clock = saved.Clock;
+    for (const std::string& name : options.PlayerNames) {
+        const std::string cut = name.substr(0, MaxSavedName);
+        write(static_cast<int32_t>(cut.size()));
+        for (char character : cut) write(static_cast<double>(static_cast<uint8_t>(character)));
+    }
+    for (int32_t seconds : clock.PeriodLimit) write(seconds / 60.0);
+    for (int32_t seconds : clock.SecondPeriodTime) write(seconds / 60.0);
+    for (int32_t seconds : clock.MoveBonus) write(seconds);
+    write(clock.CountTimeDown);
+    write(options.TurnClock);
+    write(options.ShowMoveNumber);
+    write(options.ClockType);
+    write(options.OpenScorletAtStart);
+    write(clock.MovesFirstPeriod - 1);
+    write(options.ButtonSoundIndex);
+    write(options.FlagSoundIndex);
+    for (int32_t seconds : clock.PlayerTime) write(seconds);
+    for (bool due : clock.SecondPeriodDue) write(due);
+    for (int32_t moves : clock.MoveCount) write(moves);
+    write(saved.SideToMove == White);
+    write(options.WritePgn);
+    write(clock.TurnFlag);
+    write(clock.GameStarted);
+    for (bool armed : clock.SecondPeriodArmed) write(armed);
+    write(saved.ScorletLoaded);
+    return EncodeRecord(record);
+}
+
+std::optional<GameFileError> ReadClockRecord(std::span<const uint8_t> bytes, const Settings& present,
+                                             SavedClock& saved) {
+    const DecodedRecord record = DecodeRecord(bytes);
+    SlotReader slots(record);
+    SavedClock read{present, {}, White, false};
+    try {
+        ReadFields(slots, read);
+    } catch (const BadSlot& bad) {
+        return Damaged(bad.error);
+    } catch (const GameFileError& error) {
+        return error;
+    }
+    // A fault behind the last field has cost nothing, but the file is damaged.
+    if (record.error) return Damaged(*record.error);
+    saved = std::move(read);
+    return std::nullopt;
+}
+
+std::string WithOldTail(std::string bytes, std::string_view older) {
+    if (older.size() > bytes.size()) bytes += older.substr(bytes.size());
+    return bytes;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "games/GameFile.h"
+#include "recorder/Board.h"
+
+// A position as eight lines of text, rank 8 first. A square is the piece's code or "--", and two blanks.
+
+inline constexpr size_t DiagramBytes = 8 * 34;
+
+std::string WriteDiagram(const Board& board);
+
+// Reads a diagram; the line end behind the last rank may be missing. No captured piece is shown on the board that is
+// read.
+std::optional<GameFileError> ReadDiagram(std::string_view text, Board& board);

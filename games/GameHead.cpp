@@ -1,0 +1,43 @@
+#include "games/GameHead.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+std::string TagPair(std::string_view tag, std::string_view value) {
+    std::string line = "[";
+    line += tag;
+    line += " \"";
+    line += value;
+    line += "\"]\r\n";
+    return line;
+}
+
+std::string Dashed(const CalendarDate& date) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.year, date.month, date.day);
+    return text;
+}
+
+// Readers count the lines of the head, so that no name may bring one of its own. None that was typed does.
+std::string OnOneLine(std::string name) {
+    std::ranges::replace_if(
+        name, [](char character) { return character == '\r' || character == '\n'; }, ' ');
+    return name;
+}
+
+}  // namespace
+
+std::string_view ResultToken(const MoveLists& lists) {
+    for (const MoveList& list : lists) {
+        if (list.EndsWithResult()) return list.Entries().back().text;
+    }
+    return "*";
+}
+
+std::string WriteHead(const GameHead& head, std::string_view result) {
+    return TagPair("Event", "") + TagPair("Site", "") + TagPair("Date", Dashed(head.date)) + TagPair("Round", "") +
+           TagPair("White", OnOneLine(head.names[White])) + TagPair("Black", OnOneLine(head.names[Black])) +
+           TagPair("Result", result);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "recorder/MoveList.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+struct CalendarDate {
+    int year, month, day;  // month and day from 1
+};
+
+// What the tag pairs at the start of the move files tell.
+struct GameHead {
+    CalendarDate date;
+    std::array<std::string, 2> names;  // in the ANSI code page, of any length
+};
+
+// The result with which a list ends, or "*" where none does.
+std::string_view ResultToken(const MoveLists& lists);
+
+// The seven lines of tag pairs, each with its line end: Event, Site, Date, Round, White, Black and Result. Quotes in a
+// name are written as they stand.
+std::string WriteHead(const GameHead& head, std::string_view result);

@@ -1,0 +1,32 @@
+#include "games/Pgn.h"
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr int HeadLines = 8;
+
+GameFileError ErrorAt(GameFileError::Rule rule, size_t offset) { return {PgnFile, rule, static_cast<int32_t>(offset)}; }
+
+}  // namespace
+
+std::string WritePgn(const GameHead& head, const Recorder& recorder) {
+    const std::string_view result = ResultToken(recorder.Lists());
+    std::string text = recorder.RunningText();
+    RemoveResultMark(text);
+    text += recorder.PendingText();
+    text += result;
+    return WriteHead(head, result).append(LineEnd).append(text).append(LineEnd);
+}
+
+std::optional<GameFileError> ReadPgn(std::string_view bytes, std::string& text) {
+    std::string_view rest = bytes;
+    for (int line = 0; line < HeadLines; ++line) {
+        const size_t end = rest.find(LineEnd);
+        if (end == std::string_view::npos) return ErrorAt(GameFileError::Rule::NoHead, bytes.size());
+        rest.remove_prefix(end + LineEnd.size());
+    }
+    if (!rest.ends_with(LineEnd)) return ErrorAt(GameFileError::Rule::EndsEarly, bytes.size());
+    rest.remove_suffix(LineEnd.size());
+    text = rest;
+    return std::nullopt;
+}

@@ -1,0 +1,59 @@
+#include "settings/SlotReader.h"
+
+#include <cmath>
+
+namespace {
+
+[[noreturn]] void Fail(RecordError::Rule rule, int32_t slot) { throw BadSlot{{rule, slot}}; }
+
+double Real(const SlotValue& value) {
+    if (const auto* number = std::get_if<int32_t>(&value)) return *number;
+    if (const auto* boolean = std::get_if<bool>(&value)) return *boolean ? -1 : 0;
+    if (const auto* real = std::get_if<double>(&value)) return *real;
+    return 0;
+}
+
+int32_t Rounded(double real, int32_t slot) {
+    const double rounded = std::nearbyint(real);
+    constexpr double least = std::numeric_limits<int32_t>::min(), most = std::numeric_limits<int32_t>::max();
+    // Not written as two comparisons that a NaN would pass.
+    if (!(rounded >= least && rounded <= most)) Fail(RecordError::Rule::Overflow, slot);
+    return static_cast<int32_t>(rounded);
+}
+
+}  // namespace
+
+int32_t NumberInSlot(const SlotRecord& record, int32_t slot) {
+    if (slot < 0 || slot >= SlotCount) Fail(RecordError::Rule::OutOfRange, slot);
+    return Rounded(Real(record[static_cast<size_t>(slot)]), slot);
+}
+
+const SlotValue& SlotReader::Value(int32_t slot) const {
+    if (record.error && slot >= record.error->slot) throw BadSlot{*record.error};
+    if (slot < 0 || slot >= SlotCount) Fail(RecordError::Rule::OutOfRange, slot);
+    return record.slots[static_cast<size_t>(slot)];
+}
+
+int32_t SlotReader::At(int32_t slot) const { return Rounded(Real(Value(slot)), slot); }
+
+int32_t SlotReader::Next(int32_t least, int32_t most) {
+    const int32_t value = Next();
+    if (value < least || value > most) Fail(RecordError::Rule::OutOfRange, Last());
+    return value;
+}
+
+int32_t SlotReader::NextMinutes(int32_t leastSeconds) {
+    const int32_t slot = next++;
+    const int32_t seconds = Rounded(Real(Value(slot)) * 60, slot);
+    if (seconds < leastSeconds) Fail(RecordError::Rule::OutOfRange, slot);
+    return seconds;
+}
+
+std::string SlotReader::NextName(int32_t longest) {
+    const int32_t length = Next(0, longest);
+    std::string name;
+    for (int32_t i = 0; i < length; ++i) name.push_back(static_cast<char>(Next(0, 255)));
+    return name;
+}
+
+bool SlotReader::NextIsEmpty() const { return std::holds_alternative<std::monostate>(Value(next)); }

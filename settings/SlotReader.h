@@ -1,0 +1,49 @@
+#pragma once
+
+#include "settings/SlotRecord.h"
+
+#include <limits>
+#include <string>
+
+// Thrown by a SlotReader at the first bad slot; the decoder that uses it catches it and lets it no further.
+struct BadSlot {
+    RecordError error;
+};
+
+// The slot's value as a whole number: any numeric type is accepted and rounded, an empty slot counts as 0. Throws
+// BadSlot for a slot outside the record or a number that does not fit 32 bits.
+int32_t NumberInSlot(const SlotRecord& record, int32_t slot);
+
+// Reads the values of a record slot after slot, from slot 0. Every function throws BadSlot where the record could not
+// be decoded, or the value is not what was asked for.
+class SlotReader {
+  public:
+    // The record must outlive the reader.
+    explicit SlotReader(const DecodedRecord& record) : record(record) {}
+
+    int32_t At(int32_t slot) const;
+
+    int32_t Next() { return At(next++); }
+    int32_t Next(int32_t least, int32_t most = std::numeric_limits<int32_t>::max());
+
+    // Minutes, with fractions, as seconds to the nearest one.
+    int32_t NextMinutes(int32_t leastSeconds);
+
+    // A length and that many character codes of 8 bits.
+    std::string NextName(int32_t longest);
+
+    // Check boxes are stored as 0 and 1; as booleans they are 0 and -1.
+    bool NextCheck() { return Next() != 0; }
+
+    bool NextIsEmpty() const;
+    void Skip(int32_t slots) { next += slots; }
+
+    // The slot that was read last.
+    int32_t Last() const { return next - 1; }
+
+  private:
+    const SlotValue& Value(int32_t slot) const;
+
+    const DecodedRecord& record;
+    int32_t next = 0;
+};

@@ -1,0 +1,128 @@
+#include "games/Cgn.h"
+
+#include "tests/games/GameText.h"
+
+namespace {
+
+const std::string Waiting = "\?\?-\?\?";
+const GameHead Head{{2024, 3, 9}, {"Team 1. Anna", "Bob \"the Rook\""}};
+const std::string Lines =
+    "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"2024-03-09\"]\r\n[Round \"\"]\r\n"
+    "[White \"Team 1. Anna\"]\r\n[Black \"Bob \"the Rook\"\"]\r\n[Result \"";
+
+std::string File(const std::string& movetext, const std::string& result = "*") {
+    return Lines + result + "\"]\r\n\r" + movetext;
+}
+
+// "1. e4|2. ??-??|[1-0] / e5" as lists.
+MoveLists Lists(const std::string& text) {
+    MoveLists lists;
+    std::istringstream words(text);
+    Side side = White;
+    for (std::string word; words >> word;) {
+        if (word == "/")
+            side = Black;
+        else if (word.starts_with('['))
+            lists[side].AddResult(word.substr(1, word.size() - 2));
+        else
+            lists[side].SetText(lists[side].AddWaiting(), word);
+    }
+    return lists;
+}
+
+}  // namespace
+
+TEST(CgnTest, MovetextIsWrittenAsItStandsInTheLists) {
+    struct Row {
+        const char* name;
+        std::string lists, movetext, result;
+    };
+    const Row rows[] = {
+        {"no result", "e2-e4 g1-f3 / e7-e5", "1. e2-e4 1... e7-e5 2. g1-f3 *", "*"},
+        {"nothing", "/", "*", "*"},
+        {"result alone", "[1/2-1/2] /", "1/2-1/2", "1/2-1/2"},
+        {"White's result", "e4 [0-1] / e5", "1. e4 1... e5 0-1", "0-1"},
+        {"Black's result beside White's last move", "e4 Nf3 / e5 [1-0]", "1. e4 1... e5 2. Nf3 1-0", "1-0"},
+        {"Black's result past White's list", "e4 / e5# [0-1]", "1. e4 1... e5# 0-1", "0-1"},
+        {"Black's result far behind White's list", "e4 d4 c4 / e5 [1-0]", "1. e4 1... e5 2. d4 3. c4 1-0", "1-0"},
+        {"waiting lines", "e4 " + Waiting + " / " + Waiting, "1. e4 1... " + Waiting + " 2. " + Waiting + " *", "*"},
+        {"a move that reads like a result", "1-0 d4 / e5", "1. 1-0 1... e5 2. d4 *", "*"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(WriteCgn(Head, Lists(row.lists)), File(row.movetext, row.result));
+    }
+}
+
+TEST(CgnTest, ListsAndResultComeBack) {
+    struct Row {
+        const char* name;
+        std::string movetext;
+        Side toMove;
+        std::string lists;
+    };
+    const Row rows[] = {
+        {"as written", "1. e2-e4 1... e7-e5 2. g1-f3 *", Black, "1. e2-e4|2. g1-f3 / e7-e5"},
+        {"nothing", "*", White, " / "},
+        {"result of the side to move", "1. e4 1... e5 2. Nf3 1/2-1/2", Black, "1. e4|2. Nf3 / e5|[1/2-1/2]"},
+        {"and of the other one", "1. e4 1... e5 2. Nf3 1/2-1/2", White, "1. e4|2. Nf3|[1/2-1/2] / e5"},
+        {"mate: of the mover", "1. f3 1... e5 2. g4 2... Qh4# 0-1", White, "1. f3|2. g4 / e5|Qh4#|[0-1]"},
+        {"mate, then a waiting line", "1. e4# 1... " + Waiting + " 1-0", Black, "1. e4#|[1-0] / 1. " + Waiting},
+        {"a line that waits", "1. e4 1... " + Waiting + " *", Black, "1. e4 / 1. " + Waiting},
+        {"a numbered result is a move", "1. 1-0 1... 0-1 *", White, "1. 1-0 / 0-1"},
+        {"results by their first characters", "1. e4 1/", Black, "1. e4 / [1/2-1/2]"},
+        {"White's moves missing", "1... e5 2... d5 *", White, " / e5|d5"},
+        {"line ends among the moves", "\n1. e4\r\n1... e5 *\r\n", White, "1. e4 / e5"},
+        {"something before the moves", "{opening} 1. e4 *", Black, "1. e4 / "},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        MoveLists lists;
+        const std::string bytes = File(row.movetext);
+        const auto error = ReadCgn(bytes, row.toMove, lists);
+        ASSERT_FALSE(error) << error->place;
+        EXPECT_EQ(ListText(lists), row.lists);
+        MoveLists again;
+        ASSERT_FALSE(ReadCgn(WriteCgn(Head, lists), row.toMove, again));
+        EXPECT_EQ(ListText(again), row.lists);
+    }
+}
+
+TEST(CgnTest, DamageIsNamedWithItsOffset) {
+    using Rule = GameFileError::Rule;
+    struct Row {
+        const char* name;
+        std::string movetext;
+        Rule rule;
+        size_t offset;  // in the movetext
+    };
+    const Row rows[] = {
+        {"cut behind a move", "1. e4 1... e5 ", Rule::EndsEarly, 14},
+        {"cut behind a number", "1. e4 1...", Rule::EndsEarly, 10},
+        {"cut before the moves", "", Rule::EndsEarly, 0},
+        {"a word too many", "1. e4 e5 *", Rule::UnexpectedText, 6},
+        {"two dots", "1. e4 1.. e5 *", Rule::UnexpectedText, 6},
+        {"a number too large", "1. e4 99999999999999999999. e5 *", Rule::UnexpectedText, 6},
+        {"a number left out", "1. e4 3. e5 *", Rule::WrongNumber, 6},
+        {"Black's number twice", "1. e4 1... e5 1... e5 *", Rule::WrongNumber, 14},
+        {"moves behind the result", "1. e4 1-0 2. d4 *", Rule::UnexpectedText, 10},
+        {"no moves at all", "PK", Rule::UnexpectedText, 0},
+    };
+    const auto start = static_cast<int32_t>(File("").size());
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        MoveLists lists = Lists("kept /");
+        EXPECT_EQ(ReadCgn(File(row.movetext), White, lists),
+                  (GameFileError{MovesFile, row.rule, start + static_cast<int32_t>(row.offset)}));
+        EXPECT_EQ(ListText(lists), "1. kept / ");
+    }
+    MoveLists lists;
+    EXPECT_EQ(ReadCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Rule::NoHead, 7}));
+}
+
+TEST(CgnTest, NamesStayOnTheirLine) {
+    const std::string bytes = WriteCgn({{1, 2, 3}, {"A\r\n\r\nB", ""}}, Lists("e4 /"));
+    EXPECT_NE(bytes.find("[Date \"0001-02-03\"]\r\n[Round \"\"]\r\n[White \"A    B\"]\r\n"), std::string::npos);
+    MoveLists lists;
+    EXPECT_FALSE(ReadCgn(bytes, Black, lists));
+}
