@@ -24,9 +24,7 @@ std::optional<Side> ClockCommands::BlinkingSide() const {
 }
 
 void ClockCommands::Initialise() {
-    clock.SetTimeControl(view.ReadTimeControl());
-    clock.InitialiseClock();
-    view.PhaseChanged();
+    TakeTimeControl(view.ReadTimeControl());
     view.TellReadingProblems();
 }
 

@@ -13,7 +13,7 @@ struct Entry {
     int command;  // 0: a separator line
     TextId text{};
     TextId key = NoKey;
-    bool available = true;  // false: its window does not exist yet
+    bool available = true;  // false: until the Scorlet is open
 };
 
 constexpr Entry Separator{0};
@@ -21,9 +21,9 @@ constexpr Entry Separator{0};
 constexpr std::array GameEntries{
     Entry{mnuStart, TextId::MenuStart, TextId::MenuStartKey},
     Separator,
-    Entry{mnuLoad, TextId::MenuLoad, NoKey, false},
-    Entry{mnuSave, TextId::MenuSave, NoKey, false},
-    Entry{mnuDelete, TextId::MenuDelete, NoKey, false},
+    Entry{mnuLoad, TextId::MenuLoad},
+    Entry{mnuSave, TextId::MenuSave},
+    Entry{mnuDelete, TextId::MenuDelete},
     Separator,
     Entry{mnuExit, TextId::MenuExit},
 };

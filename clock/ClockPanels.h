@@ -34,6 +34,9 @@ class ClockPanels {
     // Lays everything out anew for the size of the window.
     void Arrange();
 
+    // The name that the panel of a side shows.
+    std::wstring NameOf(Side side) const;
+
     void ShowSettings();
     void ShowFace(Side side);
     void ShowMoveNumbers();
@@ -52,7 +55,6 @@ class ClockPanels {
 
   private:
     void ArrangePanel(Side side);
-    std::wstring NameOf(Side side) const;
     bool Runs(Side side) const { return commands.TurnMarksVisible(side); }
 
     Form& form;

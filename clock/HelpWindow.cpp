@@ -35,8 +35,8 @@ std::wstring HelpWindow::AddressOf(HelpPage page) const {
 void HelpWindow::Open(HWND owner, HelpPage page) {
     Watch(GetWindow(owner, GW_HWNDFIRST));
     const std::wstring address = AddressOf(page);
-    // The viewer cannot be told to turn to another page: it is started anew.
-    if (held && address != opened) {
+    // The viewer cannot be told to turn to a page: it is started anew.
+    if (held && page != HelpPage::Contents) {
         Close(held);
         process.reset();
     }
@@ -46,7 +46,7 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
         return;
     }
     // A viewer that has been started and shows no window yet will.
-    if (process && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
+    if (process && page == HelpPage::Contents && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
     const std::wstring file = address.substr(0, address.rfind(L"::"));
     const DWORD attributes = GetFileAttributesW(file.c_str());
@@ -64,7 +64,6 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
     }
     CloseHandle(started.hThread);
     process.reset(started.hProcess);
-    opened = address;
 }
 
 void HelpWindow::Watch(HWND first) {

@@ -17,8 +17,8 @@ class HelpWindow {
     HelpWindow(const Texts& texts, const MessageBoxes& messageBoxes, std::wstring viewer, std::wstring folder)
         : texts(texts), messageBoxes(messageBoxes), viewer(std::move(viewer)), folder(std::move(folder)) {}
 
-    // Opens a page in the language of the program, or brings its window to the front when it is open already. A missing
-    // viewer or file is told in a message.
+    // Opens a page in the language of the program. The contents bring a viewer that is open to the front instead. A
+    // missing viewer or file is told in a message.
     void Open(HWND owner, HelpPage page);
 
     // Looks from `first` downwards in the z-order for the viewer's window and holds it.
@@ -36,5 +36,4 @@ class HelpWindow {
     std::wstring folder;
     UniqueFile process;  // of the viewer last started
     HWND held = nullptr;
-    std::wstring opened;  // address of the page that the viewer was started with
 };

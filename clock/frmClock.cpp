@@ -22,8 +22,8 @@ constexpr UINT_PTR BlinkTimer = 1, HelpTimer = 2;
 constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
 
 // Messages of the window to itself: a button was pressed with this key (0: the mouse); the window is open and
-// can show what went wrong before; the Scorlet's window is gone.
-constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2, WM_FORGETSCORLET = WM_APP + 3;
+// can show what went wrong before.
+constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2;
 
 }  // namespace
 
@@ -36,10 +36,13 @@ frmClock::frmClock(const modEnvironment::Environment& environment, const Setting
       commands(*this),
       timer([this] { Tick(); }),
       help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
-      panels(*this, commands, settings, captions, environment.appearance.backgroundColour) {}
+      panels(*this, commands, settings, captions, environment.appearance.backgroundColour),
+      scorlet(
+          *this, commands, texts, messageBoxes, [this] { UpdateMenu(); }, [this] { games.Print(); }),
+      games(*this, commands, scorlet, panels, settings, environment, help, texts, messageBoxes) {}
 
 frmClock::~frmClock() {
-    scorlet.reset();
+    scorlet.Unload();
     // The window's last messages need the members of this class.
     if (Window()) DestroyWindow(Window());
 }
@@ -89,46 +92,8 @@ bool frmClock::TakeMessage(MSG& message) {
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
     if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
-    if (scorlet && scorlet->TakeMessage(message)) return true;
+    if (scorlet.Loaded() && scorlet.Loaded()->TakeMessage(message)) return true;
     return IsDialogMessageW(Window(), &message);
-}
-
-void frmClock::ShowScorlet() {
-    if (scorlet) {
-        if (IsIconic(scorlet->Window())) ShowWindow(scorlet->Window(), SW_RESTORE);
-        SetForegroundWindow(scorlet->Window());
-        return;
-    }
-    const RECT place = PlaceBeside();
-    ScorletHost& host = *this;
-    auto opened = std::make_unique<frmScorlet>(host, texts, messageBoxes);
-    const std::wstring problem = opened->Open(place);
-    scorlet = std::move(opened);
-    UpdateMenu();
-    if (!problem.empty()) messageBoxes.Inform(scorlet->Window(), problem);
-}
-
-// Right of the clock. Where the screen is too narrow for both, first the clock and then the Scorlet give way, down to
-// their least sizes.
-RECT frmClock::PlaceBeside() {
-    const RECT screen = WorkArea(Window());
-    const LONG screenWidth = screen.right - screen.left;
-    const SIZE size = frmScorlet::DesignSize(Dpi());
-    RECT clock{};
-    GetWindowRect(Window(), &clock);
-    if (!IsZoomed(Window()) && !IsIconic(Window()) && clock.right + size.cx > screen.right) {
-        const LONG width = clock.right - clock.left, height = clock.bottom - clock.top;
-        const LONG narrowed = std::min(width, std::max(screenWidth - size.cx, LONG{Scaled(LeastWidth, Dpi())}));
-        const LONG left = std::max(std::min(screen.right - size.cx - narrowed, clock.left), screen.left);
-        SetWindowPos(Window(), nullptr, left, clock.top, narrowed, MulDiv(height, narrowed, width),
-                     SWP_NOZORDER | SWP_NOACTIVATE);
-        GetWindowRect(Window(), &clock);
-    }
-    const LONG width = std::min(size.cx, std::max(screen.right - clock.right, LONG{Scaled(ScorletLeastWidth, Dpi())}));
-    const LONG height = std::min(size.cy, screen.bottom - screen.top);
-    const LONG left = std::max(std::min(clock.right, screen.right - width), screen.left);
-    const LONG top = std::max(std::min(clock.top, screen.bottom - height), screen.top);
-    return {left, top, left + width, top + height};
 }
 
 void frmClock::ShowSetup() {
@@ -139,47 +104,13 @@ void frmClock::ShowSetup() {
     setup.RunModal();
     if (!setup.Accepted()) return;
     commands.TakeTimeControl(ShownTimeControl());
-    if (scorlet) scorlet->ShowRecord();
+    if (scorlet.Loaded()) scorlet.Loaded()->ShowRecord();
 }
 
 void frmClock::ShowAbout() {
     frmAbout about(texts, messageBoxes, environment.appearance.backgroundColour);
     about.Open(Window());
     about.RunModal();
-}
-
-void frmClock::CloseScorlet() {
-    if (!scorlet) return;
-    if (!messageBoxes.Ask(scorlet->Window(), texts(TextId::CloseScorletQuestion), true, TextId::CloseScorletTitle))
-        return;
-    if (scorlet) DestroyWindow(scorlet->Window());
-}
-
-void frmClock::ScorletDestroyed() {
-    // The form is still in use up the stack; it is given up when this message is done.
-    PostMessageW(Window(), WM_FORGETSCORLET, 0, 0);
-}
-
-void frmClock::MoveBegun(bool firstPress, Side running) {
-    if (!scorlet) return;
-    if (const auto line = scorlet->Record().AddLineForPress(firstPress, running)) scorlet->ShowRecord(line);
-}
-
-void frmClock::RecordFlagFall(Side side) {
-    if (!scorlet) return;
-    scorlet->Record().FlagFell(side);
-    scorlet->ShowRecord();
-}
-
-void frmClock::ResetRecorder() {
-    if (scorlet) scorlet->ResetRecord();
-}
-
-void frmClock::PressEnabledClock() {
-    for (Side side : BothSides) {
-        if (commands.ClockButtonEnabled(side)) return commands.Press(side);
-    }
-    if (commands.CurrentPhase() == Phase::Fallen) commands.Press(White);
 }
 
 void frmClock::PlaceWindow() {
@@ -217,7 +148,8 @@ void frmClock::UpdateMenu() {
     const std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
     ModifyMenuW(menu, mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
     EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (commands.SetupEnabled() ? MF_ENABLED : MF_GRAYED));
-    EnableMenuItem(menu, mnuCloseScorlet, MF_BYCOMMAND | (scorlet ? MF_ENABLED : MF_GRAYED));
+    for (const UINT entry : {mnuCloseScorlet, mnuPrint})
+        EnableMenuItem(menu, entry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
 }
 
 void frmClock::Tick() {
@@ -272,14 +204,7 @@ modClock::TimeControl frmClock::ReadTimeControl() {
 // Shows what the settings say; the rest of them is for the clock.
 modClock::TimeControl frmClock::ShownTimeControl() {
     panels.ShowSettings();
-    modClock::TimeControl control;
-    control.PeriodLimit = settings.PeriodLimit;
-    control.SecondPeriodTime = settings.SecondPeriodTime;
-    control.MoveBonus = settings.MoveBonus;
-    control.CountTimeDown = settings.CountTimeDown;
-    control.SecondPeriodEnabled = settings.SecondPeriodEnabled;
-    control.MovesFirstPeriod = settings.MovesFirstPeriod;
-    return control;
+    return TimeControlOf(settings);
 }
 
 LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -310,10 +235,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
         case WM_TELLPROBLEMS: TellReadingProblems(); return 0;
-        case WM_FORGETSCORLET:
-            if (scorlet && !scorlet->Window()) scorlet.reset();
-            UpdateMenu();
-            return 0;
+        case WM_FORGETSCORLET: scorlet.Forget(); return 0;
         case WM_DESTROY:
             Unload();
             PostQuitMessage(0);
@@ -326,11 +248,15 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 void frmClock::OnCommand(int id) {
     switch (id) {
         case mnuStart: return commands.Start();
+        case mnuLoad: return games.Open(FilesMode::Load);
+        case mnuSave: return games.Open(FilesMode::Save);
+        case mnuDelete: return games.Open(FilesMode::Delete);
         case mnuExit: DestroyWindow(Window()); return;
         case mnuReset: return commands.AskedResetIfStarted();
         case mnuPause: return commands.PauseOrResume();
-        case mnuShowScorlet: return ShowScorlet();
-        case mnuCloseScorlet: return CloseScorlet();
+        case mnuShowScorlet: return scorlet.Show();
+        case mnuCloseScorlet: return scorlet.Close();
+        case mnuPrint: return games.Print();
         case mnuSetup: return ShowSetup();
         case mnuContents: return help.Open(Window(), HelpPage::Contents);
         case mnuAbout: return ShowAbout();

@@ -2,20 +2,20 @@
 
 #include "clock/ClockCommands.h"
 #include "clock/ClockPanels.h"
+#include "clock/ClockScorlet.h"
+#include "clock/GameDesk.h"
 #include "clock/HelpWindow.h"
 #include "clock/TickTimer.h"
 #include "clock/modEnvironment.h"
 #include "platform/Form.h"
-#include "recorder/frmScorlet.h"
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
 // The main window: two clock panels side by side and the menus.
-class frmClock : public Form, private ClockView, private ScorletHost {
+class frmClock : public Form, private ClockView {
   public:
     // All of them must outlive the window.
     frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
@@ -43,27 +43,20 @@ class frmClock : public Form, private ClockView, private ScorletHost {
     void PlayFlagSound() override;
     void Inform(Notice notice) override;
     bool AskReset() override;
-    bool MovesWritten() const override { return scorlet && scorlet->Record().MovesWritten(); }
-    void MoveBegun(bool firstPress, Side running) override;
-    void RecordFlagFall(Side side) override;
-    void ResetRecorder() override;
+    bool MovesWritten() const override { return scorlet.Loaded() && scorlet.Loaded()->Record().MovesWritten(); }
+    void MoveBegun(bool firstPress, Side running) override { scorlet.MoveBegun(firstPress, running); }
+    void RecordFlagFall(Side side) override { scorlet.RecordFlagFall(side); }
+    void ResetRecorder() override {
+        if (scorlet.Loaded()) scorlet.Loaded()->ResetRecord();
+    }
     modClock::TimeControl ReadTimeControl() override;
     void TellReadingProblems() override;
 
-    // ScorletHost
-    std::array<int32_t, 2> MoveCounts() const override { return commands.Clock().State().MoveCount; }
-    void PressEnabledClock() override;
-    void PauseForResult() override { commands.PauseIfRunning(); }
-    void CloseScorlet() override;
-    void ScorletDestroyed() override;
-
     void LoadPictures();
-    void ShowScorlet();
     void ShowSetup();
     void ShowAbout();
     modClock::TimeControl ShownTimeControl();
     void UpdateMenu();
-    RECT PlaceBeside();
     void PlaceWindow();
     void Tick();
     std::wstring NoticeText(Notice notice) const;
@@ -91,8 +84,9 @@ class frmClock : public Form, private ClockView, private ScorletHost {
     TickTimer timer;
     HelpWindow help;
     ClockPanels panels;
+    ClockScorlet scorlet;
+    GameDesk games;
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
-    std::unique_ptr<frmScorlet> scorlet;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told
 };

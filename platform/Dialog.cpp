@@ -24,23 +24,29 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
     Form::Create(name, captions(caption), WS_POPUP | WS_CAPTION | WS_SYSMENU,
                  LoadIconW(GetModuleHandleW(nullptr), icon), owner);
     for (const DialogItem& item : items) {
-        AddControl(item.kind, item.id, WS_VISIBLE | item.style);
+        // The arrow keys go between buttons that follow one another.
+        const bool button = lstrcmpW(item.kind, WC_BUTTONW) == 0 && (item.style & BS_TYPEMASK) != BS_GROUPBOX;
+        AddControl(item.kind, item.id, WS_VISIBLE | item.style | (button ? 0 : WS_GROUP));
         if (item.text) SetText(item.id, captions(*item.text));
     }
     Place(owner, width, height);
-    Arrange();
 }
 
 // In the middle of the owner, and on the screen.
 void Dialog::Place(HWND owner, int width, int height) {
     const RECT screen = WorkArea(owner);
-    RECT around{}, frame{0, 0, Scaled(width, Dpi()), Scaled(height, Dpi())};
+    RECT around{}, client{};
     GetWindowRect(owner, &around);
-    AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)), FALSE, 0);
-    const LONG wide = frame.right - frame.left, high = frame.bottom - frame.top;
-    const LONG left = std::max(std::min((around.left + around.right - wide) / 2, screen.right - wide), screen.left);
-    const LONG top = std::max(std::min((around.top + around.bottom - high) / 2, screen.bottom - high), screen.top);
-    SetWindowPos(Window(), nullptr, left, top, wide, high, SWP_NOZORDER | SWP_NOACTIVATE);
+    // What the frame adds is known only of a window that has a size.
+    const int wide = Scaled(width, Dpi()), high = Scaled(height, Dpi());
+    SetWindowPos(Window(), nullptr, 0, 0, wide, high, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    GetClientRect(Window(), &client);
+    const LONG fullWidth = 2 * wide - client.right, fullHeight = 2 * high - client.bottom;
+    const LONG left =
+        std::max(std::min((around.left + around.right - fullWidth) / 2, screen.right - fullWidth), screen.left);
+    const LONG top =
+        std::max(std::min((around.top + around.bottom - fullHeight) / 2, screen.bottom - fullHeight), screen.top);
+    SetWindowPos(Window(), nullptr, left, top, fullWidth, fullHeight, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Dialog::Arrange() {

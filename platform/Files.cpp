@@ -3,54 +3,109 @@
 #include "platform/Handles.h"
 #include "platform/SystemError.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
-UniqueFile Open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
-    const HANDLE file = CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// The form of a path that the system takes at any length (Maximum Path Length Limitation, Win32 documentation).
+std::wstring Long(const std::wstring& path) {
+    if (path.rfind(L"\\\\", 0) == 0) return L"\\\\?\\UNC" + path.substr(1);
+    return L"\\\\?\\" + path;
+}
+
+std::wstring Beside(const std::wstring& path) { return Long(path) + L".new"; }
+
+UniqueFile Open(const std::wstring& longPath, DWORD access, DWORD share, DWORD disposition) {
+    const HANDLE file =
+        CreateFileW(longPath.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
     return UniqueFile(file == INVALID_HANDLE_VALUE ? nullptr : file);
+}
+
+bool IsMissing(DWORD code) { return code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND; }
+
+// 0, or why a file that exists could not be replaced.
+DWORD WhyNotReplaced(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(Long(path).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return 0;
+    // Not every system refuses to move a file over one that is write-protected.
+    if (attributes & FILE_ATTRIBUTE_READONLY) return ERROR_ACCESS_DENIED;
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY) return ERROR_ALREADY_EXISTS;
+    return Open(Long(path), GENERIC_WRITE | DELETE, ShareAll, OPEN_EXISTING) ? 0 : GetLastError();
 }
 
 }  // namespace
 
 std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path, size_t limit) {
-    const UniqueFile file =
-        Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
+    const UniqueFile file = Open(Long(path), GENERIC_READ, ShareAll, OPEN_EXISTING);
     if (!file) {
         const DWORD code = GetLastError();
-        if (code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND) return std::nullopt;
+        if (IsMissing(code)) return std::nullopt;
         throw SystemError(code, path);
     }
-    std::vector<uint8_t> bytes(limit);
-    DWORD read = 0;
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file.get(), &size)) throw SystemError(GetLastError(), path);
+    std::vector<uint8_t> bytes(std::min(limit, static_cast<size_t>(size.QuadPart)));
     size_t total = 0;
-    do {
-        if (!ReadFile(file.get(), bytes.data() + total, static_cast<DWORD>(limit - total), &read, nullptr))
+    while (total < bytes.size()) {
+        DWORD read = 0;
+        if (!ReadFile(file.get(), bytes.data() + total, static_cast<DWORD>(bytes.size() - total), &read, nullptr))
             throw SystemError(GetLastError(), path);
+        if (read == 0) break;
         total += read;
-    } while (read > 0 && total < limit);
+    }
     bytes.resize(total);
     return bytes;
 }
 
-void ReplaceFileBytes(const std::wstring& path, std::string_view bytes) {
-    const std::wstring beside = path + L".new";
-    const auto fail = [&](DWORD code) {
-        DeleteFileW(beside.c_str());
-        throw SystemError(code, path);
-    };
-    // Not every system refuses to move a file over one that is write-protected.
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && attributes & FILE_ATTRIBUTE_READONLY)
-        throw SystemError(ERROR_ACCESS_DENIED, path);
+bool FileExists(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(Long(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
 
-    UniqueFile file = Open(beside, GENERIC_WRITE, 0, CREATE_ALWAYS);
+std::vector<std::wstring> FilesIn(const std::wstring& folder) {
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(Long(folder + L"*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.emplace_back(found.cFileName);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return names;
+}
+
+void DeleteFileAt(const std::wstring& path) {
+    if (!DeleteFileW(Long(path).c_str())) throw SystemError(GetLastError(), path);
+}
+
+FileBeside::FileBeside(const std::wstring& path, std::string_view bytes) : path(path) {
+    if (const DWORD code = WhyNotReplaced(path)) throw SystemError(code, path);
+    UniqueFile file = Open(Beside(path), GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) throw SystemError(GetLastError(), path);
     DWORD written = 0;
     const bool complete = WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
                           written == bytes.size() && FlushFileBuffers(file.get());
-    const DWORD code = complete ? ERROR_SUCCESS : GetLastError();
+    if (complete) return;
+    const DWORD code = GetLastError();
     file.reset();
-    if (!complete) fail(code == ERROR_SUCCESS ? ERROR_DISK_FULL : code);
-    if (!MoveFileExW(beside.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        fail(GetLastError());
+    DeleteFileW(Beside(path).c_str());
+    throw SystemError(code == ERROR_SUCCESS ? ERROR_DISK_FULL : code, path);
 }
+
+FileBeside::~FileBeside() {
+    if (waiting) DeleteFileW(Beside(path).c_str());
+}
+
+FileBeside::FileBeside(FileBeside&& other) noexcept
+    : path(std::move(other.path)), waiting(std::exchange(other.waiting, false)) {}
+
+void FileBeside::TakePlace() {
+    if (!MoveFileExW(Beside(path).c_str(), Long(path).c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        throw SystemError(GetLastError(), path);
+    waiting = false;
+}
+
+void ReplaceFileBytes(const std::wstring& path, std::string_view bytes) { FileBeside(path, bytes).TakePlace(); }

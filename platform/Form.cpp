@@ -27,8 +27,11 @@ void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style,
     // A class that is registered already serves the form's next opening.
     if (!RegisterClassExW(&windowClass) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
         throw SystemError(GetLastError(), name);
-    if (!CreateWindowExW(WS_EX_CONTROLPARENT, name, caption.c_str(), style, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, owner,
-                         nullptr, GetModuleHandleW(nullptr), this))
+    // On the screen of its owner, whose resolution it then has.
+    RECT place{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
+    if (owner) GetWindowRect(owner, &place);
+    if (!CreateWindowExW(WS_EX_CONTROLPARENT, name, caption.c_str(), style, place.left, place.top, 0, 0, owner, nullptr,
+                         GetModuleHandleW(nullptr), this))
         throw SystemError(GetLastError(), name);
 }
 

@@ -22,6 +22,8 @@ TextId ReasonRow(DWORD code) {
         case ERROR_HANDLE_DISK_FULL: return TextId::ReasonDiskFull;
         case ERROR_FILE_NOT_FOUND:
         case ERROR_PATH_NOT_FOUND: return TextId::ReasonNotFound;
+        case ERROR_INVALID_NAME:
+        case ERROR_FILENAME_EXCED_RANGE: return TextId::ReasonInvalidName;
         case ERROR_ALREADY_EXISTS:
         case ERROR_FILE_EXISTS: return TextId::ReasonNameTaken;
         default: return TextId::ReasonSystemError;

@@ -147,11 +147,19 @@ void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) SetVisible(id, recorder.AwaitsPromotion());
 }
 
-void frmScorlet::ResetRecord() {
+void frmScorlet::TakeRecord(const Recorder& record) {
     EndEdit(false);
     input.Reset();
-    recorder.Reset();
+    recorder = record;
     ShowRecord();
+}
+
+void frmScorlet::TopUpMoveLists() {
+    const auto added = recorder.TopUpMoveLists(host.MoveCounts());
+    ShowRecord();
+    for (Side side : BothSides) {
+        if (added[side]) ChooseLine({side, *added[side]});
+    }
 }
 
 void frmScorlet::ShowBoard() {
@@ -249,6 +257,7 @@ void frmScorlet::OnCommand(int id, int notification) {
             return;
         case cmdOK: return EndEdit(true);
         case mnuEditMove: return BeginEdit(menuList);
+        case mnuPrintMoveList: return host.PrintMoveList();
         case mnuDeleteLastMove:
             recorder.DeleteLast(menuList);
             ShowRecord();
@@ -321,7 +330,7 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
     const UINT state = SendMessageW(control, LB_GETCURSEL, 0, 0) >= 0 ? MF_ENABLED : MF_GRAYED;
     const HMENU menu = CreatePopupMenu();
     AppendMenuW(menu, MF_STRING | state, mnuEditMove, captions(TextId::EditMove).c_str());
-    AppendMenuW(menu, MF_STRING | MF_GRAYED, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
+    AppendMenuW(menu, MF_STRING, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
     AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, captions(TextId::DeleteLastMove).c_str());
     TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
     DestroyMenu(menu);

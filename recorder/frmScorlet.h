@@ -16,7 +16,8 @@ class ScorletHost {
     virtual std::array<int32_t, 2> MoveCounts() const = 0;
     virtual void PressEnabledClock() = 0;
     virtual void PauseForResult() = 0;  // a declaration has ended the game
-    virtual void CloseScorlet() = 0;    // asks, and destroys the window on Yes
+    virtual void PrintMoveList() = 0;
+    virtual void CloseScorlet() = 0;  // asks, and destroys the window on Yes
     virtual void ScorletDestroyed() = 0;
 
   protected:
@@ -38,8 +39,11 @@ class frmScorlet : public Form {
     Recorder& Record() { return recorder; }
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
-    // The record and all that is under way back to the start.
-    void ResetRecord();
+    // Takes another record; what is under way ends.
+    void TakeRecord(const Recorder& record);
+    void ResetRecord() { TakeRecord({}); }
+    // Fills the lists up to the clock's counts, the added lines chosen.
+    void TopUpMoveLists();
 
     // Keys of the window. True: the message is done with.
     bool TakeMessage(MSG& message);

@@ -122,6 +122,20 @@ enum AboutControl : int {
     lblAboutValue = 2308,
 };
 
+// The file dialog.
+enum FilesControl : int {
+    fraGames = 2400,
+    lblHint,
+    lblGameName,
+    txtGameName,
+    lblGames,
+    lstGames,
+    fraActions,
+    cmdLoad,
+    cmdSave,
+    cmdDelete,
+};
+
 // Captured pieces of a side.
 inline constexpr int CapturedSlots = imgCapturedBQ - imgCapturedWQ;
 

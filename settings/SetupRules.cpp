@@ -9,11 +9,15 @@ TypeRules RulesOf(int32_t clockType) {
     }
 }
 
-void ChooseClockType(Settings& settings, int32_t type) {
-    settings.SetClockType(type);
-    const TypeRules rules = RulesOf(type);
+void DropWhatTypeLacks(Settings& settings) {
+    const TypeRules rules = RulesOf(settings.ClockType);
     if (!rules.secondPeriod) settings.SecondPeriodTime.fill(0);
     if (!rules.bonus) settings.MoveBonus.fill(0);
+}
+
+void ChooseClockType(Settings& settings, int32_t type) {
+    settings.SetClockType(type);
+    DropWhatTypeLacks(settings);
     if (type == 3) settings.CountTimeDown = true;
 }
 

@@ -23,6 +23,9 @@ struct TypeRules {
 };
 TypeRules RulesOf(int32_t clockType);
 
+// Sets what cannot be set with the type to 0.
+void DropWhatTypeLacks(Settings& settings);
+
 // Takes the type with its rules: what cannot be set becomes 0, and HOURGLASS counts down.
 void ChooseClockType(Settings& settings, int32_t type);
 

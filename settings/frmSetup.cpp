@@ -25,8 +25,9 @@ constexpr DialogItem CheckBox(int id, int left, int top, TextId text) {
 constexpr DialogItem List(int id, int left, int top, int width) {
     return {id, WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, {left, top, width, OpenListHeight}};
 }
-constexpr DialogItem Button(int id, Box box, TextId text) {
-    return {id, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, box, text};
+// `first` of those that the arrow keys go between.
+constexpr DialogItem Button(int id, Box box, TextId text, bool first = false) {
+    return {id, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON | (first ? DWORD{WS_GROUP} : 0), box, text};
 }
 constexpr DialogItem Name(int id, int left, int top) {
     return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, 180, 23}};
@@ -80,15 +81,15 @@ constexpr std::array Items{
     Group(fraSound, {420, 206, 290, 116}, TextId::SoundGroup),
     Label(lblButtonSound, {432, 228, 266, LineHeight}, TextId::ButtonSound),
     List(cmbButtonSound, 432, 246, 170),
-    Button(cmdPreviewButton, {610, 245, 88, 25}, TextId::Preview),
+    Button(cmdPreviewButton, {610, 245, 88, 25}, TextId::Preview, true),
     Label(lblFlagSound, {432, 275, 266, LineHeight}, TextId::FlagSound),
     List(cmbFlagSound, 432, 293, 170),
-    Button(cmdPreviewFlag, {610, 292, 88, 25}, TextId::Preview),
+    Button(cmdPreviewFlag, {610, 292, 88, 25}, TextId::Preview, true),
     Group(fraMiscellaneous, {420, 330, 290, 88}, TextId::MiscellaneousGroup),
     CheckBox(chkShowMoveNumber, 432, 348, TextId::ShowMoveNumber),
     CheckBox(chkTurnClock, 432, 370, TextId::TurnClock),
     CheckBox(chkCountTimeDown, 432, 392, TextId::CountTimeDown),
-    Button(cmdDefault, {10, 430, 116, 30}, TextId::ButtonDefault),
+    Button(cmdDefault, {10, 430, 116, 30}, TextId::ButtonDefault, true),
     Button(cmdBlitz, {134, 430, 116, 30}, TextId::ButtonBlitz),
     DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {382, 430, 104, 30}, TextId::ButtonOk},
     Button(cmdCancel, {494, 430, 104, 30}, TextId::ButtonCancel),
@@ -111,6 +112,8 @@ constexpr std::array Checks{
     CheckedSetting{chkCountTimeDown, &Settings::CountTimeDown},
 };
 
+constexpr std::array Lists{cmbClockType, cmbLanguage, cmbMoveAmount, cmbButtonSound, cmbFlagSound};
+
 // In the order of the list.
 constexpr std::array<int32_t, 3> Languages{English, French, Turkish};
 
@@ -124,14 +127,17 @@ frmSetup::frmSetup(const Texts& texts, const MessageBoxes& messageBoxes, uint32_
       file(file),
       settings(settings),
       draft(settings),
-      openHelp(std::move(openHelp)) {}
+      openHelp(std::move(openHelp)) {
+    DropWhatTypeLacks(draft);
+}
 
 void frmSetup::Open(HWND owner) {
     Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", Width, Height, Items);
+    for (int list : Lists) SetWindowSubclass(Control(list), ListProcedure, 0, reinterpret_cast<DWORD_PTR>(Window()));
     FillLists();
     SetToolTips();
     ShowDraft();
-    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.PlayerNames[side]));
+    for (Side side : BothSides) SetName(side, FromAnsi(draft.PlayerNames[side]));
 }
 
 void frmSetup::FillLists() {
@@ -154,13 +160,7 @@ void frmSetup::SetToolTips() {
 }
 
 void frmSetup::ShowDraft() {
-    Choose(cmbClockType, draft.ClockType);
-    // A language that is none of the three leaves its list without a choice.
-    const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
-    Choose(cmbLanguage, language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin()));
-    Choose(cmbMoveAmount, std::min(draft.MovesFirstPeriod - 1, MostMovesListed));
-    Choose(cmbButtonSound, draft.ButtonSoundIndex);
-    Choose(cmbFlagSound, draft.FlagSoundIndex);
+    for (int list : Lists) SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(PositionOf(list)), 0);
     for (const auto& [box, setting] : Checks)
         SendMessageW(Control(box), BM_SETCHECK, draft.*setting ? BST_CHECKED : BST_UNCHECKED, 0);
     for (const TimeBars& bars : Times) {
@@ -168,6 +168,20 @@ void frmSetup::ShowDraft() {
     }
     // Last: a range makes a scroll bar enabled.
     ShowClockType();
+}
+
+// What a list shows of the draft; -1 where it has no entry for it.
+int frmSetup::PositionOf(int list) const {
+    switch (list) {
+        case cmbClockType: return draft.ClockType;
+        case cmbLanguage: {
+            const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
+            return language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin());
+        }
+        case cmbMoveAmount: return std::min(draft.MovesFirstPeriod - 1, MostMovesListed);
+        case cmbButtonSound: return draft.ButtonSoundIndex;
+        default: return draft.FlagSoundIndex;
+    }
 }
 
 void frmSetup::ShowClockType() {
@@ -226,12 +240,7 @@ void frmSetup::OnCommand(int id, int notification) {
         case cmbLanguage:
         case cmbMoveAmount:
         case cmbButtonSound:
-        case cmbFlagSound:
-            // What the keys pass over in an open list has not been chosen: a clock type would take times away.
-            if (notification == CBN_CLOSEUP ||
-                (notification == CBN_SELCHANGE && !SendMessageW(Control(id), CB_GETDROPPEDSTATE, 0, 0)))
-                OnList(id, Chosen(id));
-            return;
+        case cmbFlagSound: return OnListNotification(id, notification);
         case cmdPreviewButton: return modSound::Play(draft.ButtonSoundName);
         case cmdPreviewFlag: return modSound::Play(draft.FlagSoundName);
         case cmdDefault: ChoosePreset(draft, DefaultPreset); return ShowDraft();
@@ -246,24 +255,40 @@ void frmSetup::OnCommand(int id, int notification) {
     }
 }
 
-void frmSetup::OnList(int id, int position) {
-    if (position < 0) return;
-    switch (id) {
+// What is passed over in an open list has not been chosen: a clock type would take times away.
+void frmSetup::OnListNotification(int id, int notification) {
+    const HWND list = Control(id);
+    if (notification == CBN_SELENDCANCEL) SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(PositionOf(id)), 0);
+    const bool open = SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) != 0;
+    if (notification != CBN_CLOSEUP && (notification != CBN_SELCHANGE || open)) return;
+    const auto position = static_cast<int>(SendMessageW(list, CB_GETCURSEL, 0, 0));
+    if (position >= 0 && position != PositionOf(id)) OnChoice(id, position);
+}
+
+void frmSetup::OnChoice(int list, int position) {
+    switch (list) {
         case cmbClockType: ChooseClockType(draft, position); return ShowDraft();
         case cmbLanguage: settings.LanguageIndex = Languages[static_cast<size_t>(position)]; return;
-        case cmbMoveAmount: {
-            wchar_t text[16];
-            GetWindowTextW(Control(id), text, 16);
-            draft.MovesFirstPeriod = std::stoi(text);
+        case cmbMoveAmount:
+            // The last entry is a stored amount that the others do not reach.
+            draft.MovesFirstPeriod = position < MostMovesListed ? position + 1 : settings.MovesFirstPeriod;
             return ShowClockType();
-        }
         case cmbButtonSound: return draft.SetButtonSound(position);
         default: return draft.SetFlagSound(position);
     }
 }
 
+// A closed list leaves the wheel to the dialog: it would choose another entry under a mouse that is elsewhere.
+LRESULT CALLBACK frmSetup::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR form) {
+    if (message == WM_MOUSEWHEEL && !SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0))
+        return SendMessageW(reinterpret_cast<HWND>(form), message, wParam, lParam);
+    return DefSubclassProc(list, message, wParam, lParam);
+}
+
 // A change that the settings file could not hold is undone.
 void frmSetup::OnName(Side side) {
+    if (settingName) return;
     const HWND field = Control(ControlOf(txtName, side));
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(field)), L'\0');
     GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1);
@@ -279,8 +304,14 @@ void frmSetup::OnName(Side side) {
     SendMessageW(field, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
     const std::wstring old = FromAnsi(name);
     const auto caret = static_cast<LPARAM>(end) - static_cast<LPARAM>(text.size()) + static_cast<LPARAM>(old.size());
-    SetWindowTextW(field, old.c_str());
+    SetName(side, old);
     SendMessageW(field, EM_SETSEL, static_cast<WPARAM>(std::max(caret, LPARAM{0})), std::max(caret, LPARAM{0}));
+}
+
+void frmSetup::SetName(Side side, const std::wstring& name) {
+    settingName = true;
+    SetText(ControlOf(txtName, side), name);
+    settingName = false;
 }
 
 void frmSetup::OnScroll(int bar, int request) {
@@ -313,14 +344,14 @@ void frmSetup::OnScroll(int bar, int request) {
 }
 
 // Turns the scroll bar under the mouse, else the one with the focus: a notch is a small step, forwards is more.
-bool frmSetup::OnWheel(short delta, POINT point) {
-    const auto isBar = [](HWND control) {
-        const int id = GetDlgCtrlID(control);
-        return id >= hsbFirstPeriod && id <= hsbBonus + 1 && IsWindowEnabled(control);
-    };
-    HWND bar = WindowFromPoint(point);
-    if (!isBar(bar)) bar = GetFocus();
-    if (!isBar(bar)) return false;
+bool frmSetup::OnWheel(short delta, POINT screenPoint) {
+    HWND bar = nullptr;
+    for (int id = hsbFirstPeriod; id <= hsbBonus + 1; ++id) {
+        RECT area{};
+        GetWindowRect(Control(id), &area);
+        if (PtInRect(&area, screenPoint) || (!bar && Control(id) == GetFocus())) bar = Control(id);
+    }
+    if (!bar || !IsWindowEnabled(bar)) return false;
     wheelRest += delta;
     for (; wheelRest >= WHEEL_DELTA; wheelRest -= WHEEL_DELTA) OnScroll(GetDlgCtrlID(bar), SB_LINERIGHT);
     for (; wheelRest <= -WHEEL_DELTA; wheelRest += WHEEL_DELTA) OnScroll(GetDlgCtrlID(bar), SB_LINELEFT);
@@ -343,10 +374,4 @@ void frmSetup::OnOk() {
 
 void frmSetup::AddEntry(int list, const std::wstring& text) const {
     SendMessageW(Control(list), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-int frmSetup::Chosen(int list) const { return static_cast<int>(SendMessageW(Control(list), CB_GETCURSEL, 0, 0)); }
-
-void frmSetup::Choose(int list, int position) const {
-    SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(position), 0);
 }

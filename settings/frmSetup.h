@@ -43,15 +43,19 @@ class frmSetup : public Dialog {
     void ShowTime(const TimeBars& bars, Side side);
 
     void OnCommand(int id, int notification);
-    void OnList(int id, int position);
+    void OnListNotification(int id, int notification);
+    void OnChoice(int list, int position);
     void OnName(Side side);
     void OnScroll(int bar, int request);
     bool OnWheel(short delta, POINT screenPoint);
     void OnOk();
 
     void AddEntry(int list, const std::wstring& text) const;
-    int Chosen(int list) const;
-    void Choose(int list, int position) const;
+    int PositionOf(int list) const;
+    void SetName(Side side, const std::wstring& name);
+
+    static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                          DWORD_PTR form);
 
     const SettingsFile& file;
     Settings& settings;
@@ -59,5 +63,6 @@ class frmSetup : public Dialog {
     std::function<void(HWND)> openHelp;
     ToolTips toolTips{*this};
     int wheelRest = 0;  // of a notch
+    bool settingName = false;
     bool accepted = false;
 };

@@ -37,9 +37,6 @@ TEST(HelpTest, OpensPagesInOneViewerThatEndsWithTheProgram) {
     run.Choose(3, 0);
     HWND contents = nullptr;
     ASSERT_TRUE(Eventually([&] { return (contents = Viewer()) != nullptr && IsWindowVisible(contents); }));
-    EXPECT_EQ(TextOf(contents), L"TORVANIX");
-    // The program looks for the viewer's window every half second.
-    Sleep(1200);
 
     SetForegroundWindow(run.Clock());
     ASSERT_TRUE(Eventually([&] { return GetForegroundWindow() == run.Clock(); }));
@@ -53,7 +50,6 @@ TEST(HelpTest, OpensPagesInOneViewerThatEndsWithTheProgram) {
     HWND page = nullptr;
     EXPECT_TRUE(Eventually([&] { return (page = Viewer()) != nullptr && page != contents; })) << "another page";
     EXPECT_TRUE(Eventually([&] { return !IsWindow(contents); }));
-    Sleep(1200);
     SendMessageW(run.WaitWindow(L"frmSetup"), WM_CLOSE, 0, 0);
     ASSERT_TRUE(Eventually([&] { return IsWindowEnabled(run.Clock()); }));
     EXPECT_TRUE(run.Close());

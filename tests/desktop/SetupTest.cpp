@@ -113,8 +113,28 @@ TEST_F(SetupTest, ClockTypesEnableAndNameInEachLanguage) {
     }
 }
 
-TEST_F(SetupTest, PresetsTwiceInARow) {
+TEST_F(SetupTest, WhatIsPassedOverInAnOpenListIsNotChosen) {
     Start();
+    Focus(cmbClockType);
+    ASSERT_TRUE(Eventually([&] { return SendMessageW(Item(cmbClockType), CB_GETDROPPEDSTATE, 0, 0) != 0; }));
+    run->Key(VK_HOME);
+    run->Key(VK_ESCAPE);
+    EXPECT_TRUE(Eventually([&] { return SendMessageW(Item(cmbClockType), CB_GETDROPPEDSTATE, 0, 0) == 0; }));
+    EXPECT_TRUE(Eventually([&] { return Chosen(cmbClockType) == 1; })) << Chosen(cmbClockType);
+    EXPECT_EQ(Text(lblSecondPeriod), L"00:20");
+}
+
+TEST_F(SetupTest, PresetsTwiceInARow) {
+    Settings settings;
+    settings.PlayerNames = {"Anna", "Carl"};
+    settings.SetClockType(2);
+    settings.MoveBonus = {7, 8};
+    settings.TurnClock = settings.WritePgn = true;
+    settings.CountTimeDown = settings.OpenScorletAtStart = false;
+    settings.MovesFirstPeriod = 20;
+    settings.SetButtonSound(3);
+    settings.SetFlagSound(4);
+    Start(settings);
     for (int time = 0; time < 2; ++time) {
         Press(cmdBlitz);
         EXPECT_TRUE(Becomes(lblFirstPeriod, L"00:05"));
@@ -133,6 +153,8 @@ TEST_F(SetupTest, PresetsTwiceInARow) {
         EXPECT_TRUE(Checked(chkShowMoveNumber) && Checked(chkOpenScorlet) && Checked(chkCountTimeDown));
         EXPECT_EQ(Chosen(cmbFlagSound), 1);
         EXPECT_EQ(Text(cmbMoveAmount), L"40");
+        EXPECT_EQ(Text(txtName) + Text(txtName + 1) + Text(cmbLanguage), L"AnnaCarlEnglish") << "left as they are";
+        EXPECT_TRUE(Checked(chkPGN));
     }
     const std::pair<int, LRESULT> lists[] = {
         {cmbClockType, 4}, {cmbLanguage, 3}, {cmbMoveAmount, 100}, {cmbButtonSound, 5}, {cmbFlagSound, 6}};
@@ -162,6 +184,13 @@ TEST_F(SetupTest, ScrollBarsFollowKeysWheelAndMouse) {
         press[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
         SendInput(2, press, sizeof(INPUT));
     };
+    MoveMouseTo(Item(hsbFirstPeriod));
+    Sleep(100);
+    wheel(-1);
+    EXPECT_TRUE(Becomes(lblFirstPeriod, L"00:19")) << "while a list has the focus";
+    wheel(1);
+    EXPECT_TRUE(Becomes(lblFirstPeriod, L"00:20"));
+    EXPECT_EQ(Chosen(cmbClockType), 2);
     at(hsbFirstPeriod, 5);
     EXPECT_TRUE(Becomes(lblFirstPeriod, L"00:21")) << "an arrow is a small step";
     at(hsbFirstPeriod, 30);
@@ -276,9 +305,10 @@ TEST_F(SetupTest, CancelLeavesAllButTheLanguage) {
 TEST_F(SetupTest, PreviewsPlayWhatTheListsShow) {
     Start();
     ASSERT_FALSE(CaptureFile().empty()) << "TORVANIX_SOUND_CAPTURE names no file";
-    const std::tuple<int, int, int> previews[] = {{cmbButtonSound, 4, cmdPreviewButton},
-                                                  {cmbFlagSound, 5, cmdPreviewFlag}};
-    for (const auto& [list, position, button] : previews) {
+    // The first sound is short, the second long.
+    const std::tuple<int, int, int, size_t> previews[] = {{cmbButtonSound, 4, cmdPreviewButton, 200},
+                                                          {cmbFlagSound, 5, cmdPreviewFlag, 5000}};
+    for (const auto& [list, position, button, loud] : previews) {
         SCOPED_TRACE(button);
         DeleteFileW(CaptureFile().c_str());
         Press(button);
@@ -286,7 +316,7 @@ TEST_F(SetupTest, PreviewsPlayWhatTheListsShow) {
         EXPECT_EQ(LoudSamples(), 0u);
         Choose(list, position);
         Press(button);
-        EXPECT_TRUE(Eventually([&] { return LoudSamples() > 200; })) << LoudSamples();
+        EXPECT_TRUE(Eventually([&] { return LoudSamples() > loud; })) << LoudSamples();
     }
 }
 

@@ -15,6 +15,7 @@ struct SilentHost : ScorletHost {
     std::array<int32_t, 2> MoveCounts() const override { return {}; }
     void PressEnabledClock() override {}
     void PauseForResult() override {}
+    void PrintMoveList() override {}
     void CloseScorlet() override {}
     void ScorletDestroyed() override {}
 };

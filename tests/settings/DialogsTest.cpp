@@ -1,7 +1,9 @@
 #include "settings/frmAbout.h"
 #include "settings/frmSetup.h"
 
+#include "platform/Ansi.h"
 #include "platform/Dpi.h"
+#include "resources/Version.h"
 #include "resources/resource.h"
 #include "tests/desktop/Desktop.h"
 #include "tests/desktop/TextFit.h"
@@ -56,7 +58,11 @@ TEST_P(DialogsTest, SetupTextsFitInEveryClockType) {
 TEST_P(DialogsTest, AboutShowsTheVersionResourceWhole) {
     frmAbout about(texts, messageBoxes, 0xBFBFBF);
     about.Open(nullptr);
+    EXPECT_EQ(TextOf(about.Control(lblAboutValue)),
+              L"The program, its pictures and its sounds are the work of the TORVANIX team.");
     EXPECT_EQ(TextOf(about.Control(lblAboutValue + 1)), L"TORVANIX");
+    EXPECT_EQ(TextOf(about.Control(lblAboutValue + 2)), FromAnsi(TORVANIX_VERSION));
+    EXPECT_NE(TextOf(about.Control(lblAboutValue + 3)).find(L"©"), std::wstring::npos);
     AtEachScaling(about.Window(), [&] { ExpectTextsFit(about.Window()); });
 }
 

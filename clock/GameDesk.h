@@ -1,0 +1,41 @@
+#pragma once
+
+#include "clock/ClockPanels.h"
+#include "clock/ClockScorlet.h"
+#include "clock/HelpWindow.h"
+#include "clock/modEnvironment.h"
+#include "games/frmFiles.h"
+
+// Saving, loading, deleting and printing of the game that stands on the clock and the Scorlet.
+class GameDesk : private GameHost {
+  public:
+    // All of them must outlive it.
+    GameDesk(const Form& clock, ClockCommands& commands, ClockScorlet& scorlet, ClockPanels& panels, Settings& settings,
+             const modEnvironment::Environment& environment, HelpWindow& help, const Texts& texts,
+             const MessageBoxes& messageBoxes);
+
+    // Opens the file dialog. Throws SystemError.
+    void Open(FilesMode mode);
+
+    // Prints the lists of the Scorlet, which must be loaded.
+    void Print();
+
+  private:
+    GameFiles FilesOfGame() override;
+    void GameSaved() override;
+    const Settings& PresentSettings() const override { return settings; }
+    void TakeGame(const std::wstring& name, LoadedGame& game) override;
+    void OpenHelp(HWND owner) override { help.Open(owner, HelpPage::SavedGames); }
+
+    const Form& clock;
+    ClockCommands& commands;
+    ClockScorlet& scorlet;
+    ClockPanels& panels;
+    Settings& settings;
+    const modEnvironment::Environment& environment;
+    HelpWindow& help;
+    const Texts& texts;
+    const MessageBoxes& messageBoxes;
+    const SavedGames games;
+    bool printing = false;
+};

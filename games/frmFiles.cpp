@@ -1,0 +1,201 @@
+#include "games/frmFiles.h"
+
+#include "games/GameMessages.h"
+#include "platform/SystemError.h"
+#include "resources/resource.h"
+
+#include <commctrl.h>
+
+#include <array>
+
+namespace {
+
+constexpr int Width = 540, Height = 396;
+
+constexpr DialogItem Label(int id, Box box, std::optional<TextId> text = std::nullopt) {
+    return {id, WC_STATICW, SS_NOPREFIX, box, text};
+}
+constexpr DialogItem Button(int id, int top, TextId text, DWORD style = BS_PUSHBUTTON) {
+    return {id, WC_BUTTONW, WS_TABSTOP | style, {400, top, 118, 30}, text};
+}
+
+// The three actions share a place: the mode shows one of them.
+constexpr int ActionTop = 24;
+
+constexpr std::array Items{
+    DialogItem{fraGames, WC_BUTTONW, BS_GROUPBOX, {10, 4, 368, 382}},
+    Label(lblHint, {22, 22, 344, 36}),
+    Label(lblGameName, {22, 66, 344, 18}, TextId::SelectedGame),
+    DialogItem{txtGameName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {22, 86, 344, 23}},
+    Label(lblGames, {22, 120, 344, 18}, TextId::SavedGameList),
+    DialogItem{lstGames,
+               WC_LISTBOXW,
+               WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+               {22, 140, 344, 234}},
+    DialogItem{fraActions, WC_BUTTONW, BS_GROUPBOX, {388, 4, 142, 382}},
+    Button(cmdLoad, ActionTop, TextId::ButtonLoad, BS_DEFPUSHBUTTON),
+    Button(cmdSave, ActionTop, TextId::ButtonSave, BS_DEFPUSHBUTTON),
+    Button(cmdDelete, ActionTop, TextId::ButtonDelete, BS_DEFPUSHBUTTON),
+    Button(cmdCancel, 62, TextId::ButtonClose),
+    Button(cmdHelp, 344, TextId::ButtonGamesHelp),
+};
+
+// What differs between the modes.
+struct ModeTexts {
+    int button;
+    TextId hint, title, nameMissing;
+};
+constexpr std::array Modes{
+    ModeTexts{cmdLoad, TextId::HintLoad, TextId::LoadTitle, TextId::SelectGameToLoad},
+    ModeTexts{cmdSave, TextId::HintSave, TextId::SaveTitle, TextId::EnterNameToSave},
+    ModeTexts{cmdDelete, TextId::HintDelete, TextId::DeleteTitle, TextId::SelectGameToDelete},
+};
+constexpr const ModeTexts& Of(FilesMode mode) { return Modes[static_cast<size_t>(mode)]; }
+
+}  // namespace
+
+void frmFiles::Open(HWND owner) {
+    Create(owner, L"frmFiles", Of(mode).title, L"DISKETTE.ICO", Width, Height, Items);
+    for (const ModeTexts& texts : Modes) SetVisible(texts.button, texts.button == Of(mode).button);
+    SetText(lblHint, captions(Of(mode).hint));
+    SetWindowSubclass(Control(txtGameName), NameProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    toolTips.Create();
+    FillGameList();
+}
+
+LRESULT frmFiles::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_COMMAND) {
+        OnCommand(LOWORD(wParam), HIWORD(wParam));
+        return 0;
+    }
+    return Dialog::Handle(message, wParam, lParam);
+}
+
+int frmFiles::DefaultButton() const { return Of(mode).button; }
+
+void frmFiles::FillGameList() {
+    for (const std::wstring& name : games.Names())
+        SendMessageW(Control(lstGames), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+}
+
+void frmFiles::ClearGameList() const { SendMessageW(Control(lstGames), LB_RESETCONTENT, 0, 0); }
+
+void frmFiles::OnCommand(int id, int notification) {
+    switch (id) {
+        case lstGames:
+            if (notification == LBN_SELCHANGE || notification == LBN_DBLCLK) OnPick();
+            if (notification == LBN_DBLCLK) Act();
+            return;
+        case txtGameName:
+            if (notification == EN_CHANGE) OnNameChange();
+            return;
+        case cmdLoad:
+        case cmdSave:
+        case cmdDelete: return Act();
+        case cmdCancel: return Close();
+        case cmdHelp: return host.OpenHelp(Window());
+        default: return;
+    }
+}
+
+void frmFiles::OnPick() {
+    const HWND list = Control(lstGames);
+    const LRESULT index = SendMessageW(list, LB_GETCURSEL, 0, 0);
+    if (index < 0) return;
+    std::wstring name(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, static_cast<WPARAM>(index), 0)), L'\0');
+    SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(name.data()));
+    SetText(txtGameName, name);
+    toolTips.Set(lstGames, name);
+}
+
+void frmFiles::OnNameChange() {
+    if (settingText) return;
+    const std::wstring text = NameText(), changed = typed.Changed(text);
+    if (changed != text) {
+        const HWND field = Control(txtGameName);
+        settingText = true;
+        SetWindowTextW(field, changed.c_str());
+        SendMessageW(field, EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
+        settingText = false;
+    }
+    toolTips.Set(txtGameName, typed.LastGood());
+}
+
+void frmFiles::Act() {
+    const std::wstring name = NameText();
+    if (name.empty()) return Tell(texts(Of(mode).nameMissing));
+    if (IsDeviceName(name)) return Tell(texts.Compose(TextId::DeviceName, name));
+    switch (mode) {
+        case FilesMode::Load: return OnLoad(name);
+        case FilesMode::Save: return OnSave(name);
+        case FilesMode::Delete: return OnDelete(name);
+    }
+}
+
+void frmFiles::OnLoad(const std::wstring& name) {
+    if (!games.Exists(name)) return Tell(texts(TextId::GameBefore) + name + texts(TextId::NotFound));
+    if (!Ask(texts(TextId::GameBefore) + name + texts(TextId::WillBeLoaded))) return;
+    LoadedGame game;
+    try {
+        if (const auto error = games.LoadGame(name, host.PresentSettings(), game)) {
+            return Tell(texts.Compose(TextId::GameDamaged, games.PathOf(name, error->file), ReasonOf(*error, texts)));
+        }
+    } catch (const SystemError& error) {
+        return Tell(texts.Compose(TextId::GameNotRead, error.Thing(), texts.Reason(error.Code())));
+    }
+    host.TakeGame(name, game);
+    Close();
+}
+
+// Overwriting preselects No, a new name Yes: deliberately.
+void frmFiles::OnSave(const std::wstring& name) {
+    const bool exists = games.Exists(name);
+    const bool wanted = exists ? Ask(texts(TextId::OverwriteBefore) + name + texts(TextId::OverwriteAfter), false)
+                               : Ask(texts(TextId::SaveAs) + name);
+    if (!wanted) return;
+    try {
+        games.SaveGame(name, host.FilesOfGame());
+    } catch (const SystemError& error) {
+        return Tell(texts.Compose(TextId::GameNotSaved, error.Thing(), texts.Reason(error.Code())));
+    }
+    host.GameSaved();
+    ClearGameList();
+    FillGameList();
+    Close();
+}
+
+void frmFiles::OnDelete(const std::wstring& name) {
+    if (!games.Exists(name)) return Tell(texts(TextId::SavedGameBefore) + name + texts(TextId::SavedGameNotFound));
+    if (!Ask(texts(TextId::SavedGameBefore) + name + texts(TextId::WillBeDeleted))) return;
+    try {
+        games.DeleteGame(name);
+        SetText(txtGameName, L"");
+        toolTips.Set(lstGames, L"");
+    } catch (const SystemError& error) {
+        Tell(texts.Compose(TextId::GameNotDeleted, error.Thing(), texts.Reason(error.Code())));
+    }
+    ClearGameList();
+    FillGameList();
+}
+
+std::wstring frmFiles::NameText() const {
+    const HWND field = Control(txtGameName);
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(field)), L'\0');
+    GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1);
+    return text;
+}
+
+void frmFiles::Tell(const std::wstring& text) const { messageBoxes.Inform(Window(), text, Of(mode).title); }
+
+bool frmFiles::Ask(const std::wstring& text, bool yesIsDefault) const {
+    return messageBoxes.Ask(Window(), text, yesIsDefault, Of(mode).title);
+}
+
+LRESULT CALLBACK frmFiles::NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR self) {
+    const auto& form = *reinterpret_cast<const frmFiles*>(self);
+    const auto character = static_cast<wchar_t>(wParam);
+    // The other codes below the blank are commands such as copying and pasting.
+    if (message == WM_CHAR && character >= L' ' && !form.typed.TakesKey(character, form.NameText())) return 0;
+    return DefSubclassProc(field, message, wParam, lParam);
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "games/GameName.h"
+#include "games/SavedGames.h"
+#include "platform/Dialog.h"
+#include "platform/ToolTips.h"
+
+// What the file dialog needs from the game on the clock and the Scorlet.
+class GameHost {
+  public:
+    virtual GameFiles FilesOfGame() = 0;  // as it stands
+    virtual void GameSaved() = 0;         // what FilesOfGame gave
+    virtual const Settings& PresentSettings() const = 0;
+    virtual void TakeGame(const std::wstring& name, LoadedGame& game) = 0;
+    virtual void OpenHelp(HWND owner) = 0;
+
+  protected:
+    ~GameHost() = default;
+};
+
+enum class FilesMode { Load, Save, Delete };
+
+// The dialog through which games are loaded, saved and deleted: the saved games, a name, and the one action of its
+// mode.
+class frmFiles : public Dialog {
+  public:
+    // All of them must outlive the dialog.
+    frmFiles(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const SavedGames& games,
+             GameHost& host, FilesMode mode)
+        : Dialog(texts, messageBoxes, background), games(games), host(host), mode(mode) {}
+
+    // Throws SystemError.
+    void Open(HWND owner);
+
+  private:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    int DefaultButton() const override;
+
+    void FillGameList();
+    void ClearGameList() const;
+
+    void OnCommand(int id, int notification);
+    void OnPick();
+    void OnNameChange();
+    void OnLoad(const std::wstring& name);
+    void OnSave(const std::wstring& name);
+    void OnDelete(const std::wstring& name);
+
+    void Act();
+    std::wstring NameText() const;
+    void Tell(const std::wstring& text) const;
+    bool Ask(const std::wstring& text, bool yesIsDefault = true) const;
+
+    static LRESULT CALLBACK NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                          DWORD_PTR self);
+
+    const SavedGames& games;
+    GameHost& host;
+    FilesMode mode;
+    GameName typed;
+    ToolTips toolTips{*this};
+    bool settingText = false;
+};
