@@ -1,3 +1,4 @@
+#include "games/frmFiles.h"
 #include "settings/frmAbout.h"
 #include "settings/frmSetup.h"
 
@@ -10,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-// The setup dialog and the about box from inside: whether every text fits its control, at each scaling.
+// The dialogs from inside: whether every text fits its control, at each scaling.
 
 namespace {
 
@@ -64,6 +65,24 @@ TEST_P(DialogsTest, AboutShowsTheVersionResourceWhole) {
     EXPECT_EQ(TextOf(about.Control(lblAboutValue + 2)), FromAnsi(TORVANIX_VERSION));
     EXPECT_NE(TextOf(about.Control(lblAboutValue + 3)).find(L"©"), std::wstring::npos);
     AtEachScaling(about.Window(), [&] { ExpectTextsFit(about.Window()); });
+}
+
+TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
+    struct : GameHost {
+        GameFiles FilesOfGame() override { return {}; }
+        void GameSaved() override {}
+        const Settings& PresentSettings() const override { return settings; }
+        void TakeGame(const std::wstring&, LoadedGame&) override {}
+        void OpenHelp(HWND) override {}
+        Settings settings;
+    } host;
+    const TestFolder folder;
+    const SavedGames games(folder.Path());
+    for (FilesMode mode : {FilesMode::Load, FilesMode::Save, FilesMode::Delete}) {
+        frmFiles files(texts, messageBoxes, 0xBFBFBF, games, host, mode);
+        files.Open(nullptr);
+        AtEachScaling(files.Window(), [&] { ExpectTextsFit(files.Window()); });
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DialogsTest, testing::Values(Turkish, English, French));
