@@ -55,7 +55,7 @@ class ClockView {
 
 // What the players can do with the clock and what the window shows of it: the window's rules without a window.
 // No command lets an exception out.
-class ClockCommands : private modClock::ClockHost {
+class ClockCommands final : private modClock::ClockHost {
   public:
     // The view must outlive the commands. Initialise must follow before any other command.
     explicit ClockCommands(ClockView& view) : view(view), clock(*this) {}

@@ -10,7 +10,7 @@
 inline constexpr UINT WM_FORGETSCORLET = WM_APP + 3;
 
 // The Scorlet beside the clock: opened, placed and closed, and told what the clock does.
-class ClockScorlet : private ScorletHost {
+class ClockScorlet final : private ScorletHost {
   public:
     // All of them must outlive it. `changed` is called when the Scorlet has opened or gone, `print` prints its lists.
     ClockScorlet(const Form& clock, ClockCommands& commands, const Texts& texts, const MessageBoxes& messageBoxes,

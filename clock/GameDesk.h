@@ -7,7 +7,7 @@
 #include "games/frmFiles.h"
 
 // Saving, loading, deleting and printing of the game that stands on the clock and the Scorlet.
-class GameDesk : private GameHost {
+class GameDesk final : private GameHost {
   public:
     // All of them must outlive it.
     GameDesk(const Form& clock, ClockCommands& commands, ClockScorlet& scorlet, ClockPanels& panels, Settings& settings,
