@@ -21,13 +21,19 @@ void ClockScorlet::Show() {
         SetForegroundWindow(scorlet->Window());
         return;
     }
+    const std::wstring problem = Open();
+    if (!problem.empty()) messageBoxes.Inform(scorlet->Window(), problem);
+}
+
+std::wstring ClockScorlet::Open() {
+    if (scorlet) return {};
     const RECT place = PlaceBeside();
     ScorletHost& host = *this;
     auto opened = std::make_unique<frmScorlet>(host, texts, messageBoxes);
-    const std::wstring problem = opened->Open(place);
+    std::wstring problem = opened->Open(place);
     scorlet = std::move(opened);
     changed();
-    if (!problem.empty()) messageBoxes.Inform(scorlet->Window(), problem);
+    return problem;
 }
 
 // Right of the clock. Where the screen is too narrow for both, first the clock and then the Scorlet give way, down to

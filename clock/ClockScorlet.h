@@ -19,8 +19,10 @@ class ClockScorlet final : private ScorletHost {
     // Null while it is not loaded.
     frmScorlet* Loaded() const { return scorlet.get(); }
 
-    // Opens it, or brings it to the front. Throws SystemError.
+    // Opens it, or brings it to the front, and tells which picture could not be loaded. Throws SystemError.
     void Show();
+    // Opens it where it is not loaded; the text, empty on success, says which picture could not be loaded.
+    std::wstring Open();
     void Close() { CloseScorlet(); }
 
     // Gives the form of a window that is gone up; for WM_FORGETSCORLET.

@@ -1,7 +1,6 @@
 #include "clock/GameDesk.h"
 
 #include "games/PrintedList.h"
-#include "games/modPrinting.h"
 #include "platform/Ansi.h"
 #include "platform/Files.h"
 
@@ -27,7 +26,8 @@ GameDesk::GameDesk(const Form& clock, ClockCommands& commands, ClockScorlet& sco
       help(help),
       texts(texts),
       messageBoxes(messageBoxes),
-      games(environment.SavedGamesFolder) {}
+      games(environment.SavedGamesFolder),
+      printer(texts, messageBoxes) {}
 
 void GameDesk::Open(FilesMode mode) {
     frmFiles dialog(texts, messageBoxes, environment.appearance.backgroundColour, games, *this, mode);
@@ -51,19 +51,19 @@ void GameDesk::GameSaved() {
 }
 
 void GameDesk::TakeGame(const std::wstring& name, LoadedGame& game) {
-    // First what can fail.
-    if (!scorlet.Loaded()) scorlet.Show();
+    // First what can fail. No message may come between: the running game goes on behind one.
+    const std::wstring problem = scorlet.Open();
     settings = game.Options;
     commands.TakeLoadedGame(game.Clock);
     panels.ShowSettings();
     scorlet.Loaded()->TakeRecord(game.Scorlet);
     const std::wstring title = texts(TextId::ProductTitle) + L"- [" + name + texts(TextId::LoadedGame) + L"]";
     SetWindowTextW(clock.Window(), title.c_str());
+    if (!problem.empty()) messageBoxes.Inform(clock.Window(), problem);
 }
 
 void GameDesk::Print() {
-    // The editor is waited for with events running: a second wish meanwhile must not start another.
-    if (printing || !scorlet.Loaded()) return;
+    if (printer.IsBusy() || !scorlet.Loaded()) return;
     const std::wstring& editor = environment.NotepadPath;
     if (editor.empty() || !FileExists(editor)) return messageBoxes.Inform(clock.Window(), texts(TextId::EditorMissing));
     scorlet.Loaded()->TopUpMoveLists();
@@ -74,7 +74,11 @@ void GameDesk::Print() {
     }
     const PrintedLabels labels{{texts(TextId::PrintedWhite), texts(TextId::PrintedBlack)}, texts(TextId::Date)};
     const std::wstring text = PrintedList(labels, {panels.NameOf(White), panels.NameOf(Black)}, Today(), columns);
-    printing = true;
-    modPrinting::PasteIntoEditor(clock.Window(), editor, text, texts, messageBoxes);
-    printing = false;
+    printer.Start(clock.Window(), editor, text);
+    if (printer.IsBusy()) SetTimer(clock.Window(), PrintTimer, EditorPrinter::Interval, nullptr);
+}
+
+void GameDesk::ContinuePrinting() {
+    printer.Continue(clock.Window());
+    if (!printer.IsBusy()) KillTimer(clock.Window(), PrintTimer);
 }

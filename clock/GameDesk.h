@@ -4,7 +4,11 @@
 #include "clock/ClockScorlet.h"
 #include "clock/HelpWindow.h"
 #include "clock/modEnvironment.h"
+#include "games/EditorPrinter.h"
 #include "games/frmFiles.h"
+
+// Set on the clock window while printing is under way.
+inline constexpr UINT_PTR PrintTimer = 3;
 
 // Saving, loading, deleting and printing of the game that stands on the clock and the Scorlet.
 class GameDesk final : private GameHost {
@@ -17,8 +21,10 @@ class GameDesk final : private GameHost {
     // Opens the file dialog. Throws SystemError.
     void Open(FilesMode mode);
 
-    // Prints the lists of the Scorlet, which must be loaded.
+    // Prints the lists of the Scorlet while it is loaded and no printing is under way.
     void Print();
+    // For the timer PrintTimer of the clock window.
+    void ContinuePrinting();
 
   private:
     GameFiles FilesOfGame() override;
@@ -37,5 +43,5 @@ class GameDesk final : private GameHost {
     const Texts& texts;
     const MessageBoxes& messageBoxes;
     const SavedGames games;
-    bool printing = false;
+    EditorPrinter printer;
 };

@@ -103,6 +103,7 @@ void frmClock::ShowSetup() {
     setup.Open(Window());
     setup.RunModal();
     if (!setup.Accepted()) return;
+    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
     commands.TakeTimeControl(ShownTimeControl());
     if (scorlet.Loaded()) scorlet.Loaded()->ShowRecord();
 }
@@ -354,6 +355,7 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
 
 void frmClock::OnTimer(UINT_PTR id) {
     if (id == BlinkTimer) panels.Blink();
+    if (id == PrintTimer) games.ContinuePrinting();
     if (id == HelpTimer) help.Watch(GetWindow(Window(), GW_HWNDFIRST));
 }
 

@@ -29,8 +29,10 @@ bool OutOfTime(const modClock::ClockState& clock, Side side) {
 // Counting up, a bonus or a second period of no time may carry the time past the limit without the flag: it falls at
 // the next second only.
 bool MayWaitForTick(const modClock::ClockState& clock, Side side) {
+    if (clock.CountTimeDown) return false;
     const bool emptyPeriod = clock.SecondPeriodEnabled && clock.SecondPeriodTime[side] == 0;
-    return !clock.CountTimeDown && (clock.MoveBonus[side] > 0 || emptyPeriod);
+    const int64_t mostByBonus = int64_t{clock.MoveBonus[side]} * clock.MoveCount[side];
+    return int64_t{clock.PlayerTime[side]} - clock.PeriodLimit[side] <= mostByBonus + (emptyPeriod ? 1 : 0);
 }
 
 // What the last fields would say, as far as it can be told without them.

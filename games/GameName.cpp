@@ -28,7 +28,7 @@ bool GameName::TakesKey(wchar_t character, std::wstring_view text) const {
 }
 
 std::wstring GameName::Changed(const std::wstring& text) {
-    if (text.size() <= Longest && text.find_first_of(Forbidden) == std::wstring::npos) lastGood = text;
+    if (text.find_first_of(Forbidden) == std::wstring::npos) lastGood = text;
     return lastGood;
 }
 

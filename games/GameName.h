@@ -12,8 +12,8 @@ class GameName {
     // Whether a typed character goes into the field that holds `text`.
     bool TakesKey(wchar_t character, std::wstring_view text) const;
 
-    // After a change, which may have been pasted, what the field should hold: the new text, or the last good one where
-    // it holds what no file name may, or is too long.
+    // After a change, which may have been pasted or picked, what the field should hold: the new text, or the last good
+    // one where it holds what no file name may.
     std::wstring Changed(const std::wstring& text);
 
     const std::wstring& LastGood() const { return lastGood; }

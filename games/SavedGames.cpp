@@ -2,10 +2,13 @@
 
 #include "platform/Ansi.h"
 #include "platform/Files.h"
+#include "platform/SystemError.h"
 
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 
@@ -14,6 +17,10 @@ constexpr size_t ExtensionLength = ExtensionOf(ClockFile).size();
 bool AreEqual(std::wstring_view first, std::wstring_view second) {
     return CompareStringOrdinal(first.data(), static_cast<int>(first.size()), second.data(),
                                 static_cast<int>(second.size()), TRUE) == CSTR_EQUAL;
+}
+
+std::string_view TextOf(const std::vector<uint8_t>& bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 bool ComesBefore(const std::wstring& first, const std::wstring& second) {
@@ -43,20 +50,32 @@ std::wstring SavedGames::PathOf(const std::wstring& name, GameFile file) const {
 
 void SavedGames::SaveGame(const std::wstring& name, const GameFiles& files) const {
     // It may have been removed since the program began. Where it cannot be made the first file says why.
-    CreateDirectoryW(folder.c_str(), nullptr);
+    MakeFolder(folder);
     std::vector<FileBeside> written;
+    std::vector<std::pair<std::wstring, std::optional<std::vector<uint8_t>>>> replaced;
     for (GameFile file : AllGameFiles) {
         if (!files[file]) continue;
         const std::wstring path = PathOf(name, file);
         std::string bytes = *files[file];
-        if (file == ClockFile) {
-            const auto older = ReadFileBytes(path, LongestKeptFile + 1);
-            if (older && older->size() <= LongestKeptFile)
-                bytes = WithOldTail(std::move(bytes), {reinterpret_cast<const char*>(older->data()), older->size()});
-        }
+        auto older = ReadFileBytes(path, LongestKeptFile + 1);
+        if (file == ClockFile && older && older->size() <= LongestKeptFile)
+            bytes = WithOldTail(std::move(bytes), TextOf(*older));
         written.emplace_back(path, bytes);
+        replaced.emplace_back(path, std::move(older));
     }
-    for (FileBeside& file : written) file.TakePlace();
+    size_t done = 0;
+    try {
+        for (; done < written.size(); ++done) written[done].TakePlace();
+    } catch (const SystemError&) {
+        // One game is not made of old and new files: what has been replaced comes back.
+        for (size_t i = 0; i < done; ++i) {
+            if (replaced[i].second)
+                ReplaceFileBytes(replaced[i].first, TextOf(*replaced[i].second));
+            else
+                DeleteFileAt(replaced[i].first);
+        }
+        throw;
+    }
 }
 
 std::optional<GameFileError> SavedGames::LoadGame(const std::wstring& name, const Settings& present,
@@ -66,7 +85,10 @@ std::optional<GameFileError> SavedGames::LoadGame(const std::wstring& name, cons
 }
 
 void SavedGames::DeleteGame(const std::wstring& name) const {
-    for (GameFile file : {ClockFile, DiagramFile, MovesFile}) {
+    constexpr std::array removed{ClockFile, DiagramFile, MovesFile};
+    // Before the clock file goes: the game would not be listed any more.
+    for (GameFile file : removed) ExpectReplaceable(PathOf(name, file));
+    for (GameFile file : removed) {
         const std::wstring path = PathOf(name, file);
         if (file == ClockFile || FileExists(path)) DeleteFileAt(path);
     }

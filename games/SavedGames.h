@@ -19,8 +19,8 @@ class SavedGames {
 
     std::wstring PathOf(const std::wstring& name, GameFile file) const;
 
-    // Writes the files of a game. All are written beside before the first takes its place; the others of the game stay
-    // as they are. Throws SystemError that names the file.
+    // Writes the files of a game. All are written beside before the first takes its place, and what has taken it is put
+    // back when another cannot; files that are not given stay as they are. Throws SystemError that names the file.
     void SaveGame(const std::wstring& name, const GameFiles& files) const;
 
     // Reads and checks a game; the error says which file is damaged and how. Throws SystemError for one that cannot be
@@ -28,7 +28,7 @@ class SavedGames {
     std::optional<GameFileError> LoadGame(const std::wstring& name, const Settings& present, LoadedGame& game) const;
 
     // Removes the clock file, then the diagram and the moves where they exist; the PGN deliberately stays. Throws
-    // SystemError that names the file.
+    // SystemError that names the file, when one cannot be removed with all still there.
     void DeleteGame(const std::wstring& name) const;
 
   private:

@@ -110,7 +110,7 @@ void frmFiles::OnPick() {
 
 void frmFiles::OnNameChange() {
     if (settingText) return;
-    const std::wstring text = NameText(), changed = typed.Changed(text);
+    const std::wstring text = Text(txtGameName), changed = typed.Changed(text);
     if (changed != text) {
         const HWND field = Control(txtGameName);
         settingText = true;
@@ -122,7 +122,7 @@ void frmFiles::OnNameChange() {
 }
 
 void frmFiles::Act() {
-    const std::wstring name = NameText();
+    const std::wstring name = Text(txtGameName);
     if (name.empty()) return Tell(texts(Of(mode).nameMissing));
     if (IsDeviceName(name)) return Tell(texts.Compose(TextId::DeviceName, name));
     switch (mode) {
@@ -178,13 +178,6 @@ void frmFiles::OnDelete(const std::wstring& name) {
     FillGameList();
 }
 
-std::wstring frmFiles::NameText() const {
-    const HWND field = Control(txtGameName);
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(field)), L'\0');
-    GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1);
-    return text;
-}
-
 void frmFiles::Tell(const std::wstring& text) const { messageBoxes.Inform(Window(), text, Of(mode).title); }
 
 bool frmFiles::Ask(const std::wstring& text, bool yesIsDefault) const {
@@ -196,6 +189,7 @@ LRESULT CALLBACK frmFiles::NameProcedure(HWND field, UINT message, WPARAM wParam
     const auto& form = *reinterpret_cast<const frmFiles*>(self);
     const auto character = static_cast<wchar_t>(wParam);
     // The other codes below the blank are commands such as copying and pasting.
-    if (message == WM_CHAR && character >= L' ' && !form.typed.TakesKey(character, form.NameText())) return 0;
+    const bool key = message == WM_CHAR && (character >= L' ' || character == VK_BACK);
+    if (key && !form.typed.TakesKey(character, form.Text(txtGameName))) return 0;
     return DefSubclassProc(field, message, wParam, lParam);
 }

@@ -47,7 +47,6 @@ class frmFiles : public Dialog {
     void OnDelete(const std::wstring& name);
 
     void Act();
-    std::wstring NameText() const;
     void Tell(const std::wstring& text) const;
     bool Ask(const std::wstring& text, bool yesIsDefault = true) const;
 

@@ -12,6 +12,7 @@ constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELET
 
 // The form of a path that the system takes at any length (Maximum Path Length Limitation, Win32 documentation).
 std::wstring Long(const std::wstring& path) {
+    if (path.rfind(L"\\\\?\\", 0) == 0) return path;
     if (path.rfind(L"\\\\", 0) == 0) return L"\\\\?\\UNC" + path.substr(1);
     return L"\\\\?\\" + path;
 }
@@ -25,16 +26,6 @@ UniqueFile Open(const std::wstring& longPath, DWORD access, DWORD share, DWORD d
 }
 
 bool IsMissing(DWORD code) { return code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND; }
-
-// 0, or why a file that exists could not be replaced.
-DWORD WhyNotReplaced(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(Long(path).c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) return 0;
-    // Not every system refuses to move a file over one that is write-protected.
-    if (attributes & FILE_ATTRIBUTE_READONLY) return ERROR_ACCESS_DENIED;
-    if (attributes & FILE_ATTRIBUTE_DIRECTORY) return ERROR_ALREADY_EXISTS;
-    return Open(Long(path), GENERIC_WRITE | DELETE, ShareAll, OPEN_EXISTING) ? 0 : GetLastError();
-}
 
 }  // namespace
 
@@ -77,12 +68,24 @@ std::vector<std::wstring> FilesIn(const std::wstring& folder) {
     return names;
 }
 
+void MakeFolder(const std::wstring& path) { CreateDirectoryW(Long(path).c_str(), nullptr); }
+
+void ExpectReplaceable(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(Long(path).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return;
+    // Not every system refuses to move a file over one that is write-protected.
+    if (attributes & FILE_ATTRIBUTE_READONLY) throw SystemError(ERROR_ACCESS_DENIED, path);
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY) throw SystemError(ERROR_ALREADY_EXISTS, path);
+    // Older systems replace no file that is open at all, however it is shared.
+    if (!Open(Long(path), GENERIC_WRITE | DELETE, 0, OPEN_EXISTING)) throw SystemError(GetLastError(), path);
+}
+
 void DeleteFileAt(const std::wstring& path) {
     if (!DeleteFileW(Long(path).c_str())) throw SystemError(GetLastError(), path);
 }
 
 FileBeside::FileBeside(const std::wstring& path, std::string_view bytes) : path(path) {
-    if (const DWORD code = WhyNotReplaced(path)) throw SystemError(code, path);
+    ExpectReplaceable(path);
     UniqueFile file = Open(Beside(path), GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) throw SystemError(GetLastError(), path);
     DWORD written = 0;
@@ -103,8 +106,14 @@ FileBeside::FileBeside(FileBeside&& other) noexcept
     : path(std::move(other.path)), waiting(std::exchange(other.waiting, false)) {}
 
 void FileBeside::TakePlace() {
-    if (!MoveFileExW(Beside(path).c_str(), Long(path).c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        throw SystemError(GetLastError(), path);
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    // A virus scanner or an indexer may have opened a file that has just been written, for a moment.
+    for (int tries = 1; !MoveFileExW(Beside(path).c_str(), Long(path).c_str(), flags); ++tries) {
+        const DWORD code = GetLastError();
+        if (tries == 20 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))
+            throw SystemError(code, path);
+        Sleep(25);
+    }
     waiting = false;
 }
 

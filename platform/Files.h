@@ -17,13 +17,20 @@ bool FileExists(const std::wstring& path);
 // Names of the files in a folder, given with its trailing backslash; none where there is no such folder.
 std::vector<std::wstring> FilesIn(const std::wstring& folder);
 
+// Makes a folder where there is none; failures are left to what is done in it.
+void MakeFolder(const std::wstring& path);
+
 void DeleteFileAt(const std::wstring& path);
+
+// Throws SystemError when an existing file could not be replaced or deleted as things stand: it is write-protected, or
+// another program has it open.
+void ExpectReplaceable(const std::wstring& path);
 
 // New content that waits beside a file until it takes its place: it is flushed to the disk before, so a crash leaves
 // the old file or the new one. What has not taken its place is removed again.
 class FileBeside {
   public:
-    // Refused where the file could not be replaced as things stand: it is write-protected, or held open.
+    // Refused as by ExpectReplaceable.
     FileBeside(const std::wstring& path, std::string_view bytes);
     ~FileBeside();
     FileBeside(FileBeside&& other) noexcept;

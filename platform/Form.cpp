@@ -89,10 +89,14 @@ HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
     return control;
 }
 
+std::wstring Form::Text(int id) const {
+    const HWND control = Control(id);
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(control)), L'\0');
+    GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1);
+    return text;
+}
+
 void Form::SetText(int id, const std::wstring& text) const {
     // Setting an unchanged text would still repaint the control.
-    const HWND control = Control(id);
-    std::wstring old(static_cast<size_t>(GetWindowTextLengthW(control)), L'\0');
-    GetWindowTextW(control, old.data(), static_cast<int>(old.size()) + 1);
-    if (old != text) SetWindowTextW(control, text.c_str());
+    if (Text(id) != text) SetWindowTextW(Control(id), text.c_str());
 }

@@ -28,6 +28,7 @@ class Form {
     HWND AddControl(const wchar_t* kind, int id, DWORD style);
 
     HWND Control(int id) const { return GetDlgItem(window, id); }
+    std::wstring Text(int id) const;
     void SetText(int id, const std::wstring& text) const;
     void SetVisible(int id, bool visible) const { ShowWindow(Control(id), visible ? SW_SHOWNA : SW_HIDE); }
     void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }

@@ -91,7 +91,8 @@ void Picture::Draw(HDC dc, int left, int top, int size) const {
     const UniqueDc memory(CreateCompatibleDC(dc));
     const Selection selection(memory.get(), OfSize(size));
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    AlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, size, size, blend);
+    // The same function as AlphaBlend, in a library that every program has loaded.
+    GdiAlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, size, size, blend);
 }
 
 HBITMAP Picture::OfSize(int size) const {

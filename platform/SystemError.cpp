@@ -17,7 +17,8 @@ TextId ReasonRow(DWORD code) {
         case ERROR_ACCESS_DENIED:
         case ERROR_WRITE_PROTECT: return TextId::ReasonAccessDenied;
         case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION: return TextId::ReasonInUse;
+        case ERROR_LOCK_VIOLATION:
+        case ERROR_BUSY: return TextId::ReasonInUse;
         case ERROR_DISK_FULL:
         case ERROR_HANDLE_DISK_FULL: return TextId::ReasonDiskFull;
         case ERROR_FILE_NOT_FOUND:

@@ -4,8 +4,6 @@
 
 #include <commctrl.h>
 
-#include <array>
-
 void MoveField::Create(UINT message) {
     endMessage = message;
     const HWND field = form.AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
@@ -28,11 +26,7 @@ void MoveField::Hide() {
     form.SetVisible(cmdOK, false);
 }
 
-std::wstring MoveField::Text() const {
-    std::array<wchar_t, 256> text{};
-    GetWindowTextW(form.Control(txtMove), text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
+std::wstring MoveField::Text() const { return form.Text(txtMove); }
 
 void MoveField::OnChange() {
     if (settingText) return;

@@ -151,16 +151,19 @@ void frmScorlet::TakeRecord(const Recorder& record) {
     EndEdit(false);
     input.Reset();
     recorder = record;
+    for (Side side : BothSides)
+        SendMessageW(Control(ControlOf(lstMoves, side)), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     ShowRecord();
 }
 
-void frmScorlet::TopUpMoveLists() {
-    const auto added = recorder.TopUpMoveLists(host.MoveCounts());
+void frmScorlet::ShowAdded(const std::array<std::optional<size_t>, 2>& added) {
     ShowRecord();
     for (Side side : BothSides) {
         if (added[side]) ChooseLine({side, *added[side]});
     }
 }
+
+void frmScorlet::TopUpMoveLists() { ShowAdded(recorder.TopUpMoveLists(host.MoveCounts())); }
 
 void frmScorlet::ShowBoard() {
     ForEachSquare([&](Square square) {
@@ -339,11 +342,7 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
 
 void frmScorlet::OnDeclare(Declaration declaration) {
     const bool over = recorder.HasResult();
-    const auto added = recorder.Declare(declaration, host.MoveCounts());
-    ShowRecord();
-    for (Side side : BothSides) {
-        if (added[side]) ChooseLine({side, *added[side]});
-    }
+    ShowAdded(recorder.Declare(declaration, host.MoveCounts()));
     if (!over && recorder.HasResult()) host.PauseForResult();
 }
 

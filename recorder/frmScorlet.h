@@ -57,6 +57,7 @@ class frmScorlet : public Form {
     void CreateControls();
     void ApplyTexts();
     void Arrange();
+    void ShowAdded(const std::array<std::optional<size_t>, 2>& added);
     void ShowBoard();
     void ShowList(Side side);
     void ChooseLine(const ChosenLine& line);

@@ -290,8 +290,7 @@ LRESULT CALLBACK frmSetup::ListProcedure(HWND list, UINT message, WPARAM wParam,
 void frmSetup::OnName(Side side) {
     if (settingName) return;
     const HWND field = Control(ControlOf(txtName, side));
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(field)), L'\0');
-    GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1);
+    const std::wstring text = Text(ControlOf(txtName, side));
     std::string& name = draft.PlayerNames[side];
     const auto typed = ToAnsiExactly(text);
     const size_t other = draft.PlayerNames[Other(side)].size();

@@ -125,7 +125,8 @@ TEST_P(frmClockTest, MenusHoldTheirEntriesAndKeys) {
     }
     for (int entry : {mnuCloseScorlet, mnuPrint})
         EXPECT_TRUE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
-    for (int entry : {mnuStart, mnuLoad, mnuSave, mnuDelete, mnuExit, mnuReset, mnuPause, mnuSetup, mnuShowScorlet, mnuContents, mnuAbout})
+    for (int entry : {mnuStart, mnuLoad, mnuSave, mnuDelete, mnuExit, mnuReset, mnuPause, mnuSetup, mnuShowScorlet,
+                      mnuContents, mnuAbout})
         EXPECT_FALSE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
 
     SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);

@@ -141,13 +141,25 @@ Settings QuietSettings() {
     return settings;
 }
 
-ProgramRun::ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings) {
-    const std::wstring program = folder.Path() + L"torvanix.exe";
-    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), program.c_str(), FALSE);
-    if (settings) {
-        CreateDirectoryW((folder.Path() + L"Data").c_str(), nullptr);
-        WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(WriteSettings(*settings)));
-    }
+void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings) {
+    CreateDirectoryW((programFolder + L"Data").c_str(), nullptr);
+    WriteFileText(programFolder + L"Data\\TORVANIX.set", EncodeRecord(WriteSettings(settings)));
+}
+
+namespace {
+
+std::wstring PutInto(const std::wstring& folder, const std::optional<Settings>& settings) {
+    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), (folder + L"torvanix.exe").c_str(), FALSE);
+    if (settings) WriteSettingsFile(folder, *settings);
+    return folder + L"torvanix.exe";
+}
+
+}  // namespace
+
+ProgramRun::ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings)
+    : ProgramRun(PutInto(folder.Path(), settings)) {}
+
+ProgramRun::ProgramRun(const std::wstring& program) {
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION started{};

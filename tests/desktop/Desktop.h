@@ -51,12 +51,16 @@ size_t LoudSamples();
 
 // The DEFAULT preset without sounds and without the Scorlet.
 Settings QuietSettings();
+// The settings file of a program in that folder.
+void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings);
 
 // One run of torvanix.exe in a test folder.
 class ProgramRun {
   public:
     // Copies the program into the folder, and the settings when given, and starts it.
     explicit ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings = std::nullopt);
+    // Starts a program file where it is.
+    explicit ProgramRun(const std::wstring& program);
     ~ProgramRun();
     ProgramRun(const ProgramRun&) = delete;
     ProgramRun& operator=(const ProgramRun&) = delete;

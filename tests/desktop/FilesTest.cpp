@@ -140,6 +140,11 @@ TEST_F(FilesTest, GameGoesOnAfterAFreshStart) {
     ASSERT_TRUE(run->WaitWindow(L"frmScorlet"));
     EXPECT_EQ(TextOf(run->Clock()), L"TORVANIX- [round.1 (Loaded Game)]");
     EXPECT_EQ(Seen(), seen);
+    Save("again");
+    for (const char* extension : {".txt", ".cgn", ".pgn"}) {
+        EXPECT_EQ(ReadFileText(PathOf(std::string("again") + extension)),
+                  ReadFileText(PathOf(std::string("round.1") + extension)));
+    }
     EXPECT_EQ(run->Text(cmdPause), L"Resume");
     EXPECT_FALSE(run->Enabled(cmdClock) || run->Enabled(cmdClock + 1));
     const int left = run->Seconds(White);
@@ -205,6 +210,8 @@ TEST_F(FilesTest, NamesAndQuestions) {
 
     Save("twice");
     const std::string first = ReadFileText(PathOf("twice.bin"));
+    run->Key(VK_SPACE);
+    ASSERT_TRUE(Eventually([&] { return run->Text(lblMoveCount) == L"1."; }));
     OpenFiles(SaveEntry);
     Type("twice");
     run->Key(VK_RETURN);
@@ -213,9 +220,10 @@ TEST_F(FilesTest, NamesAndQuestions) {
     run->Key(VK_RETURN);  // No is preselected
     ASSERT_TRUE(Eventually([&] { return !run->HasMessage(); }));
     EXPECT_TRUE(IsWindowVisible(files));
+    EXPECT_EQ(ReadFileText(PathOf("twice.bin")), first);
     Expect(L"The game named twice already exists. Do you want to overwrite?", IDYES);
     ASSERT_TRUE(Closed());
-    EXPECT_EQ(ReadFileText(PathOf("twice.bin")), first);
+    EXPECT_NE(ReadFileText(PathOf("twice.bin")), first);
 }
 
 TEST_F(FilesTest, DeletingFromTheListLeavesThePgn) {
@@ -267,7 +275,7 @@ TEST_F(FilesTest, DamagedFilesAreNamedAndNothingIsTouched) {
         {".bin", "not a game of ours", L"slot 0 holds a value of an unknown kind"},
         {".txt", "WR  WN\r\n", L"line 1 has the wrong form"},
         {".cgn", moves.substr(0, moves.size() - 4), L"the moves break off at byte"},
-        {".pgn", "[Event \"\"]\r\n", L"the head of the game does not end at byte"},
+        {".pgn", "[Event \"\"]\r\n", L"the head of the game has not ended by byte"},
         {".txt", std::string(5000000, 'x'), L"the file is longer than the 272 bytes"},
     };
     for (const Damage& damage : damages) {
@@ -302,6 +310,15 @@ TEST_F(FilesTest, DamagedFilesAreNamedAndNothingIsTouched) {
     run->Answer(IDOK);
     EXPECT_EQ(ReadFileText(PathOf("good.bin")), before) << "no file of the game has been replaced";
     EXPECT_FALSE(Exists(PathOf("good.bin.new")) || Exists(PathOf("good.txt.new")));
+    run->Click(GetDlgItem(files, cmdCancel));
+    ASSERT_TRUE(Closed());
+    OpenFiles(DeleteEntry);
+    Paste(L"good");
+    Expect(L"Saved game good will be deleted.", IDYES);
+    EXPECT_EQ(run->MessageText(),
+              L"The file " + PathOf("good.cgn") + L" could not be deleted: it is in use by another program.");
+    run->Answer(IDOK);
+    EXPECT_TRUE(Exists(PathOf("good.bin")) && Exists(PathOf("good.txt")));
 }
 
 TEST_F(FilesTest, PrintingPastesTheListIntoTheEditor) {

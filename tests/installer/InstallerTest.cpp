@@ -1,0 +1,169 @@
+#include "tests/installer/Packages.h"
+
+#include <gtest/gtest.h>
+#include <shlobj.h>
+
+// The installer and its uninstaller, in the Wine prefix of a fresh user.
+
+namespace {
+
+constexpr wchar_t UninstallKey[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\TORVANIX";
+
+std::wstring KnownFolder(int folder) {
+    wchar_t path[MAX_PATH];
+    SHGetFolderPathW(nullptr, folder, nullptr, SHGFP_TYPE_CURRENT, path);
+    return std::wstring(path) + L"\\";
+}
+
+std::wstring UserFolder() { return KnownFolder(CSIDL_LOCAL_APPDATA) + L"Programs\\TORVANIX\\"; }
+std::wstring StartMenuEntry() { return KnownFolder(CSIDL_PROGRAMS) + L"TORVANIX.lnk"; }
+
+// A value of the entry in the list of installed programs; empty where there is none.
+std::wstring Listed(const wchar_t* value) {
+    wchar_t text[MAX_PATH * 2] = L"";
+    DWORD size = sizeof(text);
+    RegGetValueW(HKEY_CURRENT_USER, UninstallKey, value, RRF_RT_REG_SZ, nullptr, text, &size);
+    return text;
+}
+
+std::wstring TargetOf(const std::wstring& shortcut) {
+    CoInitialize(nullptr);
+    IShellLinkW* link = nullptr;
+    IPersistFile* file = nullptr;
+    wchar_t path[MAX_PATH] = L"";
+    if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&link)))) {
+        if (SUCCEEDED(link->QueryInterface(IID_PPV_ARGS(&file)))) {
+            if (SUCCEEDED(file->Load(shortcut.c_str(), STGM_READ))) link->GetPath(path, MAX_PATH, nullptr, 0);
+            file->Release();
+        }
+        link->Release();
+    }
+    CoUninitialize();
+    return path;
+}
+
+// Runs a program to its end; its exit code.
+DWORD Execute(std::wstring commandLine) {
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION started{};
+    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
+        return GetLastError() + 1000;
+    const UniqueFile process(started.hProcess);
+    CloseHandle(started.hThread);
+    DWORD code = 0;
+    if (WaitForSingleObject(process.get(), 30000) != WAIT_OBJECT_0) TerminateProcess(process.get(), 98);
+    GetExitCodeProcess(process.get(), &code);
+    return code;
+}
+
+DWORD Install(const std::wstring& parameters = L"") { return Execute(L"\"" + SetupFile() + L"\" /S" + parameters); }
+
+// The uninstaller goes on as a copy of itself, since it deletes its own file, so its end is seen by what it does last.
+void StartUninstalling(const std::wstring& folder, const wchar_t* parameters) {
+    EXPECT_EQ(Execute(L"\"" + folder + L"Uninstall.exe\" " + parameters), 0u);
+}
+bool Uninstalled() {
+    return Eventually([] { return Listed(L"DisplayName").empty(); });
+}
+
+// Stands for a game saved in the program, until a test drives its dialog: the files are the installer's concern here.
+void SaveGame(const std::wstring& folder) {
+    CreateDirectoryW((folder + L"SavedGames").c_str(), nullptr);
+    WriteFileText(folder + L"SavedGames\\kept.bin", "a game");
+}
+
+void ExpectNoProgramFiles(const std::wstring& folder) {
+    for (const wchar_t* name : {L"torvanix.exe", L"TORVANIX.chm", L"README.txt", L"Uninstall.exe"})
+        EXPECT_FALSE(Exists(folder + name));
+    EXPECT_FALSE(Exists(StartMenuEntry()));
+}
+
+void ExpectKept(const std::wstring& folder) {
+    EXPECT_EQ(ReadFileText(folder + L"SavedGames\\kept.bin"), "a game");
+    EXPECT_TRUE(Exists(folder + L"Data\\TORVANIX.set"));
+}
+
+}  // namespace
+
+TEST(InstallerTest, InstalledProgramIsPlayedAndItsGamesOutliveIt) {
+    const std::wstring folder = UserFolder();
+    ASSERT_EQ(Install(), 0u);
+    EXPECT_EQ(ReadFileText(folder + L"torvanix.exe"), ReadFileText(BuildFolder() + L"torvanix.exe"));
+    EXPECT_TRUE(Exists(folder + L"TORVANIX.chm") && Exists(folder + L"README.txt"));
+    EXPECT_EQ(TargetOf(StartMenuEntry()), folder + L"torvanix.exe");
+    EXPECT_EQ(Listed(L"DisplayVersion"), FromAnsi(TORVANIX_VERSION));
+    EXPECT_EQ(Listed(L"UninstallString"), L"\"" + folder + L"Uninstall.exe\"");
+
+    WriteSettingsFile(folder, QuietSettings());
+    SaveGame(folder);
+    {
+        ProgramRun run(folder + L"torvanix.exe");
+        run.Click(ControlOf(cmdClock, Black));
+        EXPECT_TRUE(Eventually([&] { return run.Text(lblMoveCount) == L"1."; }));
+        EXPECT_EQ(Install(), 2u) << "over the running program";
+        EXPECT_EQ(Execute(L"\"" + folder + L"Uninstall.exe\" /S _?=" + folder), 2u) << "while it runs";
+        EXPECT_TRUE(Exists(folder + L"TORVANIX.chm") && !Listed(L"DisplayName").empty());
+        EXPECT_TRUE(run.Close());
+    }
+    EXPECT_EQ(Install(), 0u) << "over itself";
+    EXPECT_EQ(Listed(L"UninstallString"), L"\"" + folder + L"Uninstall.exe\"");
+    ExpectKept(folder);
+
+    StartUninstalling(folder, L"/S");
+    EXPECT_TRUE(Uninstalled());
+    ExpectNoProgramFiles(folder);
+    ExpectKept(folder);
+}
+
+TEST(InstallerTest, UninstallingByHandKeepsTheGamesUnlessTheyAreTicked) {
+    const std::wstring folder = UserFolder();
+    ASSERT_EQ(Install(), 0u);
+    WriteSettingsFile(folder, QuietSettings());
+    SaveGame(folder);
+    StartUninstalling(folder, L"");
+    HWND window = nullptr;
+    ASSERT_TRUE(Eventually([&] { return (window = FindWindowW(nullptr, L"TORVANIX Uninstall ")) != nullptr; }));
+    // Its one ordinary button is first Uninstall and at the end Close.
+    const auto pressButton = [&] {
+        const HWND button = GetDlgItem(window, IDOK);
+        ASSERT_TRUE(Eventually([&] { return IsWindowVisible(button) && IsWindowEnabled(button); }));
+        PostMessageW(button, BM_CLICK, 0, 0);
+    };
+    pressButton();
+    EXPECT_TRUE(Uninstalled());
+    pressButton();
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(window); }));
+    ExpectNoProgramFiles(folder);
+    ExpectKept(folder);
+}
+
+TEST(InstallerTest, RemovalSwitchTakesTheGamesAndNothingOfTheUsers) {
+    const TestFolder parent;
+    const std::wstring folder = parent.Path() + L"Şah ve Mat\\";
+    ASSERT_EQ(Install(L" /D=" + folder.substr(0, folder.size() - 1)), 0u);
+    EXPECT_EQ(Listed(L"InstallLocation") + L"\\", folder);
+    WriteSettingsFile(folder, QuietSettings());
+    SaveGame(folder);
+    WriteFileText(folder + L"Data\\notes.txt", "the user's own");
+    StartUninstalling(folder, L"/S /REMOVEGAMES");
+    EXPECT_TRUE(Uninstalled());
+    ExpectNoProgramFiles(folder);
+    EXPECT_FALSE(Exists(folder + L"SavedGames"));
+    EXPECT_FALSE(Exists(folder + L"Data\\TORVANIX.set"));
+    EXPECT_TRUE(Exists(folder + L"Data\\notes.txt"));
+
+    ASSERT_EQ(Install(L" /D=" + folder.substr(0, folder.size() - 1)), 0u);
+    DeleteFileW((folder + L"Data\\notes.txt").c_str());
+    SaveGame(folder);
+    StartUninstalling(folder, L"/S /REMOVEGAMES");
+    EXPECT_TRUE(Uninstalled());
+    EXPECT_FALSE(Exists(folder)) << "the empty folder stays";
+}
+
+TEST(InstallerTest, FolderThatCannotBeWrittenToEndsInAnErrorCode) {
+    // Wine shows the file system of the machine as Z:; into this folder not even root may write.
+    EXPECT_EQ(Install(L" /D=Z:\\proc\\TORVANIX"), 2u);
+    EXPECT_EQ(Listed(L"DisplayName"), L"");
+    EXPECT_FALSE(Exists(StartMenuEntry()));
+}
