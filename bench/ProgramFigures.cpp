@@ -102,8 +102,8 @@ void MeasureRunning(int minutes) {
     SendMessageW(alone.Window(), WM_COMMAND, mnuStart, 0);
     const double cpuBefore = alone.CpuTime(), emptyBefore = empty.CpuTime(), begun = Now();
 
-    SendMessageW(watched.Window(), WM_COMMAND, mnuStart, 0);
     const double start = Now();
+    SendMessageW(watched.Window(), WM_COMMAND, mnuStart, 0);
     const HWND face = GetDlgItem(watched.Window(), ControlOf(lblFace, White));
     std::wstring shown = TextOf(face);
     const int ticks = minutes * 60;
