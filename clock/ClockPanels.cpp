@@ -142,10 +142,11 @@ void ClockPanels::ShowSettings() {
 }
 
 void ClockPanels::ShowFace(Side side) {
-    const int id = ControlOf(lblFace, side);
-    form.SetText(id, FromAnsi(commands.Clock().Face(side)));
-    // A control that its owner draws need not take a new text for a reason to be drawn.
-    InvalidateRect(form.Control(id), nullptr, FALSE);
+    const HWND face = form.Control(ControlOf(lblFace, side));
+    // Straight to where the text is kept: whether a control that its owner draws takes a new text for a reason to be
+    // drawn is its own affair. It is drawn once and at once, before the many other controls that a press changes.
+    DefWindowProcW(face, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(FromAnsi(commands.Clock().Face(side)).c_str()));
+    RedrawWindow(face, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
 void ClockPanels::ShowMoveNumbers() {

@@ -51,6 +51,9 @@ class ClockPanels {
     // The visible control at a point of the window, enabled or not.
     Place PlaceAt(POINT point) const;
 
+    // A message on its way to the window, which tool tips may want to see.
+    void Relay(MSG& message) const { toolTips.Relay(message); }
+
     // Messages of the window.
     void Draw(const DRAWITEMSTRUCT& item) const;
     HBRUSH Colour(HDC dc, HWND control) const;

@@ -19,7 +19,7 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmClock";
 
 constexpr UINT_PTR BlinkTimer = 1, HelpTimer = 2;
-constexpr UINT BlinkInterval = 500, HelpInterval = 500;  // milliseconds
+constexpr UINT BlinkInterval = 500, HelpInterval = 2000;  // milliseconds
 
 // Messages of the window to itself: a button was pressed with this key (0: the mouse); the window is open and
 // can show what went wrong before.
@@ -89,6 +89,7 @@ void frmClock::TellReadingProblems() {
 }
 
 bool frmClock::TakeMessage(MSG& message) {
+    panels.Relay(message);
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
     if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;

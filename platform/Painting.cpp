@@ -2,6 +2,18 @@
 
 #include <algorithm>
 
+namespace {
+
+// A 32-bit bitmap, which is made without asking for the form of the screen's.
+UniqueBitmap MakeBitmap(LONG width, LONG height) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(info.bmiHeader), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* pixels = nullptr;
+    return UniqueBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+}
+
+}  // namespace
+
 UniqueFont MakeFont(int height, bool bold) {
     return UniqueFont(CreateFontW(-std::max(height, 1), 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
                                   DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
@@ -22,7 +34,7 @@ Buffered::Buffered(const DRAWITEMSTRUCT& item)
     : target(item.hDC),
       at(item.rcItem),
       memory(CreateCompatibleDC(target)),
-      bitmap(CreateCompatibleBitmap(target, at.right - at.left, at.bottom - at.top)),
+      bitmap(MakeBitmap(Area().right, Area().bottom)),
       selection(memory.get(), bitmap.get()) {
     SetBkMode(memory.get(), TRANSPARENT);
 }

@@ -6,7 +6,7 @@ namespace {
 TOOLINFOW ToolOf(HWND form, UINT flags, UINT_PTR id, std::wstring& text) {
     TOOLINFOW tool{};
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_SUBCLASS | flags;
+    tool.uFlags = flags;
     tool.hwnd = form;
     tool.uId = id;
     tool.lpszText = text.data();
@@ -21,7 +21,8 @@ void ToolTips::Create() {
 }
 
 void ToolTips::Set(int id, std::wstring text) const {
-    TOOLINFOW tool = ToolOf(form.Window(), TTF_IDISHWND, reinterpret_cast<UINT_PTR>(form.Control(id)), text);
+    TOOLINFOW tool =
+        ToolOf(form.Window(), TTF_IDISHWND | TTF_SUBCLASS, reinterpret_cast<UINT_PTR>(form.Control(id)), text);
     Replace(tool);
 }
 
@@ -29,6 +30,12 @@ void ToolTips::SetArea(int id, const RECT& area, std::wstring text) const {
     TOOLINFOW tool = ToolOf(form.Window(), 0, static_cast<UINT_PTR>(id), text);
     tool.rect = area;
     Replace(tool);
+}
+
+void ToolTips::Relay(MSG& message) const {
+    const bool mouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
+    if (mouse && message.hwnd == form.Window())
+        SendMessageW(window, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
 }
 
 void ToolTips::Replace(TOOLINFOW& tool) const {

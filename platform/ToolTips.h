@@ -19,7 +19,10 @@ class ToolTips {
     void Set(int id, std::wstring text) const;
 
     // Sets the tip of a part of the form's window, for controls that leave the mouse to it. `id` tells parts apart.
+    // Areas are shown by what the message loop relays: a window that the tip watched by itself would take longer over
+    // each of its messages.
     void SetArea(int id, const RECT& area, std::wstring text) const;
+    void Relay(MSG& message) const;
 
   private:
     void Replace(TOOLINFOW& tool) const;
