@@ -22,6 +22,8 @@ class ClockScorlet : private ScorletHost {
     // Opens it, or brings it to the front. Throws SystemError.
     void Show();
     void Close() { CloseScorlet(); }
+    // From the clock to the Scorlet that is open, or back.
+    void GoToOtherWindow();
 
     // Gives the form of a window that is gone up; for WM_FORGETSCORLET.
     void Forget();
