@@ -11,7 +11,8 @@
 #include <vector>
 
 // A picture with soft edges that is drawn at any size up to its own. It is kept as premultiplied 32-bit pixels and
-// shrunk by averaging areas; the last two sizes drawn are kept ready.
+// shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast it stands out from any ground by
+// an outline in the system's colour of text.
 class Picture {
   public:
     Picture() = default;
@@ -30,11 +31,12 @@ class Picture {
   private:
     struct Ready {
         int size = 0;
+        COLORREF outline = CLR_INVALID;
         UniqueBitmap bitmap;
     };
 
     HBITMAP OfSize(int size) const;
-    UniqueBitmap Shrunk(int size) const;
+    UniqueBitmap Shrunk(int size, COLORREF outline) const;
 
     int width = 0, height = 0;
     std::vector<uint32_t> pixels;  // BGRA, top row first
