@@ -67,11 +67,20 @@ void ClockPanels::Arrange() {
     RECT client{};
     GetClientRect(form.Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
+    arranged = client;
     layout = LayOutClock(static_cast<int>(client.right), static_cast<int>(client.bottom));
     painter.SetLayout(layout);
     for (Side side : BothSides) ArrangePanel(side);
     // Drawn controls show more or less at another size, so what they showed is no longer good.
     RedrawWindow(form.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void ClockPanels::TakeSize() {
+    // Sizes that the window takes before it is shown come and go, and moving every control takes time.
+    if (!IsWindowVisible(form.Window())) return;
+    RECT client{};
+    GetClientRect(form.Window(), &client);
+    if (!EqualRect(&client, &arranged)) Arrange();
 }
 
 void ClockPanels::ArrangePanel(Side side) {

@@ -34,6 +34,9 @@ class ClockPanels {
     // Lays everything out anew for the size of the window.
     void Arrange();
 
+    // The window has a size, perhaps another one than it had.
+    void TakeSize();
+
     // The name that the panel of a side shows.
     std::wstring NameOf(Side side) const;
 
@@ -68,6 +71,7 @@ class ClockPanels {
     const Texts& texts;
     ClockPainter painter;
     ClockLayout layout{};
+    RECT arranged{};  // the client area that the layout is for
     Picture flagUp, flagDown, hand;
     ToolTips toolTips;
 };

@@ -227,7 +227,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
                 panels.Colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: panels.PaintBackground(); return 0;
-        case WM_SIZE: panels.Arrange(); return 0;
+        case WM_SIZE: panels.TakeSize(); return 0;
         case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_SETCURSOR:
             if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;

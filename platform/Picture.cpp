@@ -91,11 +91,11 @@ Picture::Picture(IPicture& source) {
     height = MulDiv(sourceHeight, GetDeviceCaps(screen, LOGPIXELSY), himetricPerInch);
     ReleaseDC(nullptr, screen);
     HRESULT status = S_OK;
-    pixels = WithTransparency(width, height, [&](HDC dc) {
+    Pack(WithTransparency(width, height, [&](HDC dc) {
         const HRESULT rendered =
             source.Render(dc, 0, 0, width, height, 0, sourceHeight, sourceWidth, -sourceHeight, nullptr);
         if (FAILED(rendered)) status = rendered;
-    });
+    }));
     if (FAILED(status)) throw SystemError(CodeOf(status), L"GIF");
 }
 
@@ -105,9 +105,24 @@ Picture Picture::OfIcon(const wchar_t* resourceName, int size) {
     if (!icon) throw SystemError(GetLastError(), resourceName);
     Picture picture;
     picture.width = picture.height = size;
-    picture.pixels = WithTransparency(
-        size, size, [&](HDC dc) { DrawIconEx(dc, 0, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL); });
+    picture.Pack(WithTransparency(
+        size, size, [&](HDC dc) { DrawIconEx(dc, 0, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL); }));
     return picture;
+}
+
+void Picture::Pack(const std::vector<uint32_t>& pixels) {
+    for (const uint32_t pixel : pixels) {
+        if (runs.empty() || runs.back().pixel != pixel) runs.push_back({pixel, 0});
+        ++runs.back().length;
+    }
+    runs.shrink_to_fit();
+}
+
+std::vector<uint32_t> Picture::Unpacked() const {
+    std::vector<uint32_t> pixels;
+    pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
+    for (const Run& run : runs) pixels.insert(pixels.end(), run.length, run.pixel);
+    return pixels;
 }
 
 void Picture::Draw(HDC dc, int left, int top, int size) const {
@@ -129,6 +144,7 @@ HBITMAP Picture::OfSize(int size) const {
 }
 
 UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
+    const std::vector<uint32_t> pixels = Unpacked();
     Canvas canvas(size, size);
     for (int y = 0; y < size; ++y) {
         const int top = y * height / size, bottom = std::max((y + 1) * height / size, top + 1);

@@ -10,9 +10,9 @@
 #include <cstdint>
 #include <vector>
 
-// A picture with soft edges that is drawn at any size up to its own. It is kept as premultiplied 32-bit pixels and
-// shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast it stands out from any ground by
-// an outline in the system's colour of text.
+// A picture with soft edges that is drawn at any size up to its own. It is kept as runs of premultiplied 32-bit pixels
+// and shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast it stands out from any
+// ground by an outline in the system's colour of text.
 class Picture {
   public:
     Picture() = default;
@@ -23,22 +23,30 @@ class Picture {
     // Of an icon resource at the size in pixels that its largest image has. Throws SystemError.
     static Picture OfIcon(const wchar_t* resourceName, int size);
 
-    bool Empty() const { return pixels.empty(); }
+    bool Empty() const { return runs.empty(); }
 
     // Draws the whole picture into a square, over what is there.
     void Draw(HDC dc, int left, int top, int size) const;
 
   private:
+    // Pixels of one colour. They take a tenth of what the pixels themselves would.
+    struct Run {
+        uint32_t pixel;  // BGRA
+        uint32_t length;
+    };
+
     struct Ready {
         int size = 0;
         COLORREF outline = CLR_INVALID;
         UniqueBitmap bitmap;
     };
 
+    void Pack(const std::vector<uint32_t>& pixels);
+    std::vector<uint32_t> Unpacked() const;
     HBITMAP OfSize(int size) const;
     UniqueBitmap Shrunk(int size, COLORREF outline) const;
 
     int width = 0, height = 0;
-    std::vector<uint32_t> pixels;  // BGRA, top row first
+    std::vector<Run> runs;  // top row first
     mutable std::array<Ready, 2> ready;
 };

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Handles.h"
+#include "settings/Settings.h"
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+// Milliseconds of the system's performance counter.
+double Now();
+
+// The value that so many hundredths of the values do not exceed. There must be one.
+double Percentile(std::vector<double> values, int hundredths);
+
+// A program that is measured from outside, ended with the object.
+class RunningProgram {
+  public:
+    // Starts it and waits until its window of that class is visible and answers. Throws std::runtime_error.
+    RunningProgram(const std::wstring& path, const wchar_t* windowClass);
+    ~RunningProgram();
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+
+    HWND Window() const { return window; }
+    HWND WaitWindow(const wchar_t* windowClass) const;
+
+    // Milliseconds from the start until the window was visible, and until it had been drawn and answered.
+    double Visible() const { return visible; }
+    double Ready() const { return ready; }
+
+    // Milliseconds of processor time that its threads have used.
+    double CpuTime() const;
+
+    // Bytes.
+    size_t WorkingSet() const;
+    size_t PrivateBytes() const;
+
+  private:
+    UniqueFile process;
+    DWORD processId = 0;
+    HWND window = nullptr;
+    double visible = 0, ready = 0;
+};
