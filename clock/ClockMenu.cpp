@@ -78,6 +78,7 @@ UniqueAccelerators MakeClockAccelerators() {
         ACCEL{FCONTROL | FVIRTKEY, 'T', mnuStart},
         ACCEL{FCONTROL | FVIRTKEY, 'R', mnuReset},
         ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetup},
+        ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
     };
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
 }

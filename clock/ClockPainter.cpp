@@ -6,26 +6,32 @@
 
 namespace {
 
-constexpr COLORREF PanelColour = RGB(0xE6, 0xE6, 0xE6);
-constexpr COLORREF RunningColour = RGB(0xFF, 0xF1, 0xC2);
-constexpr COLORREF MarkColour = RGB(0x12, 0x8A, 0x3A);
-constexpr COLORREF EdgeColour = RGB(0x6E, 0x6E, 0x6E);
-constexpr COLORREF BrassColour = RGB(0xE9, 0xB4, 0x4C);
-constexpr COLORREF KeyColour = RGB(0xF7, 0xF7, 0xF7);
-constexpr COLORREF PressedColour = RGB(0xC9, 0xC9, 0xC9);
-constexpr COLORREF DimColour = RGB(0x76, 0x76, 0x76);
+constexpr Colour PanelColour{RGB(0xE6, 0xE6, 0xE6), COLOR_WINDOW};
+constexpr Colour RunningColour{RGB(0xFF, 0xF1, 0xC2), COLOR_WINDOW};
+constexpr Colour MarkColour{RGB(0x12, 0x8A, 0x3A), COLOR_HIGHLIGHT};
+constexpr Colour EdgeColour{RGB(0x6E, 0x6E, 0x6E), COLOR_WINDOWTEXT};
 
 struct FaceColours {
-    COLORREF ground, ink, fallenInk;
+    Colour ground, ink, fallenInk;
 };
 constexpr std::array<FaceColours, 2> Faces{
-    FaceColours{RGB(0xFF, 0xFF, 0xFF), RGB(0x10, 0x10, 0x10), RGB(0xC0, 0x10, 0x10)},
-    FaceColours{RGB(0x1B, 0x1B, 0x1B), RGB(0xFF, 0xFF, 0xFF), RGB(0xFF, 0x7A, 0x6A)},
+    FaceColours{{RGB(0xFF, 0xFF, 0xFF), COLOR_WINDOW},
+                {RGB(0x10, 0x10, 0x10), COLOR_WINDOWTEXT},
+                {RGB(0xC0, 0x10, 0x10), COLOR_WINDOWTEXT}},
+    FaceColours{{RGB(0x1B, 0x1B, 0x1B), COLOR_WINDOW},
+                {RGB(0xFF, 0xFF, 0xFF), COLOR_WINDOWTEXT},
+                {RGB(0xFF, 0x7A, 0x6A), COLOR_WINDOWTEXT}},
 };
 
-COLORREF Darker(COLORREF colour) {
-    return RGB(GetRValue(colour) * 5 / 8, GetGValue(colour) * 5 / 8, GetBValue(colour) * 5 / 8);
+constexpr KeyColours MakeKey(COLORREF face, COLORREF text, COLORREF edge, int system) {
+    const COLORREF rim = RGB(GetRValue(face) * 5 / 8, GetGValue(face) * 5 / 8, GetBValue(face) * 5 / 8);
+    return {{face, COLOR_BTNFACE}, {rim, system}, {text, system}, {edge, system}};
 }
+constexpr COLORREF KeyInk = RGB(0x14, 0x14, 0x14);
+constexpr KeyColours BrassKey = MakeKey(RGB(0xE9, 0xB4, 0x4C), KeyInk, KeyInk, COLOR_BTNTEXT);
+constexpr KeyColours PlainKey = MakeKey(RGB(0xF7, 0xF7, 0xF7), KeyInk, KeyInk, COLOR_BTNTEXT);
+constexpr KeyColours DeadKey =
+    MakeKey(RGB(0xC9, 0xC9, 0xC9), RGB(0x76, 0x76, 0x76), RGB(0x6E, 0x6E, 0x6E), COLOR_GRAYTEXT);
 
 int WidthOf(HDC dc, HFONT font, const std::wstring& text) {
     const Selection selection(dc, font);
@@ -37,9 +43,7 @@ int WidthOf(HDC dc, HFONT font, const std::wstring& text) {
 }  // namespace
 
 ClockPainter::ClockPainter(uint32_t background)
-    : backgroundBrush(CreateSolidBrush(RGB(background >> 16 & 0xFF, background >> 8 & 0xFF, background & 0xFF))),
-      panelBrush(CreateSolidBrush(PanelColour)),
-      runningBrush(CreateSolidBrush(RunningColour)) {}
+    : backgroundBrush({ColourOf(background), COLOR_BTNFACE}), panelBrush(PanelColour), runningBrush(RunningColour) {}
 
 void ClockPainter::SetLayout(const ClockLayout& layout) {
     nameType = layout.nameType;
@@ -123,24 +127,24 @@ void ClockPainter::DrawPicture(const DRAWITEMSTRUCT& item, const Picture& pictur
 }
 
 void ClockPainter::DrawClockButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const {
-    DrawKey(item, text, running, BrassColour, ButtonFont());
+    DrawKey(item, text, running, BrassKey, ButtonFont());
 }
 
 void ClockPainter::DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const {
-    DrawKey(item, text, running, KeyColour, PauseFont());
+    DrawKey(item, text, running, PlainKey, PauseFont());
 }
 
 // A key stands out while it can be pressed and lies flat while it cannot.
-void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, COLORREF face,
+void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, const KeyColours& live,
                            HFONT font) const {
     const Buffered buffer(item);
     RECT area = buffer.Area();
     FillRect(buffer.Dc(), &area, PanelBrush(running));
     const bool enabled = !(item.itemState & ODS_DISABLED), down = (item.itemState & ODS_SELECTED) || !enabled;
     const LONG rise = std::max(area.bottom / 10, LONG{3});
-    const COLORREF colour = enabled ? face : PressedColour;
+    const KeyColours& colours = enabled ? live : DeadKey;
 
-    Fill(buffer.Dc(), area, Darker(colour));
+    Fill(buffer.Dc(), area, colours.rim);
     RECT top = area;
     if (down) {
         top.top += rise * 2 / 3;
@@ -150,11 +154,11 @@ void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text,
     } else {
         top.bottom -= rise;
     }
-    Fill(buffer.Dc(), top, colour);
-    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, enabled ? ClockPainter::Ink : EdgeColour);
+    Fill(buffer.Dc(), top, colours.face);
+    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, colours.edge);
 
     const Selection selection(buffer.Dc(), font);
-    SetTextColor(buffer.Dc(), enabled ? ClockPainter::Ink : DimColour);
+    SetTextColor(buffer.Dc(), colours.text);
     DrawTextW(buffer.Dc(), text.c_str(), -1, &top, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     if (item.itemState & ODS_FOCUS) {
         InflateRect(&top, -static_cast<int>(rise / 2), -static_cast<int>(rise / 2));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clock/ClockLayout.h"
+#include "platform/Colours.h"
 #include "platform/Handles.h"
 #include "platform/Picture.h"
 
@@ -9,10 +10,15 @@
 #include <array>
 #include <string>
 
+// Of a key that can be pressed, and of one that cannot.
+struct KeyColours {
+    Colour face, rim, text, edge;
+};
+
 // How the clock window looks: its colours, type and pictures.
 class ClockPainter {
   public:
-    static constexpr COLORREF Ink = RGB(0x14, 0x14, 0x14);  // of texts on the panels
+    static constexpr Colour Ink{RGB(0x14, 0x14, 0x14), COLOR_WINDOWTEXT};  // of texts on the panels
 
     // `background` as 0xRRGGBB.
     explicit ClockPainter(uint32_t background);
@@ -40,10 +46,11 @@ class ClockPainter {
     void DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const;
 
   private:
-    void DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, COLORREF face, HFONT font) const;
+    void DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, const KeyColours& live,
+                 HFONT font) const;
     HFONT FaceFont(HDC dc, const std::wstring& text, int width, int height) const;
 
-    UniqueBrush backgroundBrush, panelBrush, runningBrush;
+    Brush backgroundBrush, panelBrush, runningBrush;
     std::array<UniqueFont, 2> nameFonts;
     int nameType = 0;
     UniqueFont blinkFont, buttonFont, pauseFont, textFont;

@@ -28,11 +28,15 @@ void ClockPanels::Create() {
             form.AddControl(kind, ControlOf(pair, side), style);
         };
         // The order is the reading and the tab order; a label comes before what it names.
+        const auto addMark = [&](int mark) {
+            form.AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
+        };
+        addMark(0);
         add(WC_STATICW, lblSide, text);
         add(WC_STATICW, lblBlink, text | SS_RIGHT);
-        for (int mark = 0; mark < TurnMarksPerSide; ++mark)
-            form.AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
+        addMark(1);
         add(WC_STATICW, lblFace, drawn);
+        addMark(2);
         add(WC_STATICW, imgFlagUp, drawn);
         add(WC_STATICW, imgFlagDown, SS_OWNERDRAW);
         add(WC_STATICW, imgHand, drawn);
@@ -121,6 +125,10 @@ std::wstring ClockPanels::NameOf(Side side) const {
     return name.empty() ? texts(side == White ? TextId::White : TextId::Black) : FromAnsi(name);
 }
 
+int32_t ClockPanels::PeriodTime(Side side) const {
+    return settings.SecondPeriodEnabled ? settings.SecondPeriodTime[side] : settings.PeriodLimit[side];
+}
+
 void ClockPanels::ShowSettings() {
     const std::wstring ordinal = texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()),
                                                std::to_wstring(settings.MovesFirstPeriod));
@@ -128,11 +136,10 @@ void ClockPanels::ShowSettings() {
     const std::wstring caption =
         second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime);
     for (Side side : BothSides) {
-        const int32_t time = second ? settings.SecondPeriodTime[side] : settings.PeriodLimit[side];
         const int32_t bonus = settings.MoveBonus[side];
         form.SetText(ControlOf(lblSide, side), NameOf(side));
         form.SetText(ControlOf(lblPeriod, side), caption);
-        form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(time)));
+        form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side))));
         form.SetText(ControlOf(lblBonusTime, side), FromAnsi(MinutesSecondsText(bonus)));
         for (int pair : {lblBonus, lblBonusTime}) form.SetVisible(ControlOf(pair, side), bonus > 0);
         for (int pair : {lblMoveNumber, lblMoveCount}) form.SetVisible(ControlOf(pair, side), settings.ShowMoveNumber);
@@ -166,6 +173,8 @@ void ClockPanels::ShowPhase() {
         form.SetEnabled(ControlOf(cmdClock, side), commands.ClockButtonEnabled(side));
         form.SetEnabled(ControlOf(cmdPause, side), commands.PauseButtonEnabled(side));
         form.SetText(ControlOf(lblBlink, side), L"");
+        // What says nothing should not be there for a screen reader.
+        form.SetVisible(ControlOf(lblBlink, side), commands.BlinkingSide() == side);
     }
     Blink();
     // At once: what follows may take time, the flag's sound for example.
@@ -177,8 +186,37 @@ void ClockPanels::Blink() {
     if (!side) return;
     const int id = ControlOf(lblBlink, *side);
     const bool empty = GetWindowTextLengthW(form.Control(id)) == 0;
-    const TextId text = commands.BlinkText() == BlinkMark::ToMove ? TextId::ToMove : TextId::Pause;
-    form.SetText(id, empty ? texts(text) : L"");
+    form.SetText(id, empty ? texts(BlinkRow()) : L"");
+}
+
+TextId ClockPanels::BlinkRow() const {
+    return commands.BlinkText() == BlinkMark::ToMove ? TextId::ToMove : TextId::Pause;
+}
+
+std::wstring ClockPanels::SpokenName(int id) const {
+    const auto [pair, side] = PlaceOf(id);
+    const bool fallen = commands.FlagFallen(side);
+    const auto of = [&, side = side](const std::wstring& text) {
+        return texts.SideName(side) + L", " + text;
+    };
+    switch (pair) {
+        case lblFace: {
+            const modClock::ClockState& state = commands.Clock().State();
+            const int32_t minutes = state.TimeHours[side] * 60 + state.TimeMinutes[side];
+            const std::wstring time = of(texts.Duration(minutes * 60 + state.TimeSeconds[side]));
+            return fallen ? time + L", " + texts(TextId::FlagFallen) : time;
+        }
+        case lblBlink: return of(texts(BlinkRow()));  // while the mark is off too
+        case shpTurn: return of(texts(TextId::ToMove));
+        case imgFlagUp:
+        case imgFlagDown: return of(texts(fallen ? TextId::FlagFallen : TextId::FlagUp));
+        case imgHand:
+        case cmdClock: return of(texts(TextId::TipHand));
+        case cmdPause: return of(texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
+        case lblPeriodTime: return texts.Duration(PeriodTime(side));
+        case lblBonusTime: return texts.Duration(settings.MoveBonus[side]);
+        default: return {};
+    }
 }
 
 Place ClockPanels::PlaceAt(POINT point) const {

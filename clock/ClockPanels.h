@@ -45,6 +45,9 @@ class ClockPanels {
     void ShowMoveNumbers();
     void ShowPhase();
 
+    // What screen readers say of a control, where it is not its text.
+    std::wstring SpokenName(int id) const;
+
     // One blink of the mark of the side whose turn it is.
     void Blink();
 
@@ -61,6 +64,8 @@ class ClockPanels {
 
   private:
     void ArrangePanel(Side side);
+    int32_t PeriodTime(Side side) const;  // that is shown under the face
+    TextId BlinkRow() const;
     bool Runs(Side side) const { return commands.TurnMarksVisible(side); }
 
     Form& form;

@@ -36,6 +36,14 @@ std::wstring ClockScorlet::Open() {
     return problem;
 }
 
+void ClockScorlet::GoToOtherWindow() {
+    if (!scorlet) return;
+    if (GetActiveWindow() == scorlet->Window())
+        SetForegroundWindow(clock.Window());
+    else
+        Show();
+}
+
 // Right of the clock. Where the screen is too narrow for both, first the clock and then the Scorlet give way, down to
 // their least sizes.
 RECT ClockScorlet::PlaceBeside() const {

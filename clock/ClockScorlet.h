@@ -24,6 +24,8 @@ class ClockScorlet final : private ScorletHost {
     // Opens it where it is not loaded; the text, empty on success, says which picture could not be loaded.
     std::wstring Open();
     void Close() { CloseScorlet(); }
+    // From the clock to the Scorlet that is open, or back.
+    void GoToOtherWindow();
 
     // Gives the form of a window that is gone up; for WM_FORGETSCORLET.
     void Forget();

@@ -257,6 +257,7 @@ void frmClock::OnCommand(int id) {
         case mnuReset: return commands.AskedResetIfStarted();
         case mnuPause: return commands.PauseOrResume();
         case mnuShowScorlet: return scorlet.Show();
+        case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
         case mnuPrint: return games.Print();
         case mnuSetup: return ShowSetup();

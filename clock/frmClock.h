@@ -30,6 +30,7 @@ class frmClock : public Form, private ClockView {
 
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::wstring SpokenName(int id) const override { return panels.SpokenName(id); }
 
     // ClockView
     int32_t SetTimer() override { return timer.Set(); }

@@ -71,6 +71,11 @@ LRESULT frmFiles::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     return Dialog::Handle(message, wParam, lParam);
 }
 
+std::wstring frmFiles::SpokenName(int id) const {
+    if (id == fraGames) return captions(TextId::GameGroup);
+    return id == fraActions ? captions(TextId::ActionGroup) : std::wstring();
+}
+
 int frmFiles::DefaultButton() const { return Of(mode).button; }
 
 void frmFiles::FillGameList() {

@@ -34,6 +34,7 @@ class frmFiles : public Dialog {
 
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::wstring SpokenName(int id) const override;
     int DefaultButton() const override;
 
     void FillGameList();

@@ -11,12 +11,12 @@
 namespace {
 
 constexpr int TypeHeight = 13;  // of the 96 dpi design
+constexpr Colour Ink{RGB(0, 0, 0), COLOR_BTNTEXT};
 
 }  // namespace
 
 Dialog::Dialog(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t colour)
-    : Form(texts, messageBoxes),
-      background(CreateSolidBrush(RGB(colour >> 16 & 0xFF, colour >> 8 & 0xFF, colour & 0xFF))) {}
+    : Form(texts, messageBoxes), background({ColourOf(colour), COLOR_BTNFACE}) {}
 
 void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
                     std::span<const DialogItem> controls) {
@@ -111,6 +111,7 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORBTN:
             SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+            SetTextColor(reinterpret_cast<HDC>(wParam), Ink);
             return reinterpret_cast<LRESULT>(background.get());
         case WM_ERASEBKGND: {
             RECT client{};

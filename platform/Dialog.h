@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Box.h"
+#include "platform/Colours.h"
 #include "platform/Form.h"
 #include "platform/Handles.h"
 
@@ -47,7 +48,7 @@ class Dialog : public Form {
     void Arrange();
     int EnterButton() const;
 
-    UniqueBrush background;
+    Brush background;
     UniqueFont font;
     std::span<const DialogItem> items;
     HWND focus = nullptr;  // while the window is not active

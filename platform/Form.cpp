@@ -3,6 +3,7 @@
 #include "base/RunTimeError.h"
 #include "platform/Ansi.h"
 #include "platform/Dpi.h"
+#include "platform/SpokenControl.h"
 #include "platform/SystemError.h"
 
 RECT WorkArea(HWND window) {
@@ -36,6 +37,9 @@ void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style,
 }
 
 LRESULT Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool contrastChanged = message == WM_SETTINGCHANGE && wParam == SPI_SETHIGHCONTRAST;
+    if (message == WM_SYSCOLORCHANGE || contrastChanged)
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     if (message == WM_DPICHANGED) {
         dpi = HIWORD(wParam);
         const RECT& wanted = *reinterpret_cast<const RECT*>(lParam);
@@ -53,7 +57,7 @@ LRESULT CALLBACK Form::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
         form->dpi = DpiOf(window);
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
     }
-    auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    Form* form = FormOf(window);
     if (!form) return DefWindowProcW(window, message, wParam, lParam);
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
@@ -86,6 +90,7 @@ HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
         CreateWindowExW(0, kind, L"", WS_CHILD | style, 0, 0, 0, 0, window,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     if (!control) throw SystemError(GetLastError(), kind);
+    SpeakWithForm(control);
     return control;
 }
 
@@ -94,6 +99,11 @@ std::wstring Form::Text(int id) const {
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(control)), L'\0');
     GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1);
     return text;
+}
+
+std::wstring Form::SpokenNameOf(HWND control) {
+    const Form* form = FormOf(GetParent(control));
+    return form ? form->SpokenName(GetDlgCtrlID(control)) : std::wstring();
 }
 
 void Form::SetText(int id, const std::wstring& text) const {

@@ -24,7 +24,7 @@ class Form {
     // Shows what stopped a handler, or the opening of the window, in a message.
     void ShowError(const std::exception& error) const;
 
-    // A child window. Throws SystemError.
+    // A child window that screen readers know by its SpokenName. Throws SystemError.
     HWND AddControl(const wchar_t* kind, int id, DWORD style);
 
     HWND Control(int id) const { return GetDlgItem(window, id); }
@@ -33,10 +33,21 @@ class Form {
     void SetVisible(int id, bool visible) const { ShowWindow(Control(id), visible ? SW_SHOWNA : SW_HIDE); }
     void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }
 
+    // SpokenName of a control of a form; empty where there is none any more.
+    static std::wstring SpokenNameOf(HWND control);
+
   protected:
     // `messageBoxes` must outlive the form.
     Form(const Texts& texts, const MessageBoxes& messageBoxes)
         : texts(texts), messageBoxes(messageBoxes), language(texts.LanguageIndex()), captions(language) {}
+
+    // What screen readers say of a control. Empty: what the system says, which is the control's text, or for fields
+    // that of the label before it.
+    virtual std::wstring SpokenName(int) const { return {}; }
+    // Has them say it again; they do for the control that has the focus only.
+    void TellSpokenName(int id) const {
+        NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, Control(id), OBJID_CLIENT, CHILDID_SELF);
+    }
 
     // Creates the window, hidden and without size. `name` names its class and must be the form's own.
     // Throws SystemError.
@@ -57,6 +68,7 @@ class Form {
     const Texts captions;
 
   private:
+    static Form* FormOf(HWND window) { return reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA)); }
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND window = nullptr;

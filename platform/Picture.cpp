@@ -1,9 +1,11 @@
 #include "platform/Picture.h"
 
+#include "platform/Colours.h"
 #include "platform/SystemError.h"
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <utility>
 
 namespace {
@@ -52,6 +54,28 @@ std::vector<uint32_t> WithTransparency(int width, int height, Drawing draw) {
         onBlack[i] = (onBlack[i] & 0xFFFFFF) | (0xFF - through) << 24;
     }
     return onBlack;
+}
+
+// Puts a colour behind all that lies near enough to the picture in a square of premultiplied pixels.
+void AddOutline(std::span<uint32_t> pixels, int size, COLORREF colour) {
+    const std::vector<uint32_t> picture(pixels.begin(), pixels.end());
+    const std::array<uint32_t, 4> channels{GetBValue(colour), GetGValue(colour), GetRValue(colour), 0xFF};
+    const int reach = std::max(size / 24, 1);
+    const auto at = [size](int x, int y) {
+        return static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x);
+    };
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            uint32_t nearest = 0;
+            for (int row = std::max(y - reach, 0); row <= std::min(y + reach, size - 1); ++row) {
+                for (int column = std::max(x - reach, 0); column <= std::min(x + reach, size - 1); ++column)
+                    nearest = std::max(nearest, picture[at(column, row)] >> 24);
+            }
+            uint32_t& pixel = pixels[at(x, y)];
+            const uint32_t through = nearest * (0xFF - (pixel >> 24)) / 0xFF;
+            for (size_t channel = 0; channel < 4; ++channel) pixel += channels[channel] * through / 0xFF << 8 * channel;
+        }
+    }
 }
 
 }  // namespace
@@ -111,14 +135,15 @@ void Picture::Draw(HDC dc, int left, int top, int size) const {
 }
 
 HBITMAP Picture::OfSize(int size) const {
+    const COLORREF outline = HighContrast() ? GetSysColor(COLOR_WINDOWTEXT) : CLR_INVALID;
     for (const Ready& one : ready) {
-        if (one.size == size) return one.bitmap.get();
+        if (one.size == size && one.outline == outline) return one.bitmap.get();
     }
-    ready[1] = std::exchange(ready[0], {size, Shrunk(size)});
+    ready[1] = std::exchange(ready[0], {size, outline, Shrunk(size, outline)});
     return ready[0].bitmap.get();
 }
 
-UniqueBitmap Picture::Shrunk(int size) const {
+UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
     const std::vector<uint32_t> pixels = Unpacked();
     Canvas canvas(size, size);
     for (int y = 0; y < size; ++y) {
@@ -140,5 +165,7 @@ UniqueBitmap Picture::Shrunk(int size) const {
             canvas.pixels[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
         }
     }
+    if (outline != CLR_INVALID)
+        AddOutline({canvas.pixels, static_cast<size_t>(size) * static_cast<size_t>(size)}, size, outline);
     return std::move(canvas.bitmap);
 }

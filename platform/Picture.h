@@ -10,8 +10,9 @@
 #include <cstdint>
 #include <vector>
 
-// A picture with soft edges that is drawn at any size up to its own. It is kept as runs of premultiplied 32-bit
-// pixels and shrunk by averaging areas; the last two sizes drawn are kept ready.
+// A picture with soft edges that is drawn at any size up to its own. It is kept as runs of premultiplied 32-bit pixels
+// and shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast it stands out from any
+// ground by an outline in the system's colour of text.
 class Picture {
   public:
     Picture() = default;
@@ -36,13 +37,14 @@ class Picture {
 
     struct Ready {
         int size = 0;
+        COLORREF outline = CLR_INVALID;
         UniqueBitmap bitmap;
     };
 
     void Pack(const std::vector<uint32_t>& pixels);
     std::vector<uint32_t> Unpacked() const;
     HBITMAP OfSize(int size) const;
-    UniqueBitmap Shrunk(int size) const;
+    UniqueBitmap Shrunk(int size, COLORREF outline) const;
 
     int width = 0, height = 0;
     std::vector<Run> runs;  // top row first

@@ -2,6 +2,16 @@
 
 #include <algorithm>
 
+TraySlot SlotOf(int number) {
+    const Side side = number < SlotsPerSide ? White : Black;
+    int rest = number % SlotsPerSide;
+    for (const PieceKind kind : TrayKinds) {
+        if (rest < TraySlots(kind)) return {PieceOf(side, kind), rest};
+        rest -= TraySlots(kind);
+    }
+    return {Piece::Empty, 0};
+}
+
 void Board::Reset() {
     constexpr std::array backRank{PieceKind::Rook, PieceKind::Knight, PieceKind::Bishop, PieceKind::Queen,
                                   PieceKind::King, PieceKind::Bishop, PieceKind::Knight, PieceKind::Rook};

@@ -34,6 +34,17 @@ constexpr int TraySlots(PieceKind kind) {
     }
 }
 
+// A slot of a tray, by piece and its place there.
+struct TraySlot {
+    Piece piece;
+    int slot;
+    bool operator==(const TraySlot&) const = default;
+};
+
+// The slots of all trays by number, from 0: those of White's pieces as TrayKinds says, then those of Black's.
+inline constexpr int SlotsPerSide = 15;
+TraySlot SlotOf(int number);
+
 // The position that the players replay, with the captured pieces. It carries out captures, castling, en passant and
 // promotion and judges no move: it is a scoring pad and not a referee.
 class Board {

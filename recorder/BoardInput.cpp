@@ -31,7 +31,21 @@ std::optional<ChosenLine> BoardInput::Click(Square square) {
 void BoardInput::ClickCaptured(Piece piece, int slot) {
     const bool again = IsPicked(piece, slot);
     Cancel();
-    if (!again && recorder.Position().CapturedShown(piece, slot)) captured = Captured{piece, slot};
+    if (!again && recorder.Position().CapturedShown(piece, slot)) captured = TraySlot{piece, slot};
+}
+
+void BoardInput::PickNextCaptured() {
+    const std::optional<TraySlot> before = captured;
+    Cancel();
+    bool behind = !before;
+    for (int number = 0; number < 2 * SlotsPerSide; ++number) {
+        const TraySlot next = SlotOf(number);
+        if (behind && recorder.Position().CapturedShown(next.piece, next.slot)) {
+            captured = next;
+            return;
+        }
+        behind = behind || next == before;
+    }
 }
 
 void BoardInput::Cancel() {

@@ -18,11 +18,15 @@ class BoardInput {
         return captured && captured->piece == piece && captured->slot == slot;
     }
 
+    const std::optional<TraySlot>& Captured() const { return captured; }
+
     // A click on a square, or Enter on the cursor's. Gives the written line when that has made a move.
     std::optional<ChosenLine> Click(Square square);
     std::optional<ChosenLine> Enter() { return Click(cursor); }
     // A click on a captured piece that is shown.
     void ClickCaptured(Piece piece, int slot);
+    // Picks the first captured piece that is shown, or the one behind the one picked; none behind the last.
+    void PickNextCaptured();
     // Drops the picked piece where it was.
     void Cancel();
     // Nothing picked, the cursor where it is at first.
@@ -34,14 +38,9 @@ class BoardInput {
     void MoveCursor(int files, int ranks);
 
   private:
-    struct Captured {
-        Piece piece;
-        int slot;
-    };
-
     Recorder& recorder;
     std::optional<Square> origin;
-    std::optional<Captured> captured;
+    std::optional<TraySlot> captured;
     static constexpr Square Start = SquareAt(5, 2);
     Square cursor = Start;
 };

@@ -1,5 +1,6 @@
 #include "recorder/ScorletPainter.h"
 
+#include "platform/Colours.h"
 #include "platform/Painting.h"
 #include "settings/modResource.h"
 
@@ -7,10 +8,12 @@
 
 namespace {
 
-constexpr COLORREF LightSquare = RGB(0xF0, 0xD9, 0xB5), DarkSquare = RGB(0xB5, 0x88, 0x63);
-constexpr COLORREF LightLast = RGB(0xF4, 0xE4, 0x7A), DarkLast = RGB(0xD2, 0xB0, 0x48);
-constexpr COLORREF PickedColour = RGB(0x1D, 0x5F, 0xD0);
-constexpr COLORREF EdgeColour = RGB(0x5A, 0x40, 0x2E), EdgeInk = RGB(0xF0, 0xE4, 0xD2);
+// With the system's colours the dark squares are hatched, as in print.
+constexpr Colour LightSquare{RGB(0xF0, 0xD9, 0xB5), COLOR_WINDOW}, DarkSquare{RGB(0xB5, 0x88, 0x63), COLOR_WINDOW};
+constexpr Colour LightLast{RGB(0xF4, 0xE4, 0x7A), COLOR_WINDOW}, DarkLast{RGB(0xD2, 0xB0, 0x48), COLOR_WINDOW};
+constexpr Colour PickedColour{RGB(0x1D, 0x5F, 0xD0), COLOR_HIGHLIGHT};
+constexpr Colour LastColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOWTEXT};
+constexpr Colour EdgeColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOW}, EdgeInk{RGB(0xF0, 0xE4, 0xD2), COLOR_WINDOWTEXT};
 
 constexpr std::array PromotionNames{"TQ", "TR", "TB", "TN"};
 
@@ -20,6 +23,23 @@ void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
         Frame(dc, area, colour);
         InflateRect(&area, -1, -1);
     }
+}
+
+// An angle at each corner of a square.
+void CornerMarks(HDC dc, const RECT& area, COLORREF colour, int thickness) {
+    const LONG size = area.right, length = size / 4;
+    for (const LONG left : {LONG{0}, size - length}) {
+        const LONG edge = left == 0 ? 0 : size - thickness;
+        Fill(dc, {left, 0, left + length, thickness}, colour);
+        Fill(dc, {left, size - thickness, left + length, size}, colour);
+        Fill(dc, {edge, 0, edge + thickness, length}, colour);
+        Fill(dc, {edge, size - length, edge + thickness, size}, colour);
+    }
+}
+
+void Hatch(HDC dc, const RECT& area) {
+    const UniqueBrush brush(CreateHatchBrush(HS_BDIAGONAL, GetSysColor(COLOR_WINDOWTEXT)));
+    FillRect(dc, &area, brush.get());
 }
 
 }  // namespace
@@ -65,9 +85,10 @@ void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, Piece p
         Fill(buffer.Dc(), area, light ? LightLast : DarkLast);
     else
         Fill(buffer.Dc(), area, light ? LightSquare : DarkSquare);
+    if (!light && HighContrast()) Hatch(buffer.Dc(), area);
 
     const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
-    if (marks.lastMove) ThickFrame(buffer.Dc(), area, EdgeColour, std::max(thickness / 2, 1));
+    if (marks.lastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
     if (marks.origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
     pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, size);
     if (marks.cursor) {

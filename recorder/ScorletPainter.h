@@ -25,7 +25,8 @@ class ScorletPainter {
     void SetLayout(const ScorletLayout& layout, int dpi);
 
     HFONT Font() const { return font.get(); }
-    HBRUSH BackgroundBrush() const { return backgroundBrush.get(); }
+    // The system's own colour of windows' faces: the lists and fields are the system's too.
+    HBRUSH BackgroundBrush() const { return GetSysColorBrush(COLOR_BTNFACE); }
 
     void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
     void DrawCell(const DRAWITEMSTRUCT& item, Square square, Piece piece, const CellMarks& marks) const;
@@ -33,8 +34,6 @@ class ScorletPainter {
     void DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const;
 
   private:
-    // The system's own colour of windows' faces: the lists and fields are the system's too.
-    UniqueBrush backgroundBrush{CreateSolidBrush(GetSysColor(COLOR_BTNFACE))};
     UniqueFont font, coordinateFont;
     std::array<Picture, 16> pieces;  // by piece
     std::array<Picture, 4> promotions;

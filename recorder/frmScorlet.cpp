@@ -3,6 +3,7 @@
 #include "platform/Ansi.h"
 #include "platform/Dpi.h"
 #include "platform/SystemError.h"
+#include "recorder/SpokenBoard.h"
 #include "resources/resource.h"
 
 #include <commctrl.h>
@@ -22,25 +23,10 @@ constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind
 constexpr std::array PromotionTexts{TextId::PromotionQueen, TextId::PromotionRook, TextId::PromotionBishop,
                                     TextId::PromotionKnight};
 
-// A slot of the captured pieces by its number among those of both sides.
-struct Slot {
-    Piece piece;
-    int slot;
-};
-
-Slot SlotOf(int number) {
-    const Side side = number < CapturedSlots ? White : Black;
-    int rest = number % CapturedSlots;
-    for (const PieceKind kind : TrayKinds) {
-        if (rest < TraySlots(kind)) return {PieceOf(side, kind), rest};
-        rest -= TraySlots(kind);
-    }
-    return {Piece::Empty, 0};
-}
-
 constexpr int CellOf(Square square) { return picBoard + static_cast<int>(square); }
 bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIndexes && IsSquare(id - picBoard); }
 bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
+static_assert(CapturedSlots == SlotsPerSide);
 bool IsPromotion(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
 
 template <typename Action>
@@ -222,6 +208,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
             SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
             return reinterpret_cast<LRESULT>(painter.BackgroundBrush());
         case WM_ERASEBKGND: {
             RECT client{};
@@ -300,16 +287,19 @@ bool frmScorlet::OnBoardKey(WPARAM key) {
         case VK_UP: input.MoveCursor(0, 1); break;
         case VK_DOWN: input.MoveCursor(0, -1); break;
         case VK_ESCAPE: input.Cancel(); break;
-        case VK_RETURN: OnSquare(input.Cursor()); return true;
+        case VK_INSERT: input.PickNextCaptured(); break;
+        case VK_RETURN: OnSquare(input.Cursor()); break;
         case VK_SPACE:
-            if (!input.PiecePicked())
+            if (!input.PiecePicked()) {
                 host.PressEnabledClock();
-            else
-                OnSquare(input.Cursor());
-            return true;
+                return true;
+            }
+            OnSquare(input.Cursor());
+            break;
         default: return false;
     }
     ShowBoard();
+    TellSpokenName(picBoard);
     return true;
 }
 
@@ -367,6 +357,22 @@ void frmScorlet::EndEdit(bool accept) {
     field.Hide();
     ShowRecord(line);
     SetFocus(Control(picBoard));
+}
+
+std::wstring frmScorlet::SpokenName(int id) const {
+    if (id == picBoard) return SpokenBoard(captions, recorder, input);
+    if (IsCell(id)) return SpokenSquare(captions, recorder, input, static_cast<Square>(id - picBoard));
+    if (IsCaptured(id)) {
+        const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
+        return SpokenCaptured(captions, input, piece, slot);
+    }
+    switch (id) {
+        case lstMoves:
+        case lstMoves + 1:
+            return captions.SideName(id == lstMoves ? White : Black) + L", " + captions(TextId::MovesOfSide);
+        case txtMove: return captions(TextId::EditMove);
+        default: return {};
+    }
 }
 
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {

@@ -53,6 +53,7 @@ class frmScorlet : public Form {
 
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::wstring SpokenName(int id) const override;
 
     void CreateControls();
     void ApplyTexts();

@@ -42,6 +42,7 @@ enum ClockControl : int {
     mnuPrint,
     mnuContents,
     mnuAbout,
+    mnuNextWindow,  // a key alone
 };
 
 // The Scorlet.

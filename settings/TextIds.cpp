@@ -11,3 +11,8 @@ TextId OrdinalRow(int32_t number, int32_t language) {
         default: return TextId::OrdinalTh;
     }
 }
+
+TextId CountRow(TextId one, int32_t number, int32_t language) {
+    const bool singular = number == 1 || (number == 0 && language == French);
+    return singular ? one : RowBehind(one, 1);
+}

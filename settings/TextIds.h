@@ -20,5 +20,8 @@ constexpr TextId RowBehind(TextId first, int32_t steps) { return TextId{static_c
 // Identifier of a text in a language. The language is taken as it stands; one that no row has leads to no text.
 constexpr int64_t TextIdentifier(TextId row, int32_t language) { return int64_t{static_cast<int32_t>(row)} + language; }
 
+// The row of `one`, or the one behind it, that counts `number` of something: "1 second", "2 seconds".
+TextId CountRow(TextId one, int32_t number, int32_t language);
+
 // The row that writes `number` as an ordinal: "40th", "1er", "21.".
 TextId OrdinalRow(int32_t number, int32_t language);

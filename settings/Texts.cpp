@@ -3,6 +3,7 @@
 #include "platform/SystemError.h"
 
 #include <cwchar>
+#include <utility>
 
 std::wstring Texts::LookUp(int64_t identifier) const {
     // String resources have 16-bit numbers.
@@ -25,6 +26,24 @@ std::wstring Texts::Compose(TextId row, const std::wstring& first, const std::ws
         } else {
             text += pattern[i];
         }
+    }
+    return text;
+}
+
+std::wstring Texts::SideName(Side side) const {
+    return (*this)(side == White ? TextId::PrintedWhite : TextId::PrintedBlack);
+}
+
+std::wstring Texts::Duration(int32_t seconds) const {
+    const std::pair<TextId, int32_t> parts[] = {{TextId::SpokenHour, seconds / 3600},
+                                                {TextId::SpokenMinute, seconds / 60 % 60},
+                                                {TextId::SpokenSecond, seconds % 60}};
+    std::wstring text;
+    for (const auto& [unit, count] : parts) {
+        // No time at all is no seconds.
+        if (count == 0 && (seconds != 0 || unit != TextId::SpokenSecond)) continue;
+        if (!text.empty()) text += L' ';
+        text += Compose(CountRow(unit, count, language), std::to_wstring(count));
     }
     return text;
 }

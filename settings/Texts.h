@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Side.h"
 #include "settings/TextIds.h"
 
 #include <windows.h>
@@ -19,6 +20,12 @@ class Texts {
 
     // Text of a row with its %1 and %2 replaced.
     std::wstring Compose(TextId row, const std::wstring& first, const std::wstring& second = {}) const;
+
+    // "White", "Black", for speech.
+    std::wstring SideName(Side side) const;
+
+    // A time in words, without the parts that are 0: "1 hour 5 seconds".
+    std::wstring Duration(int32_t seconds) const;
 
     // Why a call of the system failed.
     std::wstring Reason(DWORD code) const;

@@ -25,6 +25,8 @@ constexpr DialogItem ValueAt(int row) {
 }
 
 constexpr std::array Items{
+    KnightAt(0, 16, 20),
+    KnightAt(1, 16, 134),
     CaptionAt(0, TextId::CopyrightNotice),
     ValueAt(0),
     CaptionAt(1, TextId::ProgramName),
@@ -33,8 +35,6 @@ constexpr std::array Items{
     ValueAt(2),
     CaptionAt(3, TextId::LegalTrademarks),
     ValueAt(3),
-    KnightAt(0, 16, 20),
-    KnightAt(1, 16, 134),
     KnightAt(2, Width - 16 - Knight, 20),
     KnightAt(3, Width - 16 - Knight, 134),
 };

@@ -186,13 +186,11 @@ int frmSetup::PositionOf(int list) const {
 
 void frmSetup::ShowClockType() {
     const TypeRules rules = RulesOf(draft.ClockType);
-    const std::wstring moves = std::to_wstring(draft.MovesFirstPeriod);
-    SetText(lblFirstCaption, rules.moveAmount
-                                 ? captions(TextId::FirstTimeBefore) + moves + captions(TextId::FirstTimeAfter)
-                                 : captions(TextId::CompleteGameTime));
-    SetText(lblSecondCaption,
-            rules.secondPeriod ? captions(TextId::SecondTimeBefore) + moves + captions(TextId::SecondTimeAfter) : L"");
-    SetText(lblBonusCaption, rules.bonus ? captions(TextId::BonusTime) : L"");
+    SetText(lblFirstCaption, CaptionOf(Times[0]));
+    SetText(lblSecondCaption, rules.secondPeriod ? CaptionOf(Times[1]) : L"");
+    SetText(lblBonusCaption, rules.bonus ? CaptionOf(Times[2]) : L"");
+    SetVisible(lblSecondCaption, rules.secondPeriod);
+    SetVisible(lblBonusCaption, rules.bonus);
     for (Side side : BothSides) {
         for (int pair : {hsbSecondPeriod, lblSecondPeriod}) SetEnabled(ControlOf(pair, side), rules.secondPeriod);
         for (int pair : {hsbBonus, lblBonusValue}) SetEnabled(ControlOf(pair, side), rules.bonus);
@@ -201,6 +199,36 @@ void frmSetup::ShowClockType() {
     SetEnabled(lblBonusUnit, rules.bonus);
     SetEnabled(lblMoveAmount, rules.moveAmount);
     SetEnabled(cmbMoveAmount, rules.moveAmount);
+}
+
+std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
+    const std::wstring moves = std::to_wstring(draft.MovesFirstPeriod);
+    if (bars.bar == hsbBonus) return captions(TextId::BonusTime);
+    if (bars.bar == hsbSecondPeriod)
+        return captions(TextId::SecondTimeBefore) + moves + captions(TextId::SecondTimeAfter);
+    if (!RulesOf(draft.ClockType).moveAmount) return captions(TextId::CompleteGameTime);
+    return captions(TextId::FirstTimeBefore) + moves + captions(TextId::FirstTimeAfter);
+}
+
+// A bar's place says little: its time is said with it.
+std::wstring frmSetup::SpokenName(int id) const {
+    for (const TimeBars& bars : Times) {
+        for (Side side : BothSides) {
+            const std::wstring time = captions.Duration((draft.*bars.time)[side]);
+            if (id == ControlOf(bars.value, side)) return time;
+            if (id == ControlOf(bars.bar, side))
+                return CaptionOf(bars) + L", " + captions.SideName(side) + L", " + time;
+        }
+    }
+    switch (id) {
+        case lblFirstUnit:
+        case lblSecondUnit: return captions(TextId::TipHoursMinutes);
+        case lblBonusUnit: return captions(TextId::TipMinutesSeconds);
+        case cmbLanguage: return captions(TextId::LanguageGroup);  // that has no label
+        case cmdPreviewButton: return captions(TextId::ButtonSound) + L" " + captions(TextId::Preview);
+        case cmdPreviewFlag: return captions(TextId::FlagSound) + L" " + captions(TextId::Preview);
+        default: return {};
+    }
 }
 
 void frmSetup::ShowTime(const TimeBars& bars, Side side) {
@@ -338,7 +366,8 @@ void frmSetup::OnScroll(int bar, int request) {
             default: return;
         }
         seconds = std::clamp(value, bars.scale.least, bars.scale.most) * bars.unit;
-        return ShowTime(bars, static_cast<Side>(side));
+        ShowTime(bars, static_cast<Side>(side));
+        return TellSpokenName(bar);
     }
 }
 

@@ -34,6 +34,8 @@ class frmSetup : public Dialog {
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     int DefaultButton() const override;
 
+    std::wstring SpokenName(int id) const override;
+
     void FillLists();
     void SetToolTips();
 
@@ -41,6 +43,7 @@ class frmSetup : public Dialog {
     void ShowDraft();
     void ShowClockType();
     void ShowTime(const TimeBars& bars, Side side);
+    std::wstring CaptionOf(const TimeBars& bars) const;
 
     void OnCommand(int id, int notification);
     void OnListNotification(int id, int notification);

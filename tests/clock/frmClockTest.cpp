@@ -3,11 +3,15 @@
 #include "platform/Dpi.h"
 #include "resources/resource.h"
 #include "settings/SettingsFile.h"
+#include "tests/desktop/Accessibility.h"
 #include "tests/desktop/Desktop.h"
+#include "tests/desktop/HighContrast.h"
+#include "tests/desktop/TextFit.h"
 
 #include <gtest/gtest.h>
 
-// The clock window from inside: its menus, and whether every text fits its control.
+// The clock window from inside: its menus, whether every text fits its control, what screen readers say of it, and its
+// colours at high contrast.
 
 namespace {
 
@@ -35,6 +39,14 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         }
+    }
+
+    static bool PumpUntil(const std::function<bool()>& condition) {
+        return Eventually([&] {
+            MSG message;
+            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+            return condition();
+        });
     }
 
     void Resize(int width, int height) {
@@ -75,8 +87,9 @@ TEST_P(frmClockTest, EveryTextFitsItsControlAtEverySize) {
         {DesignWidth, DesignHeight}, {LeastWidth, LeastHeight}, {2 * DesignWidth, 2 * DesignHeight}};
     for (const auto& [width, height] : sizes) {
         SCOPED_TRACE(testing::Message() << width << " x " << height);
-        const int dpi = DpiOf(form->Window());
-        Resize(Scaled(width, dpi), Scaled(height, dpi));
+        // At 200% everything is twice as large, the type too.
+        ScaleTo(form->Window(), width > DesignWidth ? 192 : 96);
+        Resize(width, height);
         for (Side side : BothSides) {
             ExpectFits(ControlOf(lblSide, side), texts(side == White ? TextId::White : TextId::Black));
             ExpectFits(ControlOf(lblBlink, side), texts(TextId::ToMove));
@@ -154,6 +167,46 @@ TEST_P(frmClockTest, HeldKeyOfStartDoesNotRepeat) {
     EXPECT_EQ(send(1), L"1.");
     keys[VK_CONTROL] = 0;
     SetKeyboardState(keys);
+}
+
+TEST_P(frmClockTest, ScreenReadersNameEveryControlInReadingOrder) {
+    struct Names {
+        const wchar_t *white, *black, *button, *period;
+    };
+    const Names rows[] = {
+        {L"Beyaz, 1 saat 59 saniye", L"Siyah, 20 dakika", L"Beyaz, Hamleyi bitir", L"20 dakika"},
+        {L"White, 1 hour 59 seconds", L"Black, 20 minutes", L"White, End the move", L"20 minutes"},
+        {L"Blancs, 1 heure 59 secondes", L"Noirs, 20 minutes", L"Blancs, Terminer le coup", L"20 minutes"},
+    };
+    const Names& names = rows[GetParam() - 1];
+    const auto name = [&](int id) {
+        return SpokenName(GetDlgItem(form->Window(), id));
+    };
+    const auto expectAll = [&] {
+        ExpectNamed(form->Window());
+        ExpectReadingOrder(form->Window());
+    };
+    expectAll();
+    settings.PeriodLimit[White] = 3660;
+    settings.MoveBonus = {5, 5};
+    settingsFile.Save(settings);
+    SendMessageW(form->Window(), WM_COMMAND, mnuReset, 0);
+    SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);
+    ASSERT_TRUE(PumpUntil([&] { return name(lblFace) == names.white; })) << testing::PrintToString(name(lblFace));
+    EXPECT_EQ(name(lblFace + 1), names.black);
+    EXPECT_EQ(name(cmdClock), names.button);
+    EXPECT_EQ(name(lblPeriodTime), names.period);
+    expectAll();
+
+    SendMessageW(form->Window(), WM_COMMAND, mnuPause, 0);
+    expectAll();
+}
+
+TEST_P(frmClockTest, HighContrastTakesTheSystemsColours) {
+    const HighContrastOn contrast;
+    ExpectSystemColours(form->Window());
+    SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);
+    ExpectSystemColours(form->Window());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, frmClockTest, testing::Values(Turkish, English, French));

@@ -15,7 +15,6 @@ TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     const HWND scorlet = run.WaitWindow(L"frmScorlet");
     ASSERT_TRUE(scorlet);
     run.Click(ControlOf(cmdClock, White));
-    EXPECT_TRUE(Eventually([&] { return Exists(CaptureFile()); })) << "the silent button sound is played too";
     ASSERT_TRUE(Eventually([&] { return run.Seconds(White) <= 3; }, 70000)) << run.Seconds(White);
     EXPECT_EQ(LoudSamples(), 0u) << "the button sound is NOSOUND";
 

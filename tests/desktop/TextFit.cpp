@@ -1,5 +1,6 @@
 #include "tests/desktop/TextFit.h"
 
+#include "platform/Dpi.h"
 #include "platform/Handles.h"
 
 #include <gtest/gtest.h>
@@ -52,6 +53,15 @@ void ExpectFitsControl(HWND control) {
 void ExpectTextsFit(HWND form) {
     for (HWND control = GetWindow(form, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT))
         ExpectFitsControl(control);
+}
+
+void ScaleTo(HWND window, int dpi) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    const int from = DpiOf(window);
+    area.right = area.left + MulDiv(area.right - area.left, dpi, from);
+    area.bottom = area.top + MulDiv(area.bottom - area.top, dpi, from);
+    SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&area));
 }
 
 SIZE SizeOfText(HWND control, const std::wstring& text, int wrappedWidth) {

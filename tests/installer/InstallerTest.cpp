@@ -67,10 +67,25 @@ bool Uninstalled() {
     return Eventually([] { return Listed(L"DisplayName").empty(); });
 }
 
-// Stands for a game saved in the program, until a test drives its dialog: the files are the installer's concern here.
-void SaveGame(const std::wstring& folder) {
+// Puts a file where the program keeps its games: what it holds is no matter of the installer's.
+void PutGame(const std::wstring& folder) {
     CreateDirectoryW((folder + L"SavedGames").c_str(), nullptr);
     WriteFileText(folder + L"SavedGames\\kept.bin", "a game");
+}
+
+// Pauses the running game and saves it as "kept", by mouse and keys.
+void SaveRunningGame(ProgramRun& run) {
+    run.Click(ControlOf(cmdPause, White));
+    ASSERT_TRUE(Eventually([&] { return run.Text(cmdPause) == L"Resume"; }));
+    constexpr int gameMenu = 0, saveEntry = 2;
+    run.Choose(gameMenu, saveEntry);
+    const HWND files = run.WaitWindow(L"frmFiles");
+    ASSERT_TRUE(Eventually([&] { return run.Focused() == txtGameName; }));
+    for (WORD key : {'K', 'E', 'P', 'T'}) run.Key(key);
+    ASSERT_TRUE(Eventually([&] { return TextOf(GetDlgItem(files, txtGameName)) == L"kept"; }));
+    run.Key(VK_RETURN);
+    run.Answer(IDYES);
+    ASSERT_TRUE(Eventually([&] { return !IsWindow(files); }));
 }
 
 void ExpectNoProgramFiles(const std::wstring& folder) {
@@ -79,8 +94,8 @@ void ExpectNoProgramFiles(const std::wstring& folder) {
     EXPECT_FALSE(Exists(StartMenuEntry()));
 }
 
-void ExpectKept(const std::wstring& folder) {
-    EXPECT_EQ(ReadFileText(folder + L"SavedGames\\kept.bin"), "a game");
+void ExpectKept(const std::wstring& folder, const std::string& game = "a game") {
+    EXPECT_EQ(ReadFileText(folder + L"SavedGames\\kept.bin"), game);
     EXPECT_TRUE(Exists(folder + L"Data\\TORVANIX.set"));
 }
 
@@ -96,11 +111,14 @@ TEST(InstallerTest, InstalledProgramIsPlayedAndItsGamesOutliveIt) {
     EXPECT_EQ(Listed(L"UninstallString"), L"\"" + folder + L"Uninstall.exe\"");
 
     WriteSettingsFile(folder, QuietSettings());
-    SaveGame(folder);
+    std::string game;
     {
         ProgramRun run(folder + L"torvanix.exe");
         run.Click(ControlOf(cmdClock, Black));
         EXPECT_TRUE(Eventually([&] { return run.Text(lblMoveCount) == L"1."; }));
+        SaveRunningGame(run);
+        game = ReadFileText(folder + L"SavedGames\\kept.bin");
+        EXPECT_FALSE(game.empty());
         EXPECT_EQ(Install(), 2u) << "over the running program";
         EXPECT_EQ(Execute(L"\"" + folder + L"Uninstall.exe\" /S _?=" + folder), 2u) << "while it runs";
         EXPECT_TRUE(Exists(folder + L"TORVANIX.chm") && !Listed(L"DisplayName").empty());
@@ -108,19 +126,19 @@ TEST(InstallerTest, InstalledProgramIsPlayedAndItsGamesOutliveIt) {
     }
     EXPECT_EQ(Install(), 0u) << "over itself";
     EXPECT_EQ(Listed(L"UninstallString"), L"\"" + folder + L"Uninstall.exe\"");
-    ExpectKept(folder);
+    ExpectKept(folder, game);
 
     StartUninstalling(folder, L"/S");
     EXPECT_TRUE(Uninstalled());
     ExpectNoProgramFiles(folder);
-    ExpectKept(folder);
+    ExpectKept(folder, game);
 }
 
 TEST(InstallerTest, UninstallingByHandKeepsTheGamesUnlessTheyAreTicked) {
     const std::wstring folder = UserFolder();
     ASSERT_EQ(Install(), 0u);
     WriteSettingsFile(folder, QuietSettings());
-    SaveGame(folder);
+    PutGame(folder);
     StartUninstalling(folder, L"");
     HWND window = nullptr;
     ASSERT_TRUE(Eventually([&] { return (window = FindWindowW(nullptr, L"TORVANIX Uninstall ")) != nullptr; }));
@@ -144,7 +162,7 @@ TEST(InstallerTest, RemovalSwitchTakesTheGamesAndNothingOfTheUsers) {
     ASSERT_EQ(Install(L" /D=" + folder.substr(0, folder.size() - 1)), 0u);
     EXPECT_EQ(Listed(L"InstallLocation") + L"\\", folder);
     WriteSettingsFile(folder, QuietSettings());
-    SaveGame(folder);
+    PutGame(folder);
     WriteFileText(folder + L"Data\\notes.txt", "the user's own");
     StartUninstalling(folder, L"/S /REMOVEGAMES");
     EXPECT_TRUE(Uninstalled());
@@ -155,7 +173,7 @@ TEST(InstallerTest, RemovalSwitchTakesTheGamesAndNothingOfTheUsers) {
 
     ASSERT_EQ(Install(L" /D=" + folder.substr(0, folder.size() - 1)), 0u);
     DeleteFileW((folder + L"Data\\notes.txt").c_str());
-    SaveGame(folder);
+    PutGame(folder);
     StartUninstalling(folder, L"/S /REMOVEGAMES");
     EXPECT_TRUE(Uninstalled());
     EXPECT_FALSE(Exists(folder)) << "the empty folder stays";

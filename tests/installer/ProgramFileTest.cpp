@@ -11,7 +11,7 @@
 
 namespace {
 
-// The libraries that Windows keeps loaded from 7 on (the list KnownDLLs of the session manager in the registry): the
+// The libraries that Windows keeps loaded from 7 on (the list KnownDLLs in the registry): the
 // loader takes these, and what they bind, from the system folder whatever lies beside the program.
 const std::set<std::string> KeptLoaded{"advapi32.dll", "comdlg32.dll", "gdi32.dll",   "imm32.dll",
                                        "kernel32.dll", "msvcrt.dll",   "ole32.dll",   "oleaut32.dll",

@@ -33,6 +33,23 @@ TEST(BoardInputTest, CapturedPieceIsPutBackOnEmptySquaresOnly) {
     EXPECT_EQ(recorder.SideToMove(), Black) << "no move";
 }
 
+TEST(BoardInputTest, CapturedPiecesArePickedInTurn) {
+    Recorder recorder;
+    BoardInput input(recorder);
+    input.PickNextCaptured();
+    EXPECT_FALSE(input.PiecePicked()) << "none is captured";
+    const Piece queen = PieceOf(White, PieceKind::Queen), pawn = PieceOf(Black, PieceKind::Pawn);
+    recorder.Play(SquareAt(5, 2), SquareAt(5, 7));
+    recorder.Play(SquareAt(4, 2), SquareAt(4, 7));
+    recorder.Play(SquareAt(5, 8), SquareAt(4, 1));
+    for (const TraySlot& slot : {TraySlot{queen, 0}, TraySlot{pawn, 0}, TraySlot{pawn, 1}}) {
+        input.PickNextCaptured();
+        EXPECT_EQ(input.Captured(), slot);
+    }
+    input.PickNextCaptured();
+    EXPECT_FALSE(input.PiecePicked());
+}
+
 TEST(TypedMoveTest, KeysAndChanges) {
     TypedMove typed;
     for (wchar_t key :

@@ -6,12 +6,15 @@
 #include "platform/Dpi.h"
 #include "resources/Version.h"
 #include "resources/resource.h"
+#include "tests/desktop/Accessibility.h"
 #include "tests/desktop/Desktop.h"
+#include "tests/desktop/HighContrast.h"
 #include "tests/desktop/TextFit.h"
 
 #include <gtest/gtest.h>
 
-// The dialogs from inside: whether every text fits its control, at each scaling.
+// The dialogs from inside: whether every text fits its control at each scaling, what screen readers say of them, and
+// their colours at high contrast.
 
 namespace {
 
@@ -21,23 +24,17 @@ class DialogsTest : public testing::TestWithParam<int32_t> {
     Texts texts{(settings.LanguageIndex = GetParam(), settings.LanguageIndex)};
     MessageBoxes messageBoxes{texts};
 
-    // What the system sends when the window comes to a screen of another resolution.
-    static void Scale(HWND window, int dpi) {
-        RECT area{};
-        GetWindowRect(window, &area);
-        const int from = DpiOf(window);
-        area.right = area.left + MulDiv(area.right - area.left, dpi, from);
-        area.bottom = area.top + MulDiv(area.bottom - area.top, dpi, from);
-        SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&area));
-    }
-
-    template <typename Check>
-    static void AtEachScaling(HWND window, Check check) {
+    static void ExpectWellMade(HWND dialog) {
+        ExpectNamed(dialog);
         for (int dpi : {96, 144, 192}) {
             SCOPED_TRACE(dpi);
-            Scale(window, dpi);
-            check();
+            ScaleTo(dialog, dpi);
+            ExpectTextsFit(dialog);
+            ExpectReadingOrder(dialog);
         }
+        ShowWindow(dialog, SW_SHOWNA);
+        const HighContrastOn contrast;
+        ExpectSystemColours(dialog);
     }
 };
 
@@ -52,7 +49,7 @@ TEST_P(DialogsTest, SetupTextsFitInEveryClockType) {
         settings.MovesFirstPeriod = 100;
         frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});
         setup.Open(nullptr);
-        AtEachScaling(setup.Window(), [&] { ExpectTextsFit(setup.Window()); });
+        ExpectWellMade(setup.Window());
     }
 }
 
@@ -64,7 +61,7 @@ TEST_P(DialogsTest, AboutShowsTheVersionResourceWhole) {
     EXPECT_EQ(TextOf(about.Control(lblAboutValue + 1)), L"TORVANIX");
     EXPECT_EQ(TextOf(about.Control(lblAboutValue + 2)), FromAnsi(TORVANIX_VERSION));
     EXPECT_NE(TextOf(about.Control(lblAboutValue + 3)).find(L"©"), std::wstring::npos);
-    AtEachScaling(about.Window(), [&] { ExpectTextsFit(about.Window()); });
+    ExpectWellMade(about.Window());
 }
 
 TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
@@ -81,8 +78,33 @@ TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
     for (FilesMode mode : {FilesMode::Load, FilesMode::Save, FilesMode::Delete}) {
         frmFiles files(texts, messageBoxes, 0xBFBFBF, games, host, mode);
         files.Open(nullptr);
-        AtEachScaling(files.Window(), [&] { ExpectTextsFit(files.Window()); });
+        ExpectWellMade(files.Window());
     }
+}
+
+TEST_P(DialogsTest, SetupNamesItsBarsByWhatTheySet) {
+    struct Names {
+        const wchar_t *first, *bonus, *language, *preview;
+    };
+    const Names rows[] = {
+        {L"İlk 40 hamlenin süresi, Beyaz, 20 dakika", L"Hamle başına ek süre, Siyah, 7 saniye", L"DİL",
+         L"Bayrak sesi: Dinle"},
+        {L"Time for first 40 moves, White, 20 minutes", L"Bonus time for each move, Black, 7 seconds", L"LANGUAGE",
+         L"Flag Sound : Preview"},
+        {L"Temps pour les 40 premiers coups, Blancs, 20 minutes", L"Incrément par coup, Noirs, 7 secondes", L"LANGUE",
+         L"Son du drapeau\u00A0: Écouter"},
+    };
+    const Names& names = rows[GetParam() - 1];
+    const TestFolder folder;
+    const SettingsFile file(folder.Path());
+    settings.SetClockType(2);
+    settings.MoveBonus = {7, 7};
+    frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});
+    setup.Open(nullptr);
+    EXPECT_EQ(SpokenName(setup.Control(hsbFirstPeriod)), names.first);
+    EXPECT_EQ(SpokenName(setup.Control(hsbBonus + 1)), names.bonus);
+    EXPECT_EQ(SpokenName(setup.Control(cmbLanguage)), names.language);
+    EXPECT_EQ(SpokenName(setup.Control(cmdPreviewFlag)), names.preview);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DialogsTest, testing::Values(Turkish, English, French));

@@ -68,6 +68,27 @@ TEST(ResourcesTest, MessagesAreComposedInAnyOrderOfTheirParts) {
     EXPECT_EQ(texts.Reason(1234), L"system error 1234");
 }
 
+TEST(ResourcesTest, TimesInWordsCountAsTheirLanguageDoes) {
+    struct Row {
+        int32_t seconds;
+        const wchar_t *turkish, *english, *french;
+    };
+    const Row rows[] = {
+        {0, L"0 saniye", L"0 seconds", L"0 seconde"},
+        {1199, L"19 dakika 59 saniye", L"19 minutes 59 seconds", L"19 minutes 59 secondes"},
+        {3661, L"1 saat 1 dakika 1 saniye", L"1 hour 1 minute 1 second", L"1 heure 1 minute 1 seconde"},
+        {360000, L"100 saat", L"100 hours", L"100 heures"},
+    };
+    int32_t language = Turkish;
+    const Texts texts(language);
+    for (const Row& row : rows) {
+        for (const wchar_t* wanted : {row.turkish, row.english, row.french}) {
+            EXPECT_EQ(texts.Duration(row.seconds), wanted);
+            language = language % 3 + 1;
+        }
+    }
+}
+
 TEST(ResourcesTest, EveryPictureLoadsWithItsTransparency) {
     const size_t before = TemporaryFiles();
     for (const char* name : {"WK", "WQ", "WR",  "WB",  "WN", "WP", "BK", "BQ", "BR",     "BB",
