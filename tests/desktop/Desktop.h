@@ -97,6 +97,7 @@ class ProgramRun {
     bool Close();
     bool WaitEnd(int milliseconds = 10000) const;
     DWORD ExitCode() const;
+    HANDLE Process() const { return process.get(); }
 
   private:
     UniqueFile process;
