@@ -54,21 +54,20 @@ size_t GdiObjects(HANDLE process) {
         std::count_if(entries.begin(), entries.end(), [](const GdiEntry& entry) { return entry.type != 0; }));
 }
 
-// New objects fill the gaps of the table first. Once they do not any more, the highest number less the objects made
-// here is what others hold.
+// New objects fill the gaps of the table before one lands behind all others, which its generation tells: the high word,
+// 1 at first and more in an entry that has been used before.
 size_t UserObjects(HANDLE process) {
     if (const DWORD counted = GetGuiResources(process, GR_USEROBJECTS)) return counted;
-    constexpr size_t made = 2000;
-    std::array<HMENU, made> menus{};
-    size_t highest = 0;
-    for (HMENU& menu : menus) {
-        menu = CreateMenu();
-        highest = std::max(highest, reinterpret_cast<size_t>(menu) & 0xFFFF);
-    }
-    EXPECT_EQ(reinterpret_cast<size_t>(menus.back()) & 0xFFFF, highest) << "there are more gaps than that";
+    constexpr size_t first = 0x20, most = 0x8000;  // numbers are even and begin at this one
+    std::vector<HMENU> menus;
+    size_t entry = 0;
+    do {
+        menus.push_back(CreateMenu());
+        entry = reinterpret_cast<size_t>(menus.back());
+    } while (entry >> 16 != 1 && menus.size() < most);
+    EXPECT_EQ(entry >> 16, 1u) << "the USER objects cannot be counted";
     for (HMENU menu : menus) DestroyMenu(menu);
-    constexpr size_t first = 0x20;  // numbers are even, from this one on
-    return (highest - first) / 2 + 1 - made;
+    return ((entry & 0xFFFF) - first) / 2 + 1 - menus.size();
 }
 
 size_t Handles(HANDLE process) {
