@@ -75,6 +75,9 @@ start_virtual_display() {
 # device that writes what is played to the file of TORVANIX_SOUND_CAPTURE. Whoever opens it ends it by wineserver -k.
 open_test_desktop() {
     use_own_wine "$1"
+    # It stays open between the programs, and opens while the rest is set up: a program that starts at the same time could
+    # get another one.
+    wine explorer.exe /desktop=tests,1600x1000 >/dev/null 2>&1 &
     # Every window of this prefix opens on one desktop with real title bars.
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d tests /f >/dev/null
     wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v tests /d 1600x1000 /f >/dev/null
@@ -92,7 +95,4 @@ ctl.!default { type hw card 0 }
 EOF
     wine reg add 'HKCU\Software\Wine\Drivers' /v Audio /d alsa /f >/dev/null
     export TORVANIX_SOUND_CAPTURE="Z:${capture//\//\\}"
-
-    # The desktop stays open between the programs.
-    wine explorer.exe /desktop=tests,1600x1000 >/dev/null 2>&1 &
 }
