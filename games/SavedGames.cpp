@@ -53,7 +53,8 @@ void SavedGames::SaveGame(const std::wstring& name, const GameFiles& files) cons
     MakeFolder(folder);
     std::vector<FileBeside> written;
     std::vector<std::pair<std::wstring, std::optional<std::vector<uint8_t>>>> replaced;
-    for (GameFile file : AllGameFiles) {
+    // The clock file last: when the program is killed in between, a new game is not there yet.
+    for (GameFile file : {DiagramFile, MovesFile, PgnFile, ClockFile}) {
         if (!files[file]) continue;
         const std::wstring path = PathOf(name, file);
         std::string bytes = *files[file];

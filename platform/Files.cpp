@@ -88,14 +88,17 @@ FileBeside::FileBeside(const std::wstring& path, std::string_view bytes) : path(
     ExpectReplaceable(path);
     UniqueFile file = Open(Beside(path), GENERIC_WRITE, 0, CREATE_ALWAYS);
     if (!file) throw SystemError(GetLastError(), path);
-    DWORD written = 0;
-    const bool complete = WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-                          written == bytes.size() && FlushFileBuffers(file.get());
-    if (complete) return;
-    const DWORD code = GetLastError();
+    DWORD written = 0, code = ERROR_SUCCESS;
+    if (!WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
+        code = GetLastError();
+    else if (written < bytes.size())
+        code = ERROR_DISK_FULL;  // a disk that takes a part says no more than that
+    else if (!FlushFileBuffers(file.get()))
+        code = GetLastError();
+    if (code == ERROR_SUCCESS) return;
     file.reset();
     DeleteFileW(Beside(path).c_str());
-    throw SystemError(code == ERROR_SUCCESS ? ERROR_DISK_FULL : code, path);
+    throw SystemError(code, path);
 }
 
 FileBeside::~FileBeside() {

@@ -70,3 +70,29 @@ start_virtual_display() {
     export DISPLAY=:$(cat "$number_file")
     rm -f "$number_file"
 }
+
+# A Wine prefix by name for programs that test windows, with its desktop open on the display of DISPLAY and with a sound
+# device that writes what is played to the file of TORVANIX_SOUND_CAPTURE. Whoever opens it ends it by wineserver -k.
+open_test_desktop() {
+    use_own_wine "$1"
+    # It stays open between the programs, and opens while the rest is set up: a program that starts at the same time could
+    # get another one.
+    wine explorer.exe /desktop=tests,1600x1000 >/dev/null 2>&1 &
+    # Every window of this prefix opens on one desktop with real title bars.
+    wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d tests /f >/dev/null
+    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v tests /d 1600x1000 /f >/dev/null
+
+    wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
+
+    # What is played lands in a file, by way of a sound device that this configuration makes.
+    export ALSA_CONFIG_PATH=$PWD/build/asound.conf
+    capture=$PWD/build/sound.raw
+    rm -f "$capture"
+    cat >"$ALSA_CONFIG_PATH" <<EOF
+</usr/share/alsa/alsa.conf>
+pcm.!default { type file slave.pcm "null" file "$capture" format "raw" }
+ctl.!default { type hw card 0 }
+EOF
+    wine reg add 'HKCU\Software\Wine\Drivers' /v Audio /d alsa /f >/dev/null
+    export TORVANIX_SOUND_CAPTURE="Z:${capture//\//\\}"
+}

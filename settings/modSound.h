@@ -8,8 +8,8 @@ namespace modSound {
 // No default sound in place of one that is missing, and the sound is an image in memory.
 inline constexpr UINT DefaultFlags = 6;
 
-// Plays the resource of that name and returns when it has ended; a wave of silence ends at once. Silent when there is no
-// such resource or no device to play on. `flags` as for sndPlaySound; the memory flag is always added.
+// Plays the resource of that name and returns when it has ended; a wave of silence ends at once. Silent when there is
+// no such resource or no device to play on. `flags` as for sndPlaySound; the memory flag is always added.
 void Play(const char* resourceName, UINT flags = DefaultFlags);
 
 }  // namespace modSound

@@ -133,6 +133,30 @@ size_t LoudSamples() {
     return count;
 }
 
+NoSoundDevice::NoSoundDevice() {
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", 0, KEY_QUERY_VALUE | KEY_SET_VALUE, &drivers) != 0)
+        return;
+    std::array<wchar_t, 64> value{};
+    DWORD bytes = sizeof(value) - sizeof(wchar_t);
+    RegQueryValueExW(drivers, L"Audio", nullptr, nullptr, reinterpret_cast<BYTE*>(value.data()), &bytes);
+    before = value.data();
+    RegSetValueExW(drivers, L"Audio", 0, REG_SZ, reinterpret_cast<const BYTE*>(L""), sizeof(wchar_t));
+}
+
+NoSoundDevice::~NoSoundDevice() {
+    if (!drivers) return;
+    RegSetValueExW(drivers, L"Audio", 0, REG_SZ, reinterpret_cast<const BYTE*>(before.c_str()),
+                   static_cast<DWORD>((before.size() + 1) * sizeof(wchar_t)));
+    RegCloseKey(drivers);
+}
+
+HiddenFile::HiddenFile(std::wstring path)
+    : path(std::move(path)), renamed(MoveFileW(this->path.c_str(), (this->path + L".away").c_str()) != 0) {}
+
+HiddenFile::~HiddenFile() {
+    if (renamed) MoveFileW((path + L".away").c_str(), path.c_str());
+}
+
 Settings QuietSettings() {
     Settings settings;
     settings.SetButtonSound(0);

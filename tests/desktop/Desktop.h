@@ -49,6 +49,33 @@ std::wstring CaptureFile();
 // Samples of the last sound played that are not silence: every sound begins the 16-bit stream anew.
 size_t LoudSamples();
 
+// Programs that start within the scope find no sound device. Only Wine can be told so; elsewhere they find what there
+// is.
+class NoSoundDevice {
+  public:
+    NoSoundDevice();
+    ~NoSoundDevice();
+    NoSoundDevice(const NoSoundDevice&) = delete;
+    NoSoundDevice& operator=(const NoSoundDevice&) = delete;
+
+  private:
+    HKEY drivers = nullptr;
+    std::wstring before;
+};
+
+// A file that is renamed for the life of the scope.
+class HiddenFile {
+  public:
+    explicit HiddenFile(std::wstring path);
+    ~HiddenFile();
+    HiddenFile(const HiddenFile&) = delete;
+    HiddenFile& operator=(const HiddenFile&) = delete;
+
+  private:
+    std::wstring path;
+    bool renamed;
+};
+
 // The DEFAULT preset without sounds and without the Scorlet.
 Settings QuietSettings();
 // The settings file of a program in that folder.
@@ -97,6 +124,7 @@ class ProgramRun {
     bool Close();
     bool WaitEnd(int milliseconds = 10000) const;
     DWORD ExitCode() const;
+    HANDLE Process() const { return process.get(); }
 
   private:
     UniqueFile process;

@@ -10,23 +10,6 @@ constexpr wchar_t ViewerClass[] = L"HH Parent";
 
 HWND Viewer() { return FindWindowW(ViewerClass, nullptr); }
 
-// Renames a file for the life of the scope.
-class Hidden {
-  public:
-    explicit Hidden(std::wstring path) : path(std::move(path)) {
-        renamed = MoveFileW(this->path.c_str(), (this->path + L".away").c_str()) != 0;
-    }
-    ~Hidden() {
-        if (renamed) MoveFileW((path + L".away").c_str(), path.c_str());
-    }
-    Hidden(const Hidden&) = delete;
-    Hidden& operator=(const Hidden&) = delete;
-
-  private:
-    std::wstring path;
-    bool renamed;
-};
-
 }  // namespace
 
 TEST(HelpTest, OpensPagesInOneViewerThatEndsWithTheProgram) {
@@ -60,7 +43,7 @@ TEST(HelpTest, MissingViewerIsNamed) {
     wchar_t windows[MAX_PATH], system[MAX_PATH];
     GetWindowsDirectoryW(windows, MAX_PATH);
     GetSystemDirectoryW(system, MAX_PATH);
-    const Hidden first(std::wstring(windows) + L"\\hh.exe"), second(std::wstring(system) + L"\\hh.exe");
+    const HiddenFile first(std::wstring(windows) + L"\\hh.exe"), second(std::wstring(system) + L"\\hh.exe");
     const TestFolder folder;
     ProgramRun run(folder, QuietSettings());
     ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+// What a process holds. Where the system counts GDI objects, USER objects or handles for its programs, these are its
+// figures. Wine 8 answers 0 to all three, and there they are counted where it keeps them: GDI objects in the table of
+// the process, handles in the server's list, and USER objects by the numbers that new ones get, which counts those of
+// all programs of the prefix together.
+struct Resources {
+    size_t gdi = 0, user = 0, handles = 0;
+    size_t privateBytes = 0;
+    size_t temporaryFiles = 0;  // entries of the folder for temporary files, of whatever program
+
+    std::string Text() const;
+};
+
+// `process` needs the rights to query it and to read its memory.
+Resources CountResources(HANDLE process);
