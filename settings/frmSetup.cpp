@@ -214,7 +214,7 @@ std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
 std::wstring frmSetup::SpokenName(int id) const {
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) {
-            const std::wstring time = captions.Duration((draft.*bars.time)[side]);
+            std::wstring time = captions.Duration((draft.*bars.time)[side]);
             if (id == ControlOf(bars.value, side)) return time;
             if (id == ControlOf(bars.bar, side))
                 return CaptionOf(bars) + L", " + captions.SideName(side) + L", " + time;
