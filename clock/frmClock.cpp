@@ -2,6 +2,7 @@
 
 #include "clock/ClockMenu.h"
 #include "platform/Dpi.h"
+#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "resources/resource.h"
 #include "settings/frmAbout.h"
@@ -53,7 +54,7 @@ void frmClock::Open() {
     accelerators = MakeClockAccelerators();
     panels.Create();
     for (int id = cmdClock; id <= cmdPause + 1; ++id)
-        SetWindowSubclass(Control(id), ButtonProcedure, static_cast<UINT_PTR>(id), reinterpret_cast<DWORD_PTR>(this));
+        Subclass<ButtonProcedure>(Control(id), this, static_cast<UINT_PTR>(id));
     LoadPictures();
     SetMenu(Window(), MakeClockMenu(captions));
     panels.ApplyTexts();

@@ -1,6 +1,7 @@
 #include "games/frmFiles.h"
 
 #include "games/GameMessages.h"
+#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "resources/resource.h"
 
@@ -58,7 +59,7 @@ void frmFiles::Open(HWND owner) {
     Create(owner, L"frmFiles", Of(mode).title, L"DISKETTE.ICO", Width, Height, Items);
     for (const ModeTexts& texts : Modes) SetVisible(texts.button, texts.button == Of(mode).button);
     SetText(lblHint, captions(Of(mode).hint));
-    SetWindowSubclass(Control(txtGameName), NameProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    Subclass<NameProcedure>(Control(txtGameName), this);
     toolTips.Create();
     FillGameList();
 }

@@ -62,6 +62,7 @@ LRESULT CALLBACK Form::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         form->window = nullptr;
+        form->controls.clear();
         return DefWindowProcW(window, message, wParam, lParam);
     }
     // An exception must not reach the system, which calls this.
@@ -91,7 +92,13 @@ HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     if (!control) throw SystemError(GetLastError(), kind);
     SpeakWithForm(control);
+    controls[id] = control;
     return control;
+}
+
+HWND Form::Control(int id) const {
+    const auto found = controls.find(id);
+    return found != controls.end() ? found->second : nullptr;
 }
 
 std::wstring Form::Text(int id) const {
@@ -99,6 +106,12 @@ std::wstring Form::Text(int id) const {
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(control)), L'\0');
     GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1);
     return text;
+}
+
+void Form::SetVisible(int id, bool visible) const {
+    const HWND control = Control(id);
+    const bool now = GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE;
+    if (visible != now) ShowWindow(control, visible ? SW_SHOWNA : SW_HIDE);
 }
 
 std::wstring Form::SpokenNameOf(HWND control) {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <map>
 #include <string>
 
 // What the taskbar leaves of the screen that a window is on.
@@ -27,10 +28,11 @@ class Form {
     // A child window that screen readers know by its SpokenName. Throws SystemError.
     HWND AddControl(const wchar_t* kind, int id, DWORD style);
 
-    HWND Control(int id) const { return GetDlgItem(window, id); }
+    // Null for none. The form's own record: the system would go through all controls of the window.
+    HWND Control(int id) const;
     std::wstring Text(int id) const;
     void SetText(int id, const std::wstring& text) const;
-    void SetVisible(int id, bool visible) const { ShowWindow(Control(id), visible ? SW_SHOWNA : SW_HIDE); }
+    void SetVisible(int id, bool visible) const;
     void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }
 
     // SpokenName of a control of a form; empty where there is none any more.
@@ -72,5 +74,6 @@ class Form {
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND window = nullptr;
+    std::map<int, HWND> controls;
     int dpi = 96;
 };

@@ -3,7 +3,6 @@
 #include "platform/Form.h"
 #include "platform/Handles.h"
 
-#include <commctrl.h>
 #include <oleacc.h>
 
 #include <new>
@@ -122,7 +121,7 @@ LRESULT AccessibleOf(HWND control, WPARAM wParam) {
     return LresultFromObject(AccessibleId, wParam, named.get());
 }
 
-LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
     // The upper half of the parameter is not set in the same way everywhere.
     if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == static_cast<LONG>(OBJID_CLIENT)) {
         try {
@@ -131,9 +130,11 @@ LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wParam, LPARAM lPa
             // The system's own answer then.
         }
     }
-    return DefSubclassProc(control, message, wParam, lParam);
+    // Its class never changes, and a subclass of the common controls would be looked up at each message.
+    const auto own = reinterpret_cast<WNDPROC>(GetClassLongPtrW(control, GCLP_WNDPROC));
+    return CallWindowProcW(own, control, message, wParam, lParam);
 }
 
 }  // namespace
 
-void SpeakWithForm(HWND control) { SetWindowSubclass(control, Procedure, 0, 0); }
+void SpeakWithForm(HWND control) { SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)); }

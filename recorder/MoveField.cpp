@@ -1,5 +1,6 @@
 #include "recorder/MoveField.h"
 
+#include "platform/Subclass.h"
 #include "resources/resource.h"
 
 #include <commctrl.h>
@@ -8,7 +9,7 @@ void MoveField::Create(UINT message) {
     endMessage = message;
     const HWND field = form.AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
     form.AddControl(WC_BUTTONW, cmdOK, WS_TABSTOP | BS_PUSHBUTTON);
-    SetWindowSubclass(field, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    Subclass<Procedure>(field, this);
     toolTips.Create();
 }
 

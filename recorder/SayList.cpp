@@ -1,12 +1,13 @@
 #include "recorder/SayList.h"
 
+#include "platform/Subclass.h"
 #include "resources/resource.h"
 
 #include <commctrl.h>
 
 void SayList::Create() {
     const HWND list = form.AddControl(WC_COMBOBOXW, cmbSay, WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST);
-    SetWindowSubclass(list, Procedure, 0, 0);
+    Subclass<Procedure>(list);
 }
 
 void SayList::ApplyTexts(const Texts& texts) const {

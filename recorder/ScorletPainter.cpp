@@ -77,21 +77,21 @@ void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayo
     }
 }
 
-void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, Piece piece, const CellMarks& marks) const {
+void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const {
     const Buffered buffer(item);
     RECT area = buffer.Area();
     const bool light = (FileOf(square) + RankOf(square)) % 2 != 0;
-    if (marks.lastMove)
+    if (look.lastMove)
         Fill(buffer.Dc(), area, light ? LightLast : DarkLast);
     else
         Fill(buffer.Dc(), area, light ? LightSquare : DarkSquare);
     if (!light && HighContrast()) Hatch(buffer.Dc(), area);
 
     const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
-    if (marks.lastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
-    if (marks.origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
-    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, size);
-    if (marks.cursor) {
+    if (look.lastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
+    if (look.origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
+    pieces[static_cast<size_t>(look.piece)].Draw(buffer.Dc(), 0, 0, size);
+    if (look.cursor) {
         InflateRect(&area, -thickness, -thickness);
         SetTextColor(buffer.Dc(), RGB(0, 0, 0));
         DrawFocusRect(buffer.Dc(), &area);

@@ -10,11 +10,14 @@
 
 #include <array>
 
-// How a square is shown beside its piece.
-struct CellMarks {
+// What a square shows.
+struct CellLook {
+    Piece piece;
     bool origin;    // picked
     bool lastMove;  // where the last move began or ended
     bool cursor;    // of the keys
+
+    bool operator==(const CellLook&) const = default;
 };
 
 // How the Scorlet looks: its colours, type and pictures.
@@ -29,7 +32,7 @@ class ScorletPainter {
     HBRUSH BackgroundBrush() const { return GetSysColorBrush(COLOR_BTNFACE); }
 
     void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
-    void DrawCell(const DRAWITEMSTRUCT& item, Square square, Piece piece, const CellMarks& marks) const;
+    void DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const;
     void DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const;
     void DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const;
 

@@ -2,6 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/Dpi.h"
+#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "recorder/SpokenBoard.h"
 #include "resources/resource.h"
@@ -85,7 +86,7 @@ void frmScorlet::CreateControls() {
     field.Create(WM_ENDEDIT);
     AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
-    SetWindowSubclass(Control(picBoard), BoardProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    Subclass<BoardProcedure>(Control(picBoard), this);
 }
 
 void frmScorlet::ApplyTexts() {
@@ -153,13 +154,18 @@ void frmScorlet::TopUpMoveLists() { ShowAdded(recorder.TopUpMoveLists(host.MoveC
 
 void frmScorlet::ShowBoard() {
     ForEachSquare([&](Square square) {
-        SetText(CellOf(square), FromAnsi(PieceCode(recorder.Position().At(square))));
+        std::optional<CellLook>& shown = shownCells[static_cast<size_t>(square)];
+        const CellLook look = LookOf(square);
+        if (look == shown) return;
+        shown = look;
+        SetText(CellOf(square), FromAnsi(PieceCode(look.piece)));
         InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
     });
     for (int i = 0; i < 2 * CapturedSlots; ++i) {
         const auto [piece, slot] = SlotOf(i);
-        SetVisible(imgCapturedWQ + i, recorder.Position().CapturedShown(piece, slot));
-        InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
+        const bool shown = recorder.Position().CapturedShown(piece, slot);
+        SetVisible(imgCapturedWQ + i, shown);
+        if (shown) InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
     }
 }
 
@@ -385,13 +391,19 @@ void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     }
     if (!IsCell(id)) return;
     const auto square = static_cast<Square>(id - picBoard);
+    CellLook look = LookOf(square);
+    look.cursor = look.cursor && GetFocus() == Control(picBoard);
+    painter.DrawCell(item, square, look);
+}
+
+CellLook frmScorlet::LookOf(Square square) const {
     const auto& last = recorder.LastMove();
-    const CellMarks marks{
+    return {
+        .piece = recorder.Position().At(square),
         .origin = input.Origin() == square,
         .lastMove = last && (last->origin == square || last->destination == square),
-        .cursor = input.Cursor() == square && GetFocus() == Control(picBoard),
+        .cursor = input.Cursor() == square,
     };
-    painter.DrawCell(item, square, recorder.Position().At(square), marks);
 }
 
 int frmScorlet::ChildAt(POINT point) const {

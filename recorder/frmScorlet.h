@@ -72,6 +72,7 @@ class frmScorlet : public Form {
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
+    CellLook LookOf(Square square) const;
     bool OnSetCursor() const;
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     int ChildAt(POINT point) const;
@@ -94,5 +95,6 @@ class frmScorlet : public Form {
     Side menuList = White;
     ScorletPainter painter;
     ScorletLayout layout{};
+    std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
     UniqueCursor handPointBlue;
 };

@@ -2,6 +2,7 @@
 
 #include "clock/TimeText.h"
 #include "platform/Ansi.h"
+#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "resources/resource.h"
 #include "settings/modSound.h"
@@ -133,7 +134,7 @@ frmSetup::frmSetup(const Texts& texts, const MessageBoxes& messageBoxes, uint32_
 
 void frmSetup::Open(HWND owner) {
     Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", Width, Height, Items);
-    for (int list : Lists) SetWindowSubclass(Control(list), ListProcedure, 0, reinterpret_cast<DWORD_PTR>(Window()));
+    for (int list : Lists) Subclass<ListProcedure>(Control(list), Window());
     FillLists();
     SetToolTips();
     ShowDraft();

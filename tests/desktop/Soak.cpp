@@ -308,7 +308,7 @@ class SoakTest : public testing::Test {
         ByMouseAndKeys();
         Reset();
         CloseScorlet();
-        PressUnseen(100);
+        PressUnseen(500);
         Reset();
         Dialogs();
         ASSERT_FALSE(run->HasMessage()) << ToAnsi(run->MessageText());
