@@ -325,6 +325,12 @@ class SoakTest : public testing::Test {
 // Fewer cycles than the least would not tell a leak.
 constexpr int WarmUpCycles = 3, LeastCycles = 6, ViewerEvery = 20;
 
+// The system makes some objects once and late: the font of the first tool tip that is shown, for example.
+constexpr size_t LateObjects = 3;
+// How the heap lies is not the same twice; and Wine keeps 24 bytes of every static control that was given a font, some
+// 250 of them in a cycle.
+constexpr size_t HeapSlack = 256 << 10, KeptByWine = 16 << 10;
+
 }  // namespace
 
 TEST_F(SoakTest, HoldsAtTheEndWhatItHeldOnceAllWasUsed) {
@@ -356,10 +362,12 @@ TEST_F(SoakTest, HoldsAtTheEndWhatItHeldOnceAllWasUsed) {
               << cycles << " cycles, " << done.presses << " presses, " << done.moves << " moves, " << done.edits
               << " edits, " << done.saves << " saves, " << done.loads << " loads, " << done.windows << " windows"
               << std::endl;
-    EXPECT_LE(after.gdi, before.gdi);
-    EXPECT_LE(after.user, before.user);
-    EXPECT_LE(after.handles, before.handles);
-    EXPECT_LE(after.privateBytes, before.privateBytes);
+    const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    EXPECT_LE(after.gdi, before.gdi + LateObjects);
+    EXPECT_LE(after.user, before.user + LateObjects);
+    EXPECT_LE(after.handles, before.handles + LateObjects);
+    EXPECT_LE(after.privateBytes,
+              before.privateBytes + HeapSlack + (wine ? static_cast<size_t>(cycles) * KeptByWine : 0));
     EXPECT_LE(after.temporaryFiles, before.temporaryFiles);
 
     OpenScorlet();
