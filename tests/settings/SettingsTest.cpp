@@ -4,37 +4,12 @@
 
 #include <gtest/gtest.h>
 
-TEST(SettingsTest, PresetsLeaveNamesLanguageAndPgnAlone) {
-    Settings settings;
-    settings.PlayerNames = {"Anna", "Bora"};
-    settings.LanguageIndex = Turkish;
-    settings.WritePgn = true;
-    settings.SecondPeriodTime = {600, 660};
-    ApplyPreset(BlitzPreset, settings);
-    EXPECT_EQ(settings.PeriodLimit, (std::array{300, 300}));
-    EXPECT_EQ(settings.SecondPeriodTime, (std::array{600, 660})) << "BLITZ says nothing about it";
-    EXPECT_FALSE(settings.SecondPeriodEnabled);
-    EXPECT_STREQ(settings.FlagSoundName, "NOSOUND");
-    EXPECT_EQ(settings.PlayerNames[Black], "Bora");
-    EXPECT_EQ(settings.LanguageIndex, Turkish);
-    EXPECT_TRUE(settings.WritePgn);
-
-    ApplyPreset(DefaultPreset, settings);
-    EXPECT_EQ(settings.SecondPeriodTime, (std::array{1200, 1200}));
-    EXPECT_TRUE(settings.SecondPeriodEnabled);
-    EXPECT_STREQ(settings.FlagSoundName, "PIECEMOVED");
-}
-
 TEST(SettingsTest, SecondPeriodFollowsFromTheKnownTypesOnly) {
     Settings settings;
-    const bool expected[] = {false, true, true, false};
-    for (int32_t type = 0; type < 4; ++type) {
+    for (const auto& [type, enabled] : {std::pair{0, false}, {1, true}, {3, false}, {7, false}, {2, true}, {7, true}}) {
         settings.SetClockType(type);
-        EXPECT_EQ(settings.SecondPeriodEnabled, expected[type]) << type;
+        EXPECT_EQ(settings.SecondPeriodEnabled, enabled) << type;
     }
-    settings.SetClockType(2);
-    settings.SetClockType(7);
-    EXPECT_TRUE(settings.SecondPeriodEnabled);
 }
 
 TEST(SettingsTest, SoundOutsideItsTableIsRefusedAndKeepsTheOldOne) {
