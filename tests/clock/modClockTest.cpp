@@ -45,7 +45,10 @@ class ClockTest : public testing::Test {
     RecordingHost host;
     modClock::Clock clock{host};
 
+    // Begins anew with that control.
     void Set(const modClock::TimeControl& control) {
+        clock.AbandonGame();
+        host.fallen.clear();
         clock.SetTimeControl(control);
         clock.InitialiseClock();
     }
@@ -94,8 +97,6 @@ TEST_F(ClockTest, FlagFallsOnTheTickThatUsesTheTimeUp) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        host.fallen.clear();
-        clock.AbandonGame();
         Set(row.control);
         EXPECT_EQ(clock.Face(White), row.idle);
         Begin();
@@ -113,8 +114,6 @@ TEST_F(ClockTest, FlagFallsOnTheTickThatUsesTheTimeUp) {
 TEST_F(ClockTest, EarnedSecondPeriodIsLoadedOnceInPlaceOfTheFlagFall) {
     for (const bool down : {true, false}) {
         SCOPED_TRACE(down ? "down" : "up");
-        clock.AbandonGame();
-        host.fallen.clear();
         Set(Control(down, 60, 120, 0, 1));
         Begin();
         Move();  // Black's first move of one: earned
@@ -169,7 +168,6 @@ TEST_F(ClockTest, LongerFirstPeriodEarnsTheSecondAtTheFirstPressOnce) {
     Move();
     EXPECT_FALSE(State().SecondPeriodDue[White]) << "armed once only";
 
-    clock.AbandonGame();
     Set(Control(true, 600));
     EXPECT_EQ(State().SecondPeriodArmed, (std::array{false, false})) << "no second period";
 }
@@ -177,7 +175,6 @@ TEST_F(ClockTest, LongerFirstPeriodEarnsTheSecondAtTheFirstPressOnce) {
 TEST_F(ClockTest, BonusGoesToThePressedSideButNotAtTheFirstPress) {
     for (const bool down : {true, false}) {
         SCOPED_TRACE(down ? "down" : "up");
-        clock.AbandonGame();
         Set(Control(down, 60, 60, 5));
         Begin();
         const int32_t start = down ? 60 : 0;
@@ -211,7 +208,6 @@ TEST_F(ClockTest, PauseAndResumeKeepTimesAndAskDifferentHandles) {
     EXPECT_TRUE(clock.ResumeClock()) << "a resume takes any handle";
     EXPECT_EQ(clock.Face(White), "00:00:53");
 
-    clock.AbandonGame();
     Set(Control(true, 60));
     EXPECT_EQ(clock.PressClock(Black), modClock::PressOutcome::TimerNotCreated) << "a start wants more than 1";
     EXPECT_TRUE(clock.Untouched());

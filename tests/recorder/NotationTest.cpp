@@ -58,23 +58,6 @@ TEST(NotationTest, DisambiguationIsTheFileOfTheOrigin) {
     for (const Row& row : rows) EXPECT_EQ(Written(row.pieces, row.origin, row.destination), row.written) << row.name;
 }
 
-TEST(NotationTest, PromotionIsWrittenOnceAndBeforeTheMarks) {
-    std::string move = "exd8";
-    SetPromotion(move, PieceKind::Queen);
-    EXPECT_EQ(move, "exd8=Q");
-    move += "+";
-    SetPromotion(move, PieceKind::Knight);
-    EXPECT_EQ(move, "exd8=N+");
-}
-
-TEST(NotationTest, OneResultMarkIsRemoved) {
-    for (const char* mark : {"*", "1-0", "0-1", "1/2-1/2", ""}) {
-        std::string text = std::string("1. e4 ") + mark;
-        RemoveResultMark(text);
-        EXPECT_EQ(text, "1. e4 ");
-    }
-}
-
 TEST(NotationTest, TypedMovesArePutRight) {
     struct Row {
         const char *typed, *normal;

@@ -1,7 +1,5 @@
 #include "settings/Settings.h"
 
-#include "base/RunTimeError.h"
-
 #include <gtest/gtest.h>
 
 TEST(SettingsTest, SecondPeriodFollowsFromTheKnownTypesOnly) {
@@ -10,13 +8,4 @@ TEST(SettingsTest, SecondPeriodFollowsFromTheKnownTypesOnly) {
         settings.SetClockType(type);
         EXPECT_EQ(settings.SecondPeriodEnabled, enabled) << type;
     }
-}
-
-TEST(SettingsTest, SoundOutsideItsTableIsRefusedAndKeepsTheOldOne) {
-    Settings settings;
-    EXPECT_THROW(settings.SetButtonSound(5), RunTimeError);
-    EXPECT_THROW(settings.SetFlagSound(-1), RunTimeError);
-    EXPECT_NO_THROW(settings.SetFlagSound(5));
-    EXPECT_STREQ(settings.ButtonSoundName, "BUTTONPUSHED");
-    EXPECT_STREQ(settings.FlagSoundName, "TADA");
 }

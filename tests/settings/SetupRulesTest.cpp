@@ -20,11 +20,3 @@ TEST(SetupRulesTest, TypesTakeAwayWhatTheyDoNotHave) {
         EXPECT_EQ(settings.CountTimeDown, row.down);
     }
 }
-
-TEST(SetupRulesTest, BlitzHasNoSecondPeriodWhateverStoodThere) {
-    Settings settings;
-    ChoosePreset(settings, BlitzPreset);
-    EXPECT_EQ(settings.SecondPeriodTime, (std::array<int32_t, 2>{0, 0}));
-    ChoosePreset(settings, DefaultPreset);
-    EXPECT_EQ(settings.SecondPeriodTime, (std::array<int32_t, 2>{1200, 1200}));
-}
