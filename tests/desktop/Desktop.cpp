@@ -271,6 +271,7 @@ int ProgramRun::Focused() {
 }
 
 bool ProgramRun::FocusComes(int id) {
+    Clock();  // the start of the program has a deadline of its own
     const bool reached = Eventually([&] { return Focused() == id; });
     EXPECT_TRUE(reached) << "the focus is on " << Focused() << ", not on " << id;
     return reached;

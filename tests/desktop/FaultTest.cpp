@@ -83,14 +83,15 @@ class FaultTest : public testing::Test {
         Press();
     }
 
-    // Opens the file dialog and goes on to its question.
-    HWND AskToSave(const std::wstring& name) {
-        Command(mnuSave);
+    // Opens the file dialog and asks for its action, up to the question.
+    HWND Ask(int entry, int button, const std::wstring& name) {
+        Command(entry);
         const HWND files = run->WaitWindow(L"frmFiles");
         SendMessageW(GetDlgItem(files, txtGameName), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
-        PostMessageW(files, WM_COMMAND, cmdSave, 0);
+        PostMessageW(files, WM_COMMAND, static_cast<WPARAM>(button), 0);
         return files;
     }
+    HWND AskToSave(const std::wstring& name) { return Ask(mnuSave, cmdSave, name); }
     void AnswerYes() const { PostMessageW(run->WaitWindow(L"#32770"), WM_COMMAND, IDYES, 0); }
     void Save(const std::wstring& name) {
         const HWND files = AskToSave(name);
@@ -210,6 +211,10 @@ TEST_F(FaultTest, FolderOfSavedGamesRemovedOrReplacedByAFile) {
     Save(L"first");
     Write(L"first", {});
     ASSERT_TRUE(RemoveDirectoryW(saved.c_str()));
+    const HWND files = Ask(mnuLoad, cmdLoad, L"first");
+    ExpectMessage(L"Game first could not be found.");
+    PostMessageW(files, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(run->Ended(files));
     Save(L"second");
     for (const std::string& file : Read(L"second")) EXPECT_FALSE(file.empty()) << "the folder is made again";
     ExpectGameGoesOn();
@@ -303,26 +308,24 @@ TEST_F(FaultTest, EditorMissingOrBroken) {
     const std::wstring editor = std::wstring(windows.data()) + L"\\notepad.exe";
     Start();
     Press();
-    const HiddenFile second(std::wstring(system.data()) + L"\\notepad.exe");
-    {
-        const HiddenFile first(editor);
-        Command(mnuPrint);
-        ExpectMessage(L"The text editor Notepad.exe was not found on this computer. The move list cannot be printed.");
-        WriteFileText(editor, "no program");
-        Command(mnuPrint);
-        const std::wstring start =
-            L"The text editor " + std::wstring(windows.data()) + L"\\Notepad.exe could not be started: ";
-        EXPECT_EQ(ToAnsi(run->MessageText().substr(0, start.size())), ToAnsi(start));
-        run->Answer(IDOK);
-        DeleteFileW(editor.c_str());
-        ExpectGameGoesOn();
-    }
+    const HiddenFile second(std::wstring(system.data()) + L"\\notepad.exe"), first(editor);
+    Command(mnuPrint);
+    ExpectMessage(L"The text editor Notepad.exe was not found on this computer. The move list cannot be printed.");
+    WriteFileText(editor, "no program");
+    Command(mnuPrint);
+    const std::wstring start =
+        L"The text editor " + std::wstring(windows.data()) + L"\\Notepad.exe could not be started: ";
+    EXPECT_EQ(ToAnsi(run->MessageText().substr(0, start.size())), ToAnsi(start));
+    run->Answer(IDOK);
+    DeleteFileW(editor.c_str());
+    ExpectGameGoesOn();
 }
 
 TEST_F(FaultTest, NoSoundDeviceIsNoReasonForAMessage) {
     const NoSoundDevice silence;
     Settings settings = WithScorlet();
     settings.SetButtonSound(1);
+    settings.SetFlagSound(2);
     DeleteFileW(CaptureFile().c_str());
     Start(settings);
     Press();

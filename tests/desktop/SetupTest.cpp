@@ -74,11 +74,12 @@ TEST_F(SetupTest, ClockTypesEnableAndName) {
     settings.LanguageIndex = French;
     settings.SetClockType(2);
     settings.MoveBonus = {5, 6};
+    settings.CountTimeDown = false;
     Start(settings);
-    for (const int type : {2, 1, 3}) {
+    for (const int type : {2, 1, 3, 0}) {
         SCOPED_TRACE(type);
         Choose(cmbClockType, type);
-        const bool second = type != 3, bonus = type == 2;
+        const bool second = type == 1 || type == 2, bonus = type == 2;
         EXPECT_TRUE(
             Becomes(lblFirstCaption, second ? L"Temps pour les 40 premiers coups" : L"Temps pour toute la partie"));
         EXPECT_TRUE(Becomes(lblSecondCaption, second ? L"Temps après le 40e coup" : L""));
@@ -89,6 +90,9 @@ TEST_F(SetupTest, ClockTypesEnableAndName) {
         }
         EXPECT_TRUE(EnabledIs(cmbMoveAmount, second));
         EXPECT_TRUE(Becomes(lblBonusValue, bonus ? L"00:05" : L"00:00"));
+        EXPECT_TRUE(Becomes(lblSecondPeriod + 1, second ? L"00:20" : L"00:00"));
+        EXPECT_TRUE(Eventually([&] { return Checked(chkCountTimeDown) == !second; }))
+            << "HOURGLASS checks it, 0 leaves it";
     }
 }
 
