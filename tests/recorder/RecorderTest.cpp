@@ -92,8 +92,8 @@ TEST_F(RecorderTest, PromotionCanBeChosenAgainUntilTheNextMove) {
     Play("a2a4 b7b5 a4b5 h7h6 b5b6 h6h5 b6b7 h5h4 b7a8");
     ASSERT_TRUE(recorder.AwaitsPromotion());
     EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WP");
-    recorder.Promote(PieceKind::Queen);
     Declare(Declaration::Check);
+    recorder.Promote(PieceKind::Queen);
     recorder.Promote(PieceKind::Knight);
     EXPECT_EQ(recorder.List(White).Entries().back().text, "bxa8=N+");
     EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WN");

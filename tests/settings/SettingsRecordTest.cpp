@@ -66,6 +66,7 @@ TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
     EXPECT_EQ(read.PeriodLimit[White], 1800);
     EXPECT_TRUE(read.CountTimeDown);
     EXPECT_EQ(read.ClockType, 0);
+    EXPECT_FALSE(read.SecondPeriodEnabled);
     record[300] = SlotValue();
     EXPECT_EQ(ReadLanguage(record), English);
     record[300] = 3.0;
