@@ -61,24 +61,11 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
         const HWND control = GetDlgItem(form->Window(), id);
         RECT area{};
         GetClientRect(control, &area);
-        const HDC dc = GetDC(control);
-        const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0));
-        ASSERT_TRUE(font) << id;
-        const HGDIOBJ old = SelectObject(dc, font);
-        SIZE size{};
-        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-        SelectObject(dc, old);
-        ReleaseDC(control, dc);
-        EXPECT_LE(size.cx, area.right) << "control " << id << ", " << area.bottom
-                                       << " high: " << std::string(text.begin(), text.end());
+        const SIZE size = SizeOfText(control, text);
+        EXPECT_LE(size.cx, area.right) << "control " << id << ": " << testing::PrintToString(text);
         EXPECT_LE(size.cy, area.bottom) << "control " << id;
     }
 };
-
-std::wstring EntryOf(HMENU menu, UINT position) {
-    wchar_t text[128];
-    return {text, text + GetMenuStringW(menu, position, text, 128, MF_BYPOSITION)};
-}
 
 }  // namespace
 
@@ -90,66 +77,46 @@ TEST_P(frmClockTest, EveryTextFitsItsControlAtEverySize) {
         // At 200% everything is twice as large, the type too.
         ScaleTo(form->Window(), width > DesignWidth ? 192 : 96);
         Resize(width, height);
+        const std::pair<int, std::wstring> shown[] = {{lblBlink, texts(TextId::ToMove)},
+                                                      {lblBlink, texts(TextId::Pause)},
+                                                      {cmdPause, texts(TextId::Pause)},
+                                                      {cmdPause, texts(TextId::Resume)},
+                                                      {cmdClock, texts(TextId::ClockButton)},
+                                                      {lblMoveNumber, texts(TextId::MoveNumber)},
+                                                      {lblMoveCount, L"9999."},
+                                                      {lblPeriod, texts.Compose(TextId::AfterNthMove, L"100th")},
+                                                      {lblPeriod, texts(TextId::CompleteGameTime)},
+                                                      {lblPeriodTime, L"100:00"},
+                                                      {lblBonus, texts(TextId::BonusTime)},
+                                                      {lblBonusTime, L"59:59"}};
         for (Side side : BothSides) {
             ExpectFits(ControlOf(lblSide, side), texts(side == White ? TextId::White : TextId::Black));
-            ExpectFits(ControlOf(lblBlink, side), texts(TextId::ToMove));
-            ExpectFits(ControlOf(lblBlink, side), texts(TextId::Pause));
-            ExpectFits(ControlOf(cmdPause, side), texts(TextId::Pause));
-            ExpectFits(ControlOf(cmdPause, side), texts(TextId::Resume));
-            ExpectFits(ControlOf(cmdClock, side), texts(TextId::ClockButton));
-            ExpectFits(ControlOf(lblMoveNumber, side), texts(TextId::MoveNumber));
-            ExpectFits(ControlOf(lblMoveCount, side), L"9999.");
-            ExpectFits(ControlOf(lblPeriod, side), texts.Compose(TextId::AfterNthMove, L"100th"));
-            ExpectFits(ControlOf(lblPeriod, side), texts(TextId::CompleteGameTime));
-            ExpectFits(ControlOf(lblPeriodTime, side), L"100:00");
-            ExpectFits(ControlOf(lblBonus, side), texts(TextId::BonusTime));
-            ExpectFits(ControlOf(lblBonusTime, side), L"59:59");
+            for (const auto& [id, text] : shown) ExpectFits(ControlOf(id, side), text);
         }
     }
 }
 
-TEST_P(frmClockTest, MenusHoldTheirEntriesAndKeys) {
-    struct Menu {
-        TextId caption;
-        std::vector<std::wstring> entries;  // empty: a separator
-    };
-    const auto keyed = [&](TextId entry, TextId key) {
-        return texts(entry) + L"\t" + texts(key);
-    };
-    const Menu menus[] = {
-        {TextId::MenuGame,
-         {keyed(TextId::MenuStart, TextId::MenuStartKey), L"", texts(TextId::MenuLoad), texts(TextId::MenuSave),
-          texts(TextId::MenuDelete), L"", texts(TextId::MenuExit)}},
-        {TextId::MenuClock,
-         {keyed(TextId::MenuReset, TextId::MenuResetKey), texts(TextId::MenuPause), L"",
-          keyed(TextId::MenuSetup, TextId::MenuSetupKey)}},
-        {TextId::MenuScorlet, {texts(TextId::MenuShow), texts(TextId::MenuClose), L"", texts(TextId::MenuPrint)}},
-        {TextId::MenuHelp, {texts(TextId::MenuContents), L"", texts(TextId::MenuAbout)}},
-    };
+TEST_P(frmClockTest, MenusTellKeysAndWhatCanBeDone) {
     const HMENU bar = GetMenu(form->Window());
-    ASSERT_EQ(GetMenuItemCount(bar), 4);
-    for (UINT i = 0; i < 4; ++i) {
-        EXPECT_EQ(EntryOf(bar, i), texts(menus[i].caption));
-        const HMENU popup = GetSubMenu(bar, static_cast<int>(i));
-        std::vector<std::wstring> entries;
-        for (int entry = 0; entry < GetMenuItemCount(popup); ++entry)
-            entries.push_back(EntryOf(popup, static_cast<UINT>(entry)));
-        EXPECT_EQ(entries, menus[i].entries);
-    }
-    for (int entry : {mnuCloseScorlet, mnuPrint})
-        EXPECT_TRUE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
-    for (int entry : {mnuStart, mnuLoad, mnuSave, mnuDelete, mnuExit, mnuReset, mnuPause, mnuSetup, mnuShowScorlet,
-                      mnuContents, mnuAbout})
-        EXPECT_FALSE(GetMenuState(bar, static_cast<UINT>(entry), MF_BYCOMMAND) & MF_GRAYED) << entry;
+    const auto clockEntry = [&](UINT position) {
+        wchar_t text[128];
+        return std::wstring(text, text + GetMenuStringW(GetSubMenu(bar, 1), position, text, 128, MF_BYPOSITION));
+    };
+    const auto grayed = [&](UINT entry) {
+        return (GetMenuState(bar, entry, MF_BYCOMMAND) & MF_GRAYED) != 0;
+    };
+    EXPECT_EQ(clockEntry(0), texts(TextId::MenuReset) + L"\t" + texts(TextId::MenuResetKey));
+    EXPECT_TRUE(grayed(mnuCloseScorlet) && grayed(mnuPrint));
+    EXPECT_FALSE(grayed(mnuShowScorlet) || grayed(mnuSetup));
 
     SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);
-    EXPECT_TRUE(GetMenuState(bar, mnuSetup, MF_BYCOMMAND) & MF_GRAYED) << "a game is on";
+    EXPECT_TRUE(grayed(mnuSetup)) << "a game is on";
     settings.LanguageIndex = GetParam() % 3 + 1;
     SendMessageW(form->Window(), WM_COMMAND, mnuPause, 0);
     settings.LanguageIndex = GetParam();
-    EXPECT_EQ(EntryOf(GetSubMenu(bar, 1), 1), texts(TextId::MenuResume)) << "in the language of the window";
+    EXPECT_EQ(clockEntry(1), texts(TextId::MenuResume)) << "in the language of the window";
     SendMessageW(form->Window(), WM_COMMAND, mnuPause, 0);
-    EXPECT_EQ(EntryOf(GetSubMenu(bar, 1), 1), texts(TextId::MenuPause));
+    EXPECT_EQ(clockEntry(1), texts(TextId::MenuPause));
 }
 
 TEST_P(frmClockTest, HeldKeyOfStartDoesNotRepeat) {
@@ -159,9 +126,7 @@ TEST_P(frmClockTest, HeldKeyOfStartDoesNotRepeat) {
     const auto send = [&](LPARAM flags) {
         MSG message{form->Window(), WM_KEYDOWN, 'T', flags, 0, {}};
         form->TakeMessage(message);
-        wchar_t count[8];
-        GetDlgItemTextW(form->Window(), lblMoveCount, count, 8);
-        return std::wstring(count);
+        return TextOf(GetDlgItem(form->Window(), lblMoveCount));
     };
     EXPECT_EQ(send(LPARAM{KF_REPEAT} << 16), L"0.");
     EXPECT_EQ(send(1), L"1.");

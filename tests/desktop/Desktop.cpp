@@ -1,5 +1,6 @@
 #include "tests/desktop/Desktop.h"
 
+#include "platform/Ansi.h"
 #include "settings/SettingsRecord.h"
 
 #include <gtest/gtest.h>
@@ -92,6 +93,27 @@ std::wstring TextOf(HWND window) {
     return text.data();
 }
 
+bool Becomes(HWND window, const std::wstring& text) {
+    const bool reached = Eventually([&] { return TextOf(window) == text; });
+    EXPECT_TRUE(reached) << "got " << testing::PrintToString(TextOf(window)) << ", want "
+                         << testing::PrintToString(text);
+    return reached;
+}
+
+std::vector<std::wstring> LinesOf(HWND list) {
+    std::vector<std::wstring> lines(static_cast<size_t>(SendMessageW(list, LB_GETCOUNT, 0, 0)));
+    for (size_t i = 0; i < lines.size(); ++i) {
+        std::array<wchar_t, 256> line{};
+        SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
+        lines[i] = line.data();
+    }
+    return lines;
+}
+
+bool ComesToFront(HWND window) {
+    return Eventually([&] { return GetForegroundWindow() == window; });
+}
+
 TestFolder::TestFolder() {
     std::array<wchar_t, MAX_PATH> temporary{};
     GetTempPathW(MAX_PATH, temporary.data());
@@ -150,6 +172,20 @@ NoSoundDevice::~NoSoundDevice() {
     RegCloseKey(drivers);
 }
 
+HWND EditorWindow() {
+    HWND editor = nullptr;
+    EXPECT_TRUE(Eventually([&] { return (editor = FindWindowW(L"Notepad", nullptr)) != nullptr; })) << "no editor";
+    return editor;
+}
+
+void EndEditor() {
+    DWORD process = 0;
+    GetWindowThreadProcessId(EditorWindow(), &process);
+    const UniqueFile handle(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, process));
+    TerminateProcess(handle.get(), 0);
+    WaitForSingleObject(handle.get(), 5000);
+}
+
 HiddenFile::HiddenFile(std::wstring path)
     : path(std::move(path)), renamed(MoveFileW(this->path.c_str(), (this->path + L".away").c_str()) != 0) {}
 
@@ -157,11 +193,11 @@ HiddenFile::~HiddenFile() {
     if (renamed) MoveFileW((path + L".away").c_str(), path.c_str());
 }
 
-Settings QuietSettings() {
+Settings QuietSettings(bool withScorlet) {
     Settings settings;
     settings.SetButtonSound(0);
     settings.SetFlagSound(0);
-    settings.OpenScorletAtStart = false;
+    settings.OpenScorletAtStart = withScorlet;
     return settings;
 }
 
@@ -234,12 +270,36 @@ int ProgramRun::Focused() {
     return info.hwndFocus == Clock() ? -1 : GetDlgCtrlID(info.hwndFocus);
 }
 
+bool ProgramRun::FocusComes(int id) {
+    Clock();  // the start of the program has a deadline of its own
+    const bool reached = Eventually([&] { return Focused() == id; });
+    EXPECT_TRUE(reached) << "the focus is on " << Focused() << ", not on " << id;
+    return reached;
+}
+
 int ProgramRun::Seconds(Side side) {
     int hours = 0, minutes = 0, seconds = 0;
     const std::wstring text = Text(ControlOf(lblFace, side));
     if (swscanf(text.c_str(), L"%d:%d:%d", &hours, &minutes, &seconds) != 3)
         ADD_FAILURE() << "no time on the face: " << std::string(text.begin(), text.end());
     return hours * 3600 + minutes * 60 + seconds;
+}
+
+std::string ProgramRun::Lines(Side side) const {
+    std::string lines;
+    for (const std::wstring& line : LinesOf(GetDlgItem(FindWindowNow(L"frmScorlet"), ControlOf(lstMoves, side))))
+        lines += (lines.empty() ? "" : "|") + ToAnsi(line);
+    return lines;
+}
+
+void ProgramRun::ExpectLists(const std::string& wanted) const {
+    EXPECT_TRUE(Eventually([&] { return Lists() == wanted; })) << "got " << Lists() << "\nwant " << wanted;
+}
+
+void ProgramRun::Play(std::string_view move) const {
+    const HWND scorlet = FindWindowNow(L"frmScorlet");
+    for (const size_t at : {0, 2})
+        Click(GetDlgItem(scorlet, picBoard + (move[at] - 'a' + 1) * 10 + move[at + 1] - '0'));
 }
 
 void ProgramRun::Click(HWND window, bool rightButton) const {
@@ -284,6 +344,10 @@ void ProgramRun::Answer(int button) const {
     ASSERT_TRUE(control) << "the box has no button " << button;
     Click(control);
     EXPECT_TRUE(Eventually([&] { return !IsWindow(box); })) << "the message box stays open";
+}
+
+bool ProgramRun::Ended(HWND dialog) {
+    return Eventually([&] { return !IsWindow(dialog) && IsWindowEnabled(Clock()); });
 }
 
 bool ProgramRun::Close() {

@@ -19,8 +19,13 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000
 // Where the programs lie that the build makes, this one among them; with a trailing backslash.
 std::wstring BuildFolder();
 
-// Text of a window of any process.
+// Text of a window of any process, and whether it comes to be this one.
 std::wstring TextOf(HWND window);
+bool Becomes(HWND window, const std::wstring& text);
+// The lines of a list box of any process.
+std::vector<std::wstring> LinesOf(HWND list);
+// Whether a window comes to the front.
+bool ComesToFront(HWND window);
 
 // Puts the mouse on the middle of a window.
 void MoveMouseTo(HWND window);
@@ -63,6 +68,10 @@ class NoSoundDevice {
     std::wstring before;
 };
 
+// The window into which the text editor shows what is printed, waited for; and the end of that editor.
+HWND EditorWindow();
+void EndEditor();
+
 // A file that is renamed for the life of the scope.
 class HiddenFile {
   public:
@@ -76,8 +85,8 @@ class HiddenFile {
     bool renamed;
 };
 
-// The DEFAULT preset without sounds and without the Scorlet.
-Settings QuietSettings();
+// The DEFAULT preset without sounds, and without the Scorlet where it is not asked for.
+Settings QuietSettings(bool withScorlet = false);
 // The settings file of a program in that folder.
 void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings);
 
@@ -102,9 +111,18 @@ class ProgramRun {
     bool Visible(int id) { return IsWindowVisible(Control(id)); }
     bool Enabled(int id) { return IsWindowEnabled(Control(id)); }
     int Focused();  // number of the control with the focus, -1 for a window without number, 0 for none
+    bool FocusComes(int id);
+    bool Becomes(int id, const std::wstring& text) { return ::Becomes(Control(id), text); }
 
     // Seconds on a side's face.
     int Seconds(Side side);
+
+    // Of the Scorlet: the lines of a list as "1. e4|2. Nf3", both lists as "1. e4|2. Nf3 / e5", and a move given as
+    // "e2e4" entered by clicks.
+    std::string Lines(Side side) const;
+    std::string Lists() const { return Lines(White) + " / " + Lines(Black); }
+    void ExpectLists(const std::string& wanted) const;
+    void Play(std::string_view move) const;
 
     // Real input.
     void Click(HWND window, bool rightButton = false) const;
@@ -119,6 +137,9 @@ class ProgramRun {
     std::wstring MessageText() const;
     void Answer(int button) const;
     bool HasMessage() const { return FindWindowNow(L"#32770") != nullptr; }
+
+    // Waits until a dialog over the clock has ended.
+    bool Ended(HWND dialog);
 
     // Closes the clock window; false when the process has not ended by the deadline.
     bool Close();

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 // What goes wrong around the program while it runs: each ends in a message that says what, or in none where none is
 // due, and the game goes on.
@@ -42,8 +43,8 @@ class FaultTest : public testing::Test {
     const std::wstring saved = folder.Path() + L"SavedGames\\";
 
     static Settings WithScorlet() {
-        Settings settings = QuietSettings();
-        settings.OpenScorletAtStart = settings.WritePgn = true;
+        Settings settings = QuietSettings(true);
+        settings.WritePgn = true;
         return settings;
     }
     void Start(const Settings& settings = WithScorlet()) {
@@ -111,7 +112,7 @@ class FaultTest : public testing::Test {
                       L" could not be written: " + reason + L".");
         EXPECT_TRUE(IsWindowVisible(files)) << "another name can be tried";
         PostMessageW(files, WM_CLOSE, 0, 0);
-        ASSERT_TRUE(Eventually([&] { return !IsWindow(files) && IsWindowEnabled(run->Clock()); }));
+        ASSERT_TRUE(run->Ended(files));
     }
 
     using FilesOfGame = std::array<std::string, FileExtensions.size()>;
@@ -132,22 +133,9 @@ class FaultTest : public testing::Test {
         return std::any_of(FileExtensions.begin(), FileExtensions.end(),
                            [&](const wchar_t* extension) { return Exists(saved + name + extension + L".new"); });
     }
-    void CloseEditor() const {
-        HWND editor = nullptr;
-        ASSERT_TRUE(Eventually([&] { return (editor = FindWindowW(L"Notepad", nullptr)) != nullptr; }));
-        DWORD process = 0;
-        GetWindowThreadProcessId(editor, &process);
-        const UniqueFile handle(OpenProcess(PROCESS_TERMINATE, FALSE, process));
-        TerminateProcess(handle.get(), 0);
-    }
 };
 
-double Milliseconds() {
-    LARGE_INTEGER now{}, frequency{};
-    QueryPerformanceCounter(&now);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
+using Time = std::chrono::steady_clock;
 
 }  // namespace
 
@@ -156,7 +144,7 @@ TEST_F(FaultTest, KilledWhileSavingLeavesEachFileOldOrNew) {
     // Two games that differ in each of their files, and none.
     std::array<FilesOfGame, 3> games;
     std::array<Settings, 2> settings{WithScorlet(), WithScorlet()};
-    double duration = 0;
+    Time::duration duration{};
     const auto begin = [&](size_t game) {
         settings[game].PlayerNames.fill(std::string(100, game == 0 ? 'a' : 'b'));
         Start(settings[game]);
@@ -165,10 +153,10 @@ TEST_F(FaultTest, KilledWhileSavingLeavesEachFileOldOrNew) {
     for (size_t game : {0, 1}) {
         begin(game);
         const HWND files = AskToSave(L"whole");
-        const double start = Milliseconds();
+        const Time::time_point start = Time::now();
         AnswerYes();
         ASSERT_TRUE(Eventually([&] { return !IsWindow(files); }));
-        duration = std::max(duration, Milliseconds() - start);
+        duration = std::max(duration, Time::now() - start);
         games[game] = Read(L"whole");
     }
     for (size_t i = 0; i < FileExtensions.size(); ++i) ASSERT_NE(games[0][i], games[1][i]) << i;
@@ -183,11 +171,11 @@ TEST_F(FaultTest, KilledWhileSavingLeavesEachFileOldOrNew) {
         Write(L"game", before);
         AskToSave(L"game");
         AnswerYes();
-        const double end = Milliseconds() + 20000;
-        while (!HasWaitingFiles(L"game") && Read(L"game") == before && Milliseconds() < end) {
+        const Time::time_point end = Time::now() + std::chrono::seconds(20);
+        while (!HasWaitingFiles(L"game") && Read(L"game") == before && Time::now() < end) {
         }
-        const double kill = Milliseconds() + duration * moment / moments;
-        while (Milliseconds() < kill) {
+        const Time::time_point kill = Time::now() + duration * moment / moments;
+        while (Time::now() < kill) {
         }
         TerminateProcess(run->Process(), 99);
         ASSERT_TRUE(run->WaitEnd());
@@ -200,9 +188,7 @@ TEST_F(FaultTest, KilledWhileSavingLeavesEachFileOldOrNew) {
         }
         if (HasWaitingFiles(L"game")) ++between;
         if (left[0].empty()) continue;
-        if (before[0].empty()) {
-            EXPECT_EQ(replaced, left.size()) << "a new game is there with all its files or not at all";
-        }
+        EXPECT_TRUE(!before[0].empty() || replaced == left.size()) << "a new game is there whole or not at all";
         LoadedGame loaded;
         EXPECT_FALSE(store.LoadGame(L"game", Settings(), loaded)) << "damaged";
     }
@@ -228,7 +214,7 @@ TEST_F(FaultTest, FolderOfSavedGamesRemovedOrReplacedByAFile) {
     const HWND files = Ask(mnuLoad, cmdLoad, L"first");
     ExpectMessage(L"Game first could not be found.");
     PostMessageW(files, WM_CLOSE, 0, 0);
-    ASSERT_TRUE(Eventually([&] { return !IsWindow(files); }));
+    ASSERT_TRUE(run->Ended(files));
     Save(L"second");
     for (const std::string& file : Read(L"second")) EXPECT_FALSE(file.empty()) << "the folder is made again";
     ExpectGameGoesOn();
@@ -310,7 +296,7 @@ TEST_F(FaultTest, ClipboardHeldByAnotherProgram) {
     const std::wstring text = run->MessageText();
     CloseClipboard();
     EXPECT_EQ(ToAnsi(text), "The move list could not be put on the clipboard: it is in use by another program.");
-    CloseEditor();
+    EndEditor();
     run->Answer(IDOK);
     ExpectGameGoesOn();
 }
@@ -320,36 +306,26 @@ TEST_F(FaultTest, EditorMissingOrBroken) {
     GetWindowsDirectoryW(windows.data(), MAX_PATH);
     GetSystemDirectoryW(system.data(), MAX_PATH);
     const std::wstring editor = std::wstring(windows.data()) + L"\\notepad.exe";
-    const std::wstring missing =
-        L"The text editor Notepad.exe was not found on this computer. The move list cannot be printed.";
     Start();
     Press();
-    const HiddenFile second(std::wstring(system.data()) + L"\\notepad.exe");
-    {
-        const HiddenFile first(editor);
-        Command(mnuPrint);
-        ExpectMessage(missing);
-        WriteFileText(editor, "no program");
-        Command(mnuPrint);
-        const std::wstring start =
-            L"The text editor " + std::wstring(windows.data()) + L"\\Notepad.exe could not be started: ";
-        EXPECT_EQ(ToAnsi(run->MessageText().substr(0, start.size())), ToAnsi(start));
-        run->Answer(IDOK);
-        DeleteFileW(editor.c_str());
-        ExpectGameGoesOn();
-
-        Start();
-        Press();
-        Command(mnuPrint);
-        ExpectMessage(missing);
-        ExpectGameGoesOn();
-    }
+    const HiddenFile second(std::wstring(system.data()) + L"\\notepad.exe"), first(editor);
+    Command(mnuPrint);
+    ExpectMessage(L"The text editor Notepad.exe was not found on this computer. The move list cannot be printed.");
+    WriteFileText(editor, "no program");
+    Command(mnuPrint);
+    const std::wstring start =
+        L"The text editor " + std::wstring(windows.data()) + L"\\Notepad.exe could not be started: ";
+    EXPECT_EQ(ToAnsi(run->MessageText().substr(0, start.size())), ToAnsi(start));
+    run->Answer(IDOK);
+    DeleteFileW(editor.c_str());
+    ExpectGameGoesOn();
 }
 
 TEST_F(FaultTest, NoSoundDeviceIsNoReasonForAMessage) {
     const NoSoundDevice silence;
     Settings settings = WithScorlet();
     settings.SetButtonSound(1);
+    settings.SetFlagSound(2);
     DeleteFileW(CaptureFile().c_str());
     Start(settings);
     Press();
@@ -362,7 +338,7 @@ TEST_F(FaultTest, NoSoundDeviceIsNoReasonForAMessage) {
     SendMessageW(setup, WM_COMMAND, cmdPreviewFlag, 0);
     EXPECT_FALSE(run->HasMessage());
     PostMessageW(setup, WM_CLOSE, 0, 0);
-    ASSERT_TRUE(Eventually([&] { return !IsWindow(setup) && IsWindowEnabled(run->Clock()); }));
+    ASSERT_TRUE(run->Ended(setup));
     ExpectGameGoesOn();
 }
 
@@ -391,13 +367,13 @@ TEST_F(FaultTest, RefusedTimerIsToldAndTriedAgain) {
     ExpectGameGoesOn();
 
     Command(mnuPause);
-    ASSERT_TRUE(Eventually([&] { return run->Text(cmdPause) == L"Resume"; }));
+    ASSERT_TRUE(run->Becomes(cmdPause, L"Resume"));
     write(refuse);
     Command(mnuPause);
     ExpectMessage(L"Timer not created. Ending program.");
     EXPECT_EQ(ToAnsi(run->Text(cmdPause)), "Resume");
     write(before);
     Command(mnuPause);
-    ASSERT_TRUE(Eventually([&] { return run->Text(cmdPause) == L"Pause"; }));
+    ASSERT_TRUE(run->Becomes(cmdPause, L"Pause"));
     ExpectGameGoesOn();
 }

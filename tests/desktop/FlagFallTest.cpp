@@ -12,19 +12,19 @@ TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     ProgramRun run(folder, settings);
     ASSERT_FALSE(CaptureFile().empty()) << "TORVANIX_SOUND_CAPTURE names no file";
     DeleteFileW(CaptureFile().c_str());
-    const HWND scorlet = run.WaitWindow(L"frmScorlet");
-    ASSERT_TRUE(scorlet);
+    ASSERT_TRUE(run.WaitWindow(L"frmScorlet"));
     run.Click(ControlOf(cmdClock, White));
+    EXPECT_TRUE(run.Becomes(lblBlink, L"TO MOVE"));
+    EXPECT_TRUE(run.Becomes(lblBlink, L""));
     ASSERT_TRUE(Eventually([&] { return run.Seconds(White) <= 3; }, 70000)) << run.Seconds(White);
+    EXPECT_EQ(run.Text(lblFace + 1) + run.Text(lblBlink + 1), L"00:01:00");
     EXPECT_EQ(LoudSamples(), 0u) << "the button sound is NOSOUND";
 
     ASSERT_TRUE(Eventually([&] { return run.Visible(imgFlagDown); }));
     EXPECT_EQ(run.Text(lblFace), L"00:00:00");
     EXPECT_FALSE(run.Visible(imgFlagUp) || run.Visible(imgFlagDown + 1));
     EXPECT_TRUE(run.Visible(imgFlagUp + 1));
-    wchar_t result[16]{};
-    SendMessageW(GetDlgItem(scorlet, lstMoves), LB_GETTEXT, 1, reinterpret_cast<LPARAM>(result));
-    EXPECT_EQ(std::wstring(result), L"0-1") << "behind the waiting line";
+    EXPECT_EQ(run.Lists(), "1. \?\?-\?\?|0-1 / ");
     for (int id = cmdClock; id <= cmdPause + 1; ++id) EXPECT_FALSE(run.Enabled(id)) << id;
     for (int mark = shpTurn; mark < shpTurn + 2 * TurnMarksPerSide; ++mark) EXPECT_FALSE(run.Visible(mark)) << mark;
 

@@ -36,22 +36,23 @@ TEST(HelpTest, OpensPagesInOneViewerThatEndsWithTheProgram) {
     const TestFolder folder;
     CopyFileW((BuildFolder() + L"TORVANIX.chm").c_str(), (folder.Path() + L"TORVANIX.chm").c_str(), FALSE);
     ProgramRun run(folder, QuietSettings());
-    ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));
+    ASSERT_TRUE(run.FocusComes(cmdClock));
     run.Choose(3, 0);
     HWND contents = nullptr;
     ASSERT_TRUE(Eventually([&] { return (contents = Viewer()) != nullptr && IsOpen(contents); }));
 
     SetForegroundWindow(run.Clock());
-    ASSERT_TRUE(Eventually([&] { return GetForegroundWindow() == run.Clock(); }));
+    ASSERT_TRUE(ComesToFront(run.Clock()));
     run.Choose(3, 0);
-    EXPECT_TRUE(Eventually([&] { return GetForegroundWindow() == contents; })) << "the viewer that is open";
+    EXPECT_TRUE(ComesToFront(contents)) << "the viewer that is open";
 
     SetForegroundWindow(run.Clock());
-    ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));
+    ASSERT_TRUE(run.FocusComes(cmdClock));
     run.Key('S', true);
     run.Click(GetDlgItem(run.WaitWindow(L"frmSetup"), cmdHelp));
     HWND page = nullptr;
-    EXPECT_TRUE(Eventually([&] { return (page = Viewer()) != nullptr && page != contents && IsOpen(page); })) << "another page";
+    EXPECT_TRUE(Eventually([&] { return (page = Viewer()) != nullptr && page != contents && IsOpen(page); }))
+        << "another page";
     EXPECT_TRUE(Eventually([&] { return !IsWindow(contents); }));
     SendMessageW(run.WaitWindow(L"frmSetup"), WM_CLOSE, 0, 0);
     ASSERT_TRUE(Eventually([&] { return IsWindowEnabled(run.Clock()); }));
@@ -66,7 +67,7 @@ TEST(HelpTest, MissingViewerIsNamed) {
     const HiddenFile first(std::wstring(windows) + L"\\hh.exe"), second(std::wstring(system) + L"\\hh.exe");
     const TestFolder folder;
     ProgramRun run(folder, QuietSettings());
-    ASSERT_TRUE(Eventually([&] { return run.Focused() == cmdClock; }));
+    ASSERT_TRUE(run.FocusComes(cmdClock));
     run.Choose(3, 0);
     EXPECT_EQ(run.MessageText(), L"The help viewer hh.exe was not found on this computer.");
     run.Answer(IDOK);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <vector>
 
 namespace {
@@ -96,16 +97,8 @@ size_t PrivateBytes(HANDLE process) {
 }
 
 size_t TemporaryFiles() {
-    std::array<wchar_t, MAX_PATH> folder{};
-    GetTempPathW(MAX_PATH, folder.data());
-    WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW((std::wstring(folder.data()) + L"*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return 0;
-    size_t count = 0;
-    do ++count;
-    while (FindNextFileW(search, &found));
-    FindClose(search);
-    return count;
+    const std::filesystem::directory_iterator files(std::filesystem::temp_directory_path());
+    return static_cast<size_t>(std::distance(begin(files), end(files)));
 }
 
 }  // namespace

@@ -49,10 +49,14 @@ inline void Enter(Recorder& recorder, std::string_view move) {
     if (move.size() > 4) recorder.Promote(KindOfLetter(static_cast<char>(move[4] - 'a' + 'A')));
 }
 
-inline Recorder Played(std::string_view moves) {
-    Recorder recorder;
-    std::istringstream words{std::string(moves)};
+inline void EnterAll(Recorder& recorder, const std::string& moves) {
+    std::istringstream words(moves);
     for (std::string word; words >> word;) Enter(recorder, word);
+}
+
+inline Recorder Played(const std::string& moves) {
+    Recorder recorder;
+    EnterAll(recorder, moves);
     return recorder;
 }
 

@@ -3,9 +3,13 @@
 
 #include <gtest/gtest.h>
 
-TEST(BoardInputTest, CursorStaysOnTheBoardAndResetsWithTheRecord) {
+class BoardInputTest : public testing::Test {
+  protected:
     Recorder recorder;
-    BoardInput input(recorder);
+    BoardInput input{recorder};
+};
+
+TEST_F(BoardInputTest, CursorStaysOnTheBoardAndResetsWithTheRecord) {
     input.MoveCursor(7, -5);
     EXPECT_EQ(input.Cursor(), SquareAt(8, 1));
     EXPECT_FALSE(input.Enter());
@@ -15,9 +19,7 @@ TEST(BoardInputTest, CursorStaysOnTheBoardAndResetsWithTheRecord) {
     EXPECT_EQ(input.Cursor(), SquareAt(5, 2));
 }
 
-TEST(BoardInputTest, CapturedPieceIsPutBackOnEmptySquaresOnly) {
-    Recorder recorder;
-    BoardInput input(recorder);
+TEST_F(BoardInputTest, CapturedPieceIsPutBackOnEmptySquaresOnly) {
     recorder.Play(SquareAt(5, 2), SquareAt(5, 7));
     const Piece pawn = PieceOf(Black, PieceKind::Pawn);
     input.ClickCaptured(pawn, 1);
@@ -33,9 +35,7 @@ TEST(BoardInputTest, CapturedPieceIsPutBackOnEmptySquaresOnly) {
     EXPECT_EQ(recorder.SideToMove(), Black) << "no move";
 }
 
-TEST(BoardInputTest, CapturedPiecesArePickedInTurn) {
-    Recorder recorder;
-    BoardInput input(recorder);
+TEST_F(BoardInputTest, CapturedPiecesArePickedInTurn) {
     input.PickNextCaptured();
     EXPECT_FALSE(input.PiecePicked()) << "none is captured";
     const Piece queen = PieceOf(White, PieceKind::Queen), pawn = PieceOf(Black, PieceKind::Pawn);
@@ -52,11 +52,9 @@ TEST(BoardInputTest, CapturedPiecesArePickedInTurn) {
 
 TEST(TypedMoveTest, KeysAndChanges) {
     TypedMove typed;
-    for (wchar_t key :
-         {L'a', L'H', L'q', L'N', L'1', L'9', L'o', L'x', L'=', L'p', L'+', L'#', L'?', L'!', L'-', L'\b'})
+    for (wchar_t key : std::wstring(L"aHqN19ox=p+#?!-\b"))
         EXPECT_TRUE(typed.TakesKey(key, L"")) << static_cast<int>(key);
-    for (wchar_t key : {L'0', L'k', L'K', L' ', L'P', L'i', L'*', L'\u00E9'})
-        EXPECT_FALSE(typed.TakesKey(key, L"")) << static_cast<int>(key);
+    for (wchar_t key : std::wstring(L"0kK Pi*\u00E9")) EXPECT_FALSE(typed.TakesKey(key, L"")) << static_cast<int>(key);
     EXPECT_FALSE(typed.TakesKey(L'a', std::wstring(199, L'a')));
     EXPECT_TRUE(typed.TakesKey(L'\b', std::wstring(199, L'a')));
 

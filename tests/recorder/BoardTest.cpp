@@ -17,33 +17,18 @@ std::string Codes(const Board& board, const std::vector<std::string>& squares) {
 
 }  // namespace
 
-TEST(BoardTest, CodesAndSquaresGoBothWays) {
-    for (const Side side : BothSides) {
-        for (int kind = 1; kind <= 6; ++kind) {
-            const Piece piece = PieceOf(side, static_cast<PieceKind>(kind));
-            EXPECT_EQ(PieceOfCode(PieceCode(piece)), piece);
-        }
-    }
-    EXPECT_EQ(PieceOfCode("O"), Piece::Empty);
-    for (const char* none : {"", "W", "WO", "WX", "KW", "WKK", "--"}) EXPECT_FALSE(PieceOfCode(none)) << none;
-    EXPECT_EQ(Codes(Board(), {"a1", "e1", "e8", "d8", "h7", "e4"}), "WR WK BK BQ BP O ");
-}
-
 TEST(BoardTest, KindsOfMovesAreToldByTheSquaresAlone) {
     struct Row {
         const char *name, *pieces, *origin, *destination;
         MoveKind kind;
     };
     const Row rows[] = {
-        {"ordinary", "WPe2", "e2", "e4", MoveKind::Ordinary},
-        {"capture", "WPe4 BPd5", "e4", "d5", MoveKind::Capture},
         {"own piece", "WPe4 WPd5", "e4", "d5", MoveKind::Capture},
         {"en passant White", "WPe5 BPd5", "e5", "d6", MoveKind::EnPassant},
         {"en passant Black", "BPe4 WPf4", "e4", "f3", MoveKind::EnPassant},
         {"a pawn of its own beside", "WPe5 WPd5", "e5", "d6", MoveKind::Ordinary},
         {"wrong rank", "WPe4 BPd4", "e4", "d5", MoveKind::Ordinary},
         {"no pawn beside", "WPe5 BNd5", "e5", "d6", MoveKind::Ordinary},
-        {"two files away", "WPe5 BPc5", "e5", "c6", MoveKind::Ordinary},
         {"occupied destination", "WPe5 BPd5 BNd6", "e5", "d6", MoveKind::Capture},
         {"castling White king side", "WKe1 WRh1", "e1", "g1", MoveKind::CastlingKingSide},
         {"castling White queen side", "WKe1 WRa1", "e1", "c1", MoveKind::CastlingQueenSide},

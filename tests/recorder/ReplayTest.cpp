@@ -10,10 +10,7 @@
 
 namespace {
 
-std::string Read(const std::string& name) {
-    std::ifstream file(std::string(TEST_DATA "/") + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
+std::ifstream Open(const std::string& name) { return std::ifstream(TEST_DATA "/" + name, std::ios::binary); }
 
 std::vector<std::string> Words(const std::string& text) {
     std::istringstream stream(text);
@@ -21,9 +18,8 @@ std::vector<std::string> Words(const std::string& text) {
 }
 
 // The scores of a PGN file as they were published: moves and result, without tags and numbers.
-std::vector<std::vector<std::string>> PublishedGames(const std::string& pgn) {
+std::vector<std::vector<std::string>> PublishedGames(std::ifstream stream) {
     std::vector<std::vector<std::string>> games;
-    std::istringstream stream(pgn);
     bool inTags = false;
     for (std::string line; std::getline(stream, line);) {
         const bool tag = line.starts_with('[');
@@ -53,8 +49,8 @@ TEST(ReplayTest, RealGamesAreWrittenAsPublished) {
     };
     size_t moves = 0, different = 0;
     for (const std::string name : {"kasparov-deep-blue-1997", "world-championship-2023-game1"}) {
-        const auto games = PublishedGames(Read(name + ".pgn"));
-        std::istringstream lines(Read(name + ".moves"));
+        const auto games = PublishedGames(Open(name + ".pgn"));
+        std::ifstream lines = Open(name + ".moves");
         for (size_t game = 0; game < games.size(); ++game) {
             SCOPED_TRACE(name + " " + std::to_string(game));
             std::string line, text;

@@ -23,6 +23,8 @@ class DialogsTest : public testing::TestWithParam<int32_t> {
     Settings settings;
     Texts texts{(settings.LanguageIndex = GetParam(), settings.LanguageIndex)};
     MessageBoxes messageBoxes{texts};
+    TestFolder folder;
+    SettingsFile file{folder.Path()};
 
     static void ExpectWellMade(HWND dialog) {
         ExpectNamed(dialog);
@@ -41,8 +43,6 @@ class DialogsTest : public testing::TestWithParam<int32_t> {
 }  // namespace
 
 TEST_P(DialogsTest, SetupTextsFitInEveryClockType) {
-    const TestFolder folder;
-    const SettingsFile file(folder.Path());
     for (int32_t type = 0; type < 4; ++type) {
         SCOPED_TRACE(type);
         settings.SetClockType(type);
@@ -73,7 +73,6 @@ TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
         void OpenHelp(HWND) override {}
         Settings settings;
     } host;
-    const TestFolder folder;
     const SavedGames games(folder.Path());
     for (FilesMode mode : {FilesMode::Load, FilesMode::Save, FilesMode::Delete}) {
         frmFiles files(texts, messageBoxes, 0xBFBFBF, games, host, mode);
@@ -95,8 +94,6 @@ TEST_P(DialogsTest, SetupNamesItsBarsByWhatTheySet) {
          L"Son du drapeau\u00A0: Écouter"},
     };
     const Names& names = rows[GetParam() - 1];
-    const TestFolder folder;
-    const SettingsFile file(folder.Path());
     settings.SetClockType(2);
     settings.MoveBonus = {7, 7};
     frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});

@@ -47,12 +47,3 @@ TEST(SlotRecordTest, CutAtEveryLengthIsAnErrorAndKeepsTheSlotsBefore) {
         ASSERT_EQ(read.slots, wanted) << length;
     }
 }
-
-TEST(SlotRecordTest, UnknownTagIsNamedWithItsSlot) {
-    std::string bytes = EncodeRecord(Mixed());
-    bytes[22] = 8;  // the tag of slot 4
-    const DecodedRecord read = DecodeRecord(Bytes(bytes));
-    ASSERT_TRUE(read.error);
-    EXPECT_EQ(read.error->rule, RecordError::Rule::UnknownTag);
-    EXPECT_EQ(read.error->slot, 4);
-}

@@ -56,19 +56,12 @@ TEST(TextIdsTest, IdentifiersAreTakenOnce) {
 }
 
 TEST(TextIdsTest, OrdinalsOfEachLanguage) {
-    struct Expected {
-        int32_t number;
-        TextId english, french;
-    };
-    const Expected rows[] = {
-        {1, TextId::OrdinalSt, TextId::OrdinalSt},   {2, TextId::OrdinalNd, TextId::OrdinalTh},
-        {3, TextId::OrdinalRd, TextId::OrdinalTh},   {4, TextId::OrdinalTh, TextId::OrdinalTh},
-        {11, TextId::OrdinalTh, TextId::OrdinalTh},  {12, TextId::OrdinalTh, TextId::OrdinalTh},
-        {21, TextId::OrdinalSt, TextId::OrdinalTh},  {40, TextId::OrdinalTh, TextId::OrdinalTh},
-        {101, TextId::OrdinalSt, TextId::OrdinalTh}, {113, TextId::OrdinalTh, TextId::OrdinalTh},
-    };
-    for (const Expected& row : rows) {
-        EXPECT_EQ(OrdinalRow(row.number, English), row.english) << row.number;
-        EXPECT_EQ(OrdinalRow(row.number, French), row.french) << row.number;
+    const std::map<int32_t, TextId> english{
+        {1, TextId::OrdinalSt},  {2, TextId::OrdinalNd},   {3, TextId::OrdinalRd},
+        {4, TextId::OrdinalTh},  {11, TextId::OrdinalTh},  {12, TextId::OrdinalTh},
+        {21, TextId::OrdinalSt}, {101, TextId::OrdinalSt}, {113, TextId::OrdinalTh}};
+    for (const auto& [number, row] : english) {
+        EXPECT_EQ(OrdinalRow(number, English), row) << number;
+        EXPECT_EQ(OrdinalRow(number, French), number == 1 ? TextId::OrdinalSt : TextId::OrdinalTh) << number;
     }
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "base/Box.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+// Expects boxes to have a size, to lie in an area and to keep apart from each other.
+inline void ExpectApartInside(const std::vector<Box>& boxes, const Box& area) {
+    for (size_t i = 0; i < boxes.size(); ++i) {
+        const Box& box = boxes[i];
+        EXPECT_TRUE(box.width > 0 && box.height > 0) << "box " << i;
+        EXPECT_TRUE(box.left >= area.left && box.top >= area.top && box.Right() <= area.Right() &&
+                    box.Bottom() <= area.Bottom())
+            << "box " << i;
+        for (size_t j = 0; j < i; ++j) {
+            const Box& other = boxes[j];
+            EXPECT_TRUE(box.Right() <= other.left || other.Right() <= box.left || box.Bottom() <= other.top ||
+                        other.Bottom() <= box.top)
+                << i << " and " << j;
+        }
+    }
+}
