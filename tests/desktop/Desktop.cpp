@@ -31,11 +31,24 @@ void RemoveFolder(const std::wstring& path) {
 
 void Send(std::vector<INPUT> inputs) { SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)); }
 
-INPUT Mouse(DWORD flags) {
+// With the place in the same event: a late echo of an earlier movement could otherwise come between.
+INPUT MouseAt(POINT place, DWORD flags) {
+    const auto normalized = [](LONG position, int metric) {
+        const LONG extent = GetSystemMetrics(metric);
+        return (position * 0x10000 + extent - 1) / extent;
+    };
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    input.mi.dx = normalized(place.x, SM_CXSCREEN);
+    input.mi.dy = normalized(place.y, SM_CYSCREEN);
     return input;
+}
+
+POINT MiddleOf(HWND window) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
 INPUT Stroke(WORD key, bool up) {
@@ -53,9 +66,7 @@ void MoveMouseTo(HWND window) {
     // A window that has just opened may not lie under the mouse yet, and an earlier movement may still be under way.
     int settled = 0;
     const bool there = Eventually([&] {
-        RECT area{};
-        GetWindowRect(window, &area);
-        const POINT wanted{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+        const POINT wanted = MiddleOf(window);
         POINT mouse{};
         GetCursorPos(&mouse);
         if (mouse.x != wanted.x || mouse.y != wanted.y) {
@@ -304,8 +315,9 @@ void ProgramRun::Play(std::string_view move) const {
 
 void ProgramRun::Click(HWND window, bool rightButton) const {
     MoveMouseTo(window);
-    Send({Mouse(rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
-          Mouse(rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+    const POINT middle = MiddleOf(window);
+    Send({MouseAt(middle, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+          MouseAt(middle, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
 }
 
 void ProgramRun::Key(WORD key, bool control) const {

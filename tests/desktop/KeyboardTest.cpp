@@ -37,7 +37,7 @@ class KeyboardTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(KeyboardTest, PlaysRecordsSavesAndLoads) {
+TEST_F(KeyboardTest, PlaysRecordsSavesLoadsAndPrints) {
     // Out of the way of every window.
     SetCursorPos(0, 0);
     ASSERT_TRUE(run.Clock());
@@ -116,4 +116,30 @@ TEST_F(KeyboardTest, PlaysRecordsSavesAndLoads) {
     run.Key(VK_F6);
     ASSERT_TRUE(ComesToFront(scorlet));
     ASSERT_TRUE(run.FocusComes(picBoard));
+    run.Key(VK_F6);
+    ASSERT_TRUE(ComesToFront(run.Clock()));
+    run.Choose(ScorletMenu, 2);
+    const HWND text = GetWindow(EditorWindow(), GW_CHILD);
+    EXPECT_TRUE(Eventually([&] { return TextOf(text).find(L"2. exd5+") != std::wstring::npos; }))
+        << ToAnsi(TextOf(text));
+    EndEditor();
+}
+
+TEST_F(KeyboardTest, SetupByTheKeys) {
+    ASSERT_TRUE(run.FocusComes(cmdClock));
+    run.Key('S', true);
+    const HWND setup = run.WaitWindow(L"frmSetup");
+    ASSERT_TRUE(setup && ComesToFront(setup));
+    ASSERT_TRUE(run.FocusComes(cmbClockType));
+    for (const int id : {int{txtName}, txtName + 1, int{hsbFirstPeriod}}) {
+        run.Key(VK_TAB);
+        ASSERT_TRUE(run.FocusComes(id));
+    }
+    const HWND bar = GetDlgItem(setup, hsbFirstPeriod);
+    run.Key(VK_RIGHT);
+    EXPECT_TRUE(Eventually([&] { return SpokenName(bar) == L"Time for first 40 moves, White, 21 minutes"; }))
+        << ToAnsi(SpokenName(bar));
+    run.Key(VK_RETURN);
+    ASSERT_TRUE(run.Ended(setup));
+    EXPECT_TRUE(Eventually([&] { return SpokenName(run.Control(lblFace)) == L"White, 21 minutes"; }));
 }

@@ -113,8 +113,11 @@ TEST_F(ScorletTest, DeclarationsPromotionAndResult) {
     }
     Say(0);
     run.ExpectLists("1. a4|2. axb5|3. bxa6|4. a7|5. axb8=Q+ / b5|a6|h6|h5");
+    run.Click(run.Control(cmdClock));
+    ASSERT_TRUE(Eventually([&] { return run.Enabled(cmdClock) && !run.Enabled(cmdClock + 1); }));
     Say(1);
     run.ExpectLists("1. a4|2. axb5|3. bxa6|4. a7|5. axb8=Q#|1-0 / b5|a6|h6|h5");
+    EXPECT_TRUE(Becomes(run.Control(cmdPause), L"Resume")) << "the game is over";
     run.Play("h5h4");
     run.ExpectLists("1. a4|2. axb5|3. bxa6|4. a7|5. axb8=Q# / b5|a6|h6|h5|h4");
     EXPECT_FALSE(Shown(imgPromotionQ));

@@ -69,30 +69,45 @@ class SetupTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(SetupTest, ClockTypesEnableAndName) {
-    Settings settings = QuietSettings();
-    settings.LanguageIndex = French;
-    settings.SetClockType(2);
-    settings.MoveBonus = {5, 6};
-    settings.CountTimeDown = false;
-    Start(settings);
-    for (const int type : {2, 1, 3, 0}) {
-        SCOPED_TRACE(type);
-        Choose(cmbClockType, type);
-        const bool second = type == 1 || type == 2, bonus = type == 2;
-        EXPECT_TRUE(
-            Becomes(lblFirstCaption, second ? L"Temps pour les 40 premiers coups" : L"Temps pour toute la partie"));
-        EXPECT_TRUE(Becomes(lblSecondCaption, second ? L"Temps après le 40e coup" : L""));
-        EXPECT_TRUE(Becomes(lblBonusCaption, bonus ? L"Incrément par coup" : L""));
-        for (Side side : BothSides) {
-            EXPECT_TRUE(EnabledIs(ControlOf(hsbSecondPeriod, side), second));
-            EXPECT_TRUE(EnabledIs(ControlOf(hsbBonus, side), bonus));
+TEST_F(SetupTest, ClockTypesEnableAndNameInEachLanguage) {
+    struct Language {
+        int32_t index;
+        const wchar_t *whole, *first, *second, *bonus;
+    };
+    const Language languages[] = {
+        {Turkish, L"Tüm oyunun süresi", L"İlk 40 hamlenin süresi", L"Oyunun 40. hamleden sonraki süresi",
+         L"Hamle başına ek süre"},
+        {English, L"Time for complete game", L"Time for first 40 moves", L"Time for after 40th move",
+         L"Bonus time for each move"},
+        {French, L"Temps pour toute la partie", L"Temps pour les 40 premiers coups", L"Temps après le 40e coup",
+         L"Incrément par coup"},
+    };
+    for (const Language& language : languages) {
+        SCOPED_TRACE(language.index);
+        Settings settings = QuietSettings();
+        settings.LanguageIndex = language.index;
+        settings.SetClockType(2);
+        settings.MoveBonus = {5, 6};
+        settings.CountTimeDown = false;
+        Start(settings);
+        for (const int type : {2, 1, 3, 0}) {
+            SCOPED_TRACE(type);
+            Choose(cmbClockType, type);
+            const bool second = type == 1 || type == 2, bonus = type == 2;
+            EXPECT_TRUE(Becomes(lblFirstCaption, second ? language.first : language.whole));
+            EXPECT_TRUE(Becomes(lblSecondCaption, second ? language.second : L""));
+            EXPECT_TRUE(Becomes(lblBonusCaption, bonus ? language.bonus : L""));
+            for (Side side : BothSides) {
+                EXPECT_TRUE(EnabledIs(ControlOf(hsbFirstPeriod, side), true));
+                EXPECT_TRUE(EnabledIs(ControlOf(hsbSecondPeriod, side), second));
+                EXPECT_TRUE(EnabledIs(ControlOf(hsbBonus, side), bonus));
+                EXPECT_TRUE(Becomes(ControlOf(lblSecondPeriod, side), second ? L"00:20" : L"00:00"));
+            }
+            EXPECT_TRUE(EnabledIs(cmbMoveAmount, second));
+            EXPECT_TRUE(Becomes(lblBonusValue, bonus ? L"00:05" : L"00:00"));
+            EXPECT_TRUE(Eventually([&] { return Checked(chkCountTimeDown) == !second; }))
+                << "HOURGLASS checks it, 0 leaves it";
         }
-        EXPECT_TRUE(EnabledIs(cmbMoveAmount, second));
-        EXPECT_TRUE(Becomes(lblBonusValue, bonus ? L"00:05" : L"00:00"));
-        EXPECT_TRUE(Becomes(lblSecondPeriod + 1, second ? L"00:20" : L"00:00"));
-        EXPECT_TRUE(Eventually([&] { return Checked(chkCountTimeDown) == !second; }))
-            << "HOURGLASS checks it, 0 leaves it";
     }
 }
 
