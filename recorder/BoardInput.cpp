@@ -56,3 +56,13 @@ void BoardInput::Cancel() {
 void BoardInput::MoveCursor(int files, int ranks) {
     cursor = SquareAt(std::clamp(FileOf(cursor) + files, 1, 8), std::clamp(RankOf(cursor) + ranks, 1, 8));
 }
+
+CellLook BoardInput::LookOf(Square square) const {
+    const auto& last = recorder.LastMove();
+    return {
+        .piece = recorder.Position().At(square),
+        .origin = origin == square,
+        .lastMove = last && (last->origin == square || last->destination == square),
+        .cursor = cursor == square,
+    };
+}

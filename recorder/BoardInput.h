@@ -4,6 +4,16 @@
 
 #include <optional>
 
+// What a square shows.
+struct CellLook {
+    Piece piece;
+    bool origin;    // picked
+    bool lastMove;  // where the last move began or ended
+    bool cursor;    // of the keys
+
+    bool operator==(const CellLook&) const = default;
+};
+
 // How the players enter moves: a piece is picked on one square and dropped on another, by clicks or by a cursor that
 // keys move. A captured piece can be picked too, and put back on an empty square.
 class BoardInput {
@@ -19,6 +29,7 @@ class BoardInput {
     }
 
     const std::optional<TraySlot>& Captured() const { return captured; }
+    CellLook LookOf(Square square) const;
 
     // A click on a square, or Enter on the cursor's. Gives the written line when that has made a move.
     std::optional<ChosenLine> Click(Square square);

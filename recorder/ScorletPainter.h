@@ -2,23 +2,12 @@
 
 #include "platform/Handles.h"
 #include "platform/Picture.h"
-#include "recorder/Piece.h"
+#include "recorder/BoardInput.h"
 #include "recorder/ScorletLayout.h"
-#include "recorder/Square.h"
 
 #include <windows.h>
 
 #include <array>
-
-// What a square shows.
-struct CellLook {
-    Piece piece;
-    bool origin;    // picked
-    bool lastMove;  // where the last move began or ended
-    bool cursor;    // of the keys
-
-    bool operator==(const CellLook&) const = default;
-};
 
 // How the Scorlet looks: its colours, type and pictures.
 class ScorletPainter {

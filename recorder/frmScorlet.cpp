@@ -155,7 +155,7 @@ void frmScorlet::TopUpMoveLists() { ShowAdded(recorder.TopUpMoveLists(host.MoveC
 void frmScorlet::ShowBoard() {
     ForEachSquare([&](Square square) {
         std::optional<CellLook>& shown = shownCells[static_cast<size_t>(square)];
-        const CellLook look = LookOf(square);
+        const CellLook look = input.LookOf(square);
         if (look == shown) return;
         shown = look;
         SetText(CellOf(square), FromAnsi(PieceCode(look.piece)));
@@ -391,19 +391,9 @@ void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     }
     if (!IsCell(id)) return;
     const auto square = static_cast<Square>(id - picBoard);
-    CellLook look = LookOf(square);
+    CellLook look = input.LookOf(square);
     look.cursor = look.cursor && GetFocus() == Control(picBoard);
     painter.DrawCell(item, square, look);
-}
-
-CellLook frmScorlet::LookOf(Square square) const {
-    const auto& last = recorder.LastMove();
-    return {
-        .piece = recorder.Position().At(square),
-        .origin = input.Origin() == square,
-        .lastMove = last && (last->origin == square || last->destination == square),
-        .cursor = input.Cursor() == square,
-    };
 }
 
 int frmScorlet::ChildAt(POINT point) const {

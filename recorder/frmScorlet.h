@@ -72,7 +72,6 @@ class frmScorlet : public Form {
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
-    CellLook LookOf(Square square) const;
     bool OnSetCursor() const;
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     int ChildAt(POINT point) const;
