@@ -183,15 +183,18 @@ NoSoundDevice::~NoSoundDevice() {
     RegCloseKey(drivers);
 }
 
-HWND EditorWindow() {
-    HWND editor = nullptr;
-    EXPECT_TRUE(Eventually([&] { return (editor = FindWindowW(L"Notepad", nullptr)) != nullptr; })) << "no editor";
-    return editor;
+HWND EditorText() {
+    HWND text = nullptr;
+    EXPECT_TRUE(Eventually([&] {
+        const HWND editor = FindWindowW(L"Notepad", nullptr);
+        return editor && IsWindowVisible(editor) && (text = GetWindow(editor, GW_CHILD)) != nullptr;
+    })) << "no editor";
+    return text;
 }
 
 void EndEditor() {
     DWORD process = 0;
-    GetWindowThreadProcessId(EditorWindow(), &process);
+    GetWindowThreadProcessId(EditorText(), &process);
     const UniqueFile handle(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, process));
     TerminateProcess(handle.get(), 0);
     WaitForSingleObject(handle.get(), 5000);

@@ -68,8 +68,8 @@ class NoSoundDevice {
     std::wstring before;
 };
 
-// The window into which the text editor shows what is printed, waited for; and the end of that editor.
-HWND EditorWindow();
+// The text field of the editor into which the program prints, waited for; and the end of that editor.
+HWND EditorText();
 void EndEditor();
 
 // A file that is renamed for the life of the scope.

@@ -287,7 +287,7 @@ TEST_F(FilesTest, PrintingPastesTheListIntoTheEditor) {
     StartAndMove(settings);
     ClockToFront();
     run->Choose(2, 2);
-    const HWND text = GetWindow(EditorWindow(), GW_CHILD);
+    const HWND text = EditorText();
     SYSTEMTIME now;
     GetLocalTime(&now);
     wchar_t date[32];

@@ -119,7 +119,7 @@ TEST_F(KeyboardTest, PlaysRecordsSavesLoadsAndPrints) {
     run.Key(VK_F6);
     ASSERT_TRUE(ComesToFront(run.Clock()));
     run.Choose(ScorletMenu, 2);
-    const HWND text = GetWindow(EditorWindow(), GW_CHILD);
+    const HWND text = EditorText();
     EXPECT_TRUE(Eventually([&] { return TextOf(text).find(L"2. exd5+") != std::wstring::npos; }))
         << ToAnsi(TextOf(text));
     EndEditor();
