@@ -40,6 +40,14 @@ use_own_wine() {
     export WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
     export WINEARCH=win64
+    # Wine can give files only the names that the locale's characters allow.
+    case "${LC_ALL:-${LC_CTYPE:-${LANG:-}}}" in
+        *[Uu][Tt][Ff]*) ;;
+        *)
+            unset LC_ALL
+            export LC_CTYPE=C.UTF-8
+            ;;
+    esac
     if [ ! -f "$WINEPREFIX/system.reg" ]; then
         say "Making a Wine prefix in build/wine-$1"
         mkdir -p "$WINEPREFIX"

@@ -18,7 +18,7 @@ const std::set<std::string> KeptLoaded{"advapi32.dll", "comdlg32.dll", "gdi32.dl
                                        "rpcrt4.dll",   "shell32.dll",  "shlwapi.dll", "user32.dll"};
 // On every Windows from 7 on, but looked for in the program's folder first. platform/CMakeLists.txt says how they are
 // bound at the first call instead.
-const std::set<std::string> BoundLater{"comctl32.dll", "version.dll", "winmm.dll", "winspool.drv"};
+const std::set<std::string> BoundLater{"comctl32.dll", "oleacc.dll", "version.dll", "winmm.dll", "winspool.drv"};
 
 std::string Lower(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
