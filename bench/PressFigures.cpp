@@ -2,6 +2,7 @@
 
 #include "bench/RunningProgram.h"
 #include "clock/frmClock.h"
+#include "platform/Painting.h"
 #include "resources/resource.h"
 #include "tests/desktop/Desktop.h"
 
@@ -72,6 +73,30 @@ std::vector<double> MeasurePresses(int count) {
         times.push_back(watch.painted - start);
         running = Other(running);
     }
+    return times;
+}
+
+std::vector<double> MeasureBareControl(int count) {
+    const HWND window = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 700, 400, nullptr,
+                                        nullptr, nullptr, nullptr);
+    const HWND face = CreateWindowExW(0, L"STATIC", L"00:20:00", WS_CHILD | WS_VISIBLE | SS_CENTER, 10, 10, 500, 190,
+                                      window, nullptr, nullptr, nullptr);
+    const UniqueFont font = MakeFont(120, true);
+    SendMessageW(face, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    std::vector<double> times;
+    for (int i = 0; i < count; ++i) {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        const double start = Now();
+        PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+        while (GetMessageW(&message, nullptr, 0, 0) > 0 && message.message != WM_LBUTTONDOWN)
+            DispatchMessageW(&message);
+        SetWindowTextW(face, i % 2 ? L"00:20:00" : L"00:20:01");
+        UpdateWindow(face);
+        GdiFlush();
+        times.push_back(Now() - start);
+    }
+    DestroyWindow(window);
     return times;
 }
 

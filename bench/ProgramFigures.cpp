@@ -137,6 +137,7 @@ int main(int count, char** arguments) try {
     MeasureMemory();
     Row("program file", "MB", FileSize(BuildFolder() + L"torvanix.exe"), FileSize(EmptyProgram()));
     PressRow("press to changed face, within the process", MeasurePresses(Presses));
+    PressRow("message to changed text of a bare control", MeasureBareControl(Presses));
     PressRow("key sent to changed face, from another process", MeasureKeys(Presses));
     if (minutes > 0) MeasureRunning(minutes);
     return 0;
