@@ -81,6 +81,11 @@ void MoveMouseTo(HWND window) {
     EXPECT_TRUE(there) << "the mouse does not reach the window";
 }
 
+void ClickAt(POINT place, bool rightButton) {
+    Send({MouseAt(place, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+          MouseAt(place, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+}
+
 std::wstring BuildFolder() {
     std::wstring path(MAX_PATH, L'\0');
     path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
@@ -318,9 +323,7 @@ void ProgramRun::Play(std::string_view move) const {
 
 void ProgramRun::Click(HWND window, bool rightButton) const {
     MoveMouseTo(window);
-    const POINT middle = MiddleOf(window);
-    Send({MouseAt(middle, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
-          MouseAt(middle, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+    ClickAt(MiddleOf(window), rightButton);
 }
 
 void ProgramRun::Key(WORD key, bool control) const {

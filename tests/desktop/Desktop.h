@@ -29,6 +29,8 @@ bool ComesToFront(HWND window);
 
 // Puts the mouse on the middle of a window.
 void MoveMouseTo(HWND window);
+// A click at a place of the screen, where the mouse need not have come to rest.
+void ClickAt(POINT place, bool rightButton = false);
 
 // A folder of its own for a test, removed with all it holds.
 class TestFolder {

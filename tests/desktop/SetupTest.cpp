@@ -154,10 +154,7 @@ TEST_F(SetupTest, ScrollBarsFollowKeysWheelAndMouse) {
         RECT area{};
         GetWindowRect(Item(bar), &area);
         MoveMouseTo(Item(bar));
-        SetCursorPos(area.right - fromRight, (area.top + area.bottom) / 2);
-        Sleep(100);
-        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-        mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+        ClickAt({area.right - fromRight, (area.top + area.bottom) / 2});
     };
     MoveMouseTo(Item(hsbFirstPeriod));
     Sleep(100);
