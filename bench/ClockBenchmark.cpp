@@ -1,4 +1,4 @@
-#include "clock/TimeText.h"
+#include "base/TimeText.h"
 #include "clock/modClock.h"
 
 #include <benchmark/benchmark.h>

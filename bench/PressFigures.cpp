@@ -1,7 +1,7 @@
 #include "bench/PressFigures.h"
 
+#include "app/frmClock.h"
 #include "bench/RunningProgram.h"
-#include "clock/frmClock.h"
 #include "platform/Painting.h"
 #include "resources/resource.h"
 #include "tests/desktop/Desktop.h"

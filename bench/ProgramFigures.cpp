@@ -1,6 +1,6 @@
 #include "bench/PressFigures.h"
 #include "bench/RunningProgram.h"
-#include "games/SavedGames.h"
+#include "games/GameStore.h"
 #include "resources/resource.h"
 #include "settings/SettingsRecord.h"
 #include "tests/desktop/Desktop.h"
@@ -23,7 +23,7 @@ class Installed {
     explicit Installed(const Settings& settings) {
         CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), Path().c_str(), FALSE);
         CreateDirectoryW((folder.Path() + L"Data").c_str(), nullptr);
-        WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(WriteSettings(settings)));
+        WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(EncodeSettings(settings)));
     }
     std::wstring Path() const { return folder.Path() + L"torvanix.exe"; }
 

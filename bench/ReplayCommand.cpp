@@ -1,4 +1,4 @@
-#include "recorder/Replay.h"
+#include "bench/Replay.h"
 
 #include <iostream>
 #include <string>

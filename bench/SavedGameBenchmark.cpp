@@ -1,7 +1,7 @@
 #include "games/Cgn.h"
 #include "games/Diagram.h"
+#include "games/GameCodec.h"
 #include "games/Pgn.h"
-#include "games/SavedGame.h"
 
 #include <benchmark/benchmark.h>
 
@@ -39,7 +39,7 @@ modClock::ClockState Clock() {
 
 GameFiles Files() {
     const Recorder recorder = LongGame();
-    return PrepareGame(Options(), Clock(), &recorder, Today);
+    return EncodeGame(Options(), Clock(), &recorder, Today);
 }
 
 std::vector<uint8_t> Bytes(const std::string& text) { return {text.begin(), text.end()}; }
@@ -67,7 +67,7 @@ void RunReader(benchmark::State& state, GameFile file, Read read) {
 
 void SaveGame(benchmark::State& state) {
     const Recorder recorder = LongGame();
-    for (auto _ : state) benchmark::DoNotOptimize(PrepareGame(Options(), Clock(), &recorder, Today));
+    for (auto _ : state) benchmark::DoNotOptimize(EncodeGame(Options(), Clock(), &recorder, Today));
 }
 BENCHMARK(SaveGame);
 
@@ -78,7 +78,7 @@ void LoadGame(benchmark::State& state) {
         return files[file];
     };
     const Settings present;
-    LoadedGame game;
+    SavedGame game;
     for (auto _ : state) {
         if (DecodeGame(read, present, game)) state.SkipWithError("refused");
     }
@@ -86,54 +86,54 @@ void LoadGame(benchmark::State& state) {
 BENCHMARK(LoadGame);
 
 void WriteClockFile(benchmark::State& state) {
-    const SavedClock saved{Options(), Clock(), White, true};
-    RunWriter(state, [&] { return WriteClockRecord(saved); });
+    const ClockRecord saved{Options(), Clock(), White, true};
+    RunWriter(state, [&] { return EncodeClockRecord(saved); });
 }
 BENCHMARK(WriteClockFile);
 
 void ReadClockFile(benchmark::State& state) {
-    SavedClock saved;
+    ClockRecord saved;
     RunReader(state, ClockFile, [&](const std::string& text) {
-        return ReadClockRecord({reinterpret_cast<const uint8_t*>(text.data()), text.size()}, Settings(), saved);
+        return DecodeClockRecord({reinterpret_cast<const uint8_t*>(text.data()), text.size()}, Settings(), saved);
     });
 }
 BENCHMARK(ReadClockFile);
 
 void WriteDiagramFile(benchmark::State& state) {
     const Recorder recorder = LongGame();
-    RunWriter(state, [&] { return WriteDiagram(recorder.Position()); });
+    RunWriter(state, [&] { return EncodeDiagram(recorder.Position()); });
 }
 BENCHMARK(WriteDiagramFile);
 
 void ReadDiagramFile(benchmark::State& state) {
     Board board;
-    RunReader(state, DiagramFile, [&](const std::string& text) { return ReadDiagram(text, board); });
+    RunReader(state, DiagramFile, [&](const std::string& text) { return DecodeDiagram(text, board); });
 }
 BENCHMARK(ReadDiagramFile);
 
 void WriteMovesFile(benchmark::State& state) {
     const Recorder recorder = LongGame();
     const GameHead head{Today, Options().PlayerNames};
-    RunWriter(state, [&] { return WriteCgn(head, recorder.Lists()); });
+    RunWriter(state, [&] { return EncodeCgn(head, recorder.Lists()); });
 }
 BENCHMARK(WriteMovesFile);
 
 void ReadMovesFile(benchmark::State& state) {
     MoveLists lists;
-    RunReader(state, MovesFile, [&](const std::string& text) { return ReadCgn(text, White, lists); });
+    RunReader(state, MovesFile, [&](const std::string& text) { return DecodeCgn(text, White, lists); });
 }
 BENCHMARK(ReadMovesFile);
 
 void WritePgnFile(benchmark::State& state) {
     const Recorder recorder = LongGame();
     const GameHead head{Today, Options().PlayerNames};
-    RunWriter(state, [&] { return WritePgn(head, recorder); });
+    RunWriter(state, [&] { return EncodePgn(head, recorder); });
 }
 BENCHMARK(WritePgnFile);
 
 void ReadPgnFile(benchmark::State& state) {
     std::string read;
-    RunReader(state, PgnFile, [&](const std::string& text) { return ReadPgn(text, read); });
+    RunReader(state, PgnFile, [&](const std::string& text) { return DecodePgn(text, read); });
 }
 BENCHMARK(ReadPgnFile);
 

@@ -12,16 +12,16 @@ Settings WithNames() {
 
 void EncodeSettings(benchmark::State& state) {
     const Settings settings = WithNames();
-    for (auto _ : state) benchmark::DoNotOptimize(EncodeRecord(WriteSettings(settings)));
+    for (auto _ : state) benchmark::DoNotOptimize(EncodeRecord(EncodeSettings(settings)));
 }
 BENCHMARK(EncodeSettings);
 
 void DecodeSettings(benchmark::State& state) {
-    const std::string bytes = EncodeRecord(WriteSettings(WithNames()));
+    const std::string bytes = EncodeRecord(EncodeSettings(WithNames()));
     const std::span<const uint8_t> span(reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size());
     Settings settings;
     for (auto _ : state) {
-        if (ReadSettings(DecodeRecord(span), settings)) state.SkipWithError("refused");
+        if (DecodeSettings(DecodeRecord(span), settings)) state.SkipWithError("refused");
         benchmark::DoNotOptimize(settings);
     }
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));

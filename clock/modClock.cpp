@@ -1,7 +1,7 @@
 #include "clock/modClock.h"
 
 #include "base/RunTimeError.h"
-#include "clock/TimeText.h"
+#include "base/TimeText.h"
 
 namespace modClock {
 

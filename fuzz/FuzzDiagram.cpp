@@ -5,8 +5,8 @@
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string_view text = TextOf(data, size);
     Board board;
-    if (ReadDiagram(text, board)) return 0;
-    const std::string written = WriteDiagram(board);
+    if (DecodeDiagram(text, board)) return 0;
+    const std::string written = EncodeDiagram(board);
     Require(written.size() == DiagramBytes && written.starts_with(text));
     return 0;
 }

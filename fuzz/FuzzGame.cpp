@@ -1,5 +1,5 @@
 #include "fuzz/Fuzz.h"
-#include "games/SavedGame.h"
+#include "games/GameCodec.h"
 
 #include <array>
 
@@ -20,7 +20,7 @@ GameFiles Split(std::string_view input) {
     return files;
 }
 
-bool Load(const GameFiles& files, LoadedGame& game) {
+bool Load(const GameFiles& files, SavedGame& game) {
     const auto read = [&](GameFile file, size_t limit) -> std::optional<std::vector<uint8_t>> {
         if (!files[file]) return std::nullopt;
         const std::string bytes = files[file]->substr(0, limit);
@@ -47,11 +47,11 @@ void PlayOn(Recorder& recorder) {
 
 // A game that can be loaded is saved and loaded as the same, and can be played on.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    LoadedGame game, again;
+    SavedGame game, again;
     if (!Load(Split(TextOf(data, size)), game)) return 0;
-    const GameFiles saved = PrepareGame(game.Options, game.Clock, &game.Scorlet, Today);
+    const GameFiles saved = EncodeGame(game.Options, game.Clock, &game.Scorlet, Today);
     Require(Load(saved, again));
-    Require(PrepareGame(again.Options, again.Clock, &again.Scorlet, Today) == saved);
+    Require(EncodeGame(again.Options, again.Clock, &again.Scorlet, Today) == saved);
     PlayOn(again.Scorlet);
     return 0;
 }

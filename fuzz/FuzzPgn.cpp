@@ -4,10 +4,10 @@
 // A text that can be read comes back from a recorder that was given it, but for its result, which is that of the lists.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::string text, again;
-    if (ReadPgn(TextOf(data, size), text)) return 0;
+    if (DecodePgn(TextOf(data, size), text)) return 0;
     Recorder recorder;
     recorder.Restore(Board(), {}, White, text);
-    Require(!ReadPgn(WritePgn({{2024, 3, 9}, {}}, recorder), again));
+    Require(!DecodePgn(EncodePgn({{2024, 3, 9}, {}}, recorder), again));
     RemoveResultMark(text);
     Require(again == text + "*");
     return 0;

@@ -3,10 +3,10 @@
 
 // A clock record that can be read is written and read as the same.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    SavedClock saved, again;
-    if (ReadClockRecord({data, size}, Settings(), saved)) return 0;
-    const std::string bytes = WriteClockRecord(saved);
-    Require(!ReadClockRecord({reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size()}, Settings(), again));
-    Require(WriteClockRecord(again) == bytes);
+    ClockRecord saved, again;
+    if (DecodeClockRecord({data, size}, Settings(), saved)) return 0;
+    const std::string bytes = EncodeClockRecord(saved);
+    Require(!DecodeClockRecord({reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size()}, Settings(), again));
+    Require(EncodeClockRecord(again) == bytes);
     return 0;
 }

@@ -90,11 +90,11 @@ Side ListOfResult(Side sideToMove, const MoveLists& lists) {
 
 }  // namespace
 
-std::string WriteCgn(const GameHead& head, const MoveLists& lists) {
-    return WriteHead(head, ResultToken(lists)) + "\r" + WriteMovetext(lists);
+std::string EncodeCgn(const GameHead& head, const MoveLists& lists) {
+    return EncodeHead(head, ResultToken(lists)) + "\r" + WriteMovetext(lists);
 }
 
-std::optional<GameFileError> ReadCgn(std::string_view bytes, Side sideToMove, MoveLists& lists) {
+std::optional<GameFileError> DecodeCgn(std::string_view bytes, Side sideToMove, MoveLists& lists) {
     const size_t start = FindMovetext(bytes);
     if (start == std::string_view::npos) return ErrorAt(Rule::NoHead, bytes.size());
 

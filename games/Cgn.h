@@ -8,8 +8,8 @@
 
 // Deliberate: the movetext begins on the line feed of the empty line behind the head, so that a carriage return stands
 // before it.
-std::string WriteCgn(const GameHead& head, const MoveLists& lists);
+std::string EncodeCgn(const GameHead& head, const MoveLists& lists);
 
 // Reads the lists. A result becomes the last entry of the list of the side to move, or of the other side's where its
 // last move is mate. The head is not looked at.
-std::optional<GameFileError> ReadCgn(std::string_view bytes, Side sideToMove, MoveLists& lists);
+std::optional<GameFileError> DecodeCgn(std::string_view bytes, Side sideToMove, MoveLists& lists);

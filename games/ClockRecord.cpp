@@ -59,9 +59,9 @@ void ReadProgress(SlotReader& slots, modClock::ClockState& clock) {
     for (bool& armed : clock.SecondPeriodArmed) armed = slots.NextCheck();
 }
 
-void ReadFields(SlotReader& slots, SavedClock& saved) {
+void ReadFields(SlotReader& slots, ClockRecord& saved) {
     for (std::string& name : saved.Options.PlayerNames) name = slots.NextName(MaxSavedName);
-    ReadOptions(slots, saved.Options);
+    DecodeOptions(slots, saved.Options);
     modClock::ClockState& clock = saved.Clock;
     static_cast<modClock::TimeControl&>(clock) = TimeControlOf(saved.Options);
     for (int32_t& seconds : clock.PlayerTime) seconds = slots.Next(0);
@@ -96,7 +96,7 @@ modClock::TimeControl TimeControlOf(const Settings& settings) {
     return control;
 }
 
-std::string WriteClockRecord(const SavedClock& saved) {
+std::string EncodeClockRecord(const ClockRecord& saved) {
     SlotRecord record;
     size_t next = 0;
     const auto write = [&](auto value) {
@@ -132,11 +132,11 @@ std::string WriteClockRecord(const SavedClock& saved) {
     return EncodeRecord(record);
 }
 
-std::optional<GameFileError> ReadClockRecord(std::span<const uint8_t> bytes, const Settings& present,
-                                             SavedClock& saved) {
+std::optional<GameFileError> DecodeClockRecord(std::span<const uint8_t> bytes, const Settings& present,
+                                               ClockRecord& saved) {
     const DecodedRecord record = DecodeRecord(bytes);
     SlotReader slots(record);
-    SavedClock read{present, {}, White, false};
+    ClockRecord read{present, {}, White, false};
     try {
         ReadFields(slots, read);
     } catch (const BadSlot& bad) {

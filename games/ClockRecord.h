@@ -16,7 +16,7 @@ inline constexpr int32_t MaxSavedName = 128;
 inline constexpr int32_t MostSavedMoves = 99'999;
 
 // A clock as it stood, with what the players had set.
-struct SavedClock {
+struct ClockRecord {
     Settings Options;            // all but the language; its time control is Clock's
     modClock::ClockState Clock;  // all but what the faces show and the timer
     Side SideToMove = White;     // the Scorlet's
@@ -26,14 +26,14 @@ struct SavedClock {
 modClock::TimeControl TimeControlOf(const Settings& settings);
 
 // The bytes of the record. The time control is taken from Clock.
-std::string WriteClockRecord(const SavedClock& saved);
+std::string EncodeClockRecord(const ClockRecord& saved);
 
 // Reads the record at the start of the bytes; what stands behind it is ignored. What the record does not hold, the
 // language, is as in `present`, and so is the second period of an unknown clock type. A record without the last five
 // fields is read as one of an earlier form: turn, progress and the armed second periods follow from the rest, and the
 // other files are read where they exist.
-std::optional<GameFileError> ReadClockRecord(std::span<const uint8_t> bytes, const Settings& present,
-                                             SavedClock& saved);
+std::optional<GameFileError> DecodeClockRecord(std::span<const uint8_t> bytes, const Settings& present,
+                                               ClockRecord& saved);
 
 // An older clock file that is longer than this, in bytes, is none of ours: its tail is not carried over.
 inline constexpr size_t LongestKeptFile = 16 << 20;

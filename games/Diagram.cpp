@@ -6,7 +6,7 @@ constexpr std::string_view EmptySquare = "--", Gap = "  ", LineEnd = "\r\n";
 
 }  // namespace
 
-std::string WriteDiagram(const Board& board) {
+std::string EncodeDiagram(const Board& board) {
     std::string text;
     text.reserve(DiagramBytes);
     for (int rank = 8; rank >= 1; --rank) {
@@ -20,7 +20,7 @@ std::string WriteDiagram(const Board& board) {
     return text;
 }
 
-std::optional<GameFileError> ReadDiagram(std::string_view text, Board& board) {
+std::optional<GameFileError> DecodeDiagram(std::string_view text, Board& board) {
     using Rule = GameFileError::Rule;
     Board read;
     const auto take = [&](std::string_view wanted) {

@@ -7,8 +7,8 @@
 
 inline constexpr size_t DiagramBytes = 8 * 34;
 
-std::string WriteDiagram(const Board& board);
+std::string EncodeDiagram(const Board& board);
 
 // Reads a diagram; the line end behind the last rank may be missing. No captured piece is shown on the board that is
 // read.
-std::optional<GameFileError> ReadDiagram(std::string_view text, Board& board);
+std::optional<GameFileError> DecodeDiagram(std::string_view text, Board& board);

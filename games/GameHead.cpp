@@ -36,7 +36,7 @@ std::string_view ResultToken(const MoveLists& lists) {
     return "*";
 }
 
-std::string WriteHead(const GameHead& head, std::string_view result) {
+std::string EncodeHead(const GameHead& head, std::string_view result) {
     return TagPair("Event", "") + TagPair("Site", "") + TagPair("Date", Dashed(head.date)) + TagPair("Round", "") +
            TagPair("White", OnOneLine(head.names[White])) + TagPair("Black", OnOneLine(head.names[Black])) +
            TagPair("Result", result);

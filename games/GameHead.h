@@ -21,4 +21,4 @@ std::string_view ResultToken(const MoveLists& lists);
 
 // The seven lines of tag pairs, each with its line end: Event, Site, Date, Round, White, Black and Result. Quotes in a
 // name are written as they stand.
-std::string WriteHead(const GameHead& head, std::string_view result);
+std::string EncodeHead(const GameHead& head, std::string_view result);

@@ -9,16 +9,16 @@ GameFileError ErrorAt(GameFileError::Rule rule, size_t offset) { return {PgnFile
 
 }  // namespace
 
-std::string WritePgn(const GameHead& head, const Recorder& recorder) {
+std::string EncodePgn(const GameHead& head, const Recorder& recorder) {
     const std::string_view result = ResultToken(recorder.Lists());
     std::string text = recorder.RunningText();
     RemoveResultMark(text);
     text += recorder.PendingText();
     text += result;
-    return WriteHead(head, result).append(LineEnd).append(text).append(LineEnd);
+    return EncodeHead(head, result).append(LineEnd).append(text).append(LineEnd);
 }
 
-std::optional<GameFileError> ReadPgn(std::string_view bytes, std::string& text) {
+std::optional<GameFileError> DecodePgn(std::string_view bytes, std::string& text) {
     std::string_view rest = bytes;
     for (int line = 0; line < HeadLines; ++line) {
         const size_t end = rest.find(LineEnd);

@@ -7,8 +7,8 @@
 // The game in Portable Game Notation, as other chess programs read it: the head, an empty line, and the recorder's own
 // text of the game, ended by the result.
 
-std::string WritePgn(const GameHead& head, const Recorder& recorder);
+std::string EncodePgn(const GameHead& head, const Recorder& recorder);
 
 // The text of the game with its result, from a file that WritePgn made: it stands behind the eighth line end, and the
 // last line end is not part of it. Tags are not looked at.
-std::optional<GameFileError> ReadPgn(std::string_view bytes, std::string& text);
+std::optional<GameFileError> DecodePgn(std::string_view bytes, std::string& text);

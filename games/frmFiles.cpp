@@ -141,7 +141,7 @@ void frmFiles::Act() {
 void frmFiles::OnLoad(const std::wstring& name) {
     if (!games.Exists(name)) return Tell(texts(TextId::GameBefore) + name + texts(TextId::NotFound));
     if (!Ask(texts(TextId::GameBefore) + name + texts(TextId::WillBeLoaded))) return;
-    LoadedGame game;
+    SavedGame game;
     try {
         if (const auto error = games.LoadGame(name, host.PresentSettings(), game)) {
             return Tell(texts.Compose(TextId::GameDamaged, games.PathOf(name, error->file), ReasonOf(*error, texts)));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "games/GameName.h"
-#include "games/SavedGames.h"
+#include "games/GameStore.h"
 #include "platform/Dialog.h"
 #include "platform/ToolTips.h"
 
@@ -11,7 +11,7 @@ class GameHost {
     virtual GameFiles FilesOfGame() = 0;  // as it stands
     virtual void GameSaved() = 0;         // what FilesOfGame gave
     virtual const Settings& PresentSettings() const = 0;
-    virtual void TakeGame(const std::wstring& name, LoadedGame& game) = 0;
+    virtual void TakeGame(const std::wstring& name, SavedGame& game) = 0;
     virtual void OpenHelp(HWND owner) = 0;
 
   protected:
@@ -25,7 +25,7 @@ enum class FilesMode { Load, Save, Delete };
 class frmFiles : public Dialog {
   public:
     // All of them must outlive the dialog.
-    frmFiles(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const SavedGames& games,
+    frmFiles(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const GameStore& games,
              GameHost& host, FilesMode mode)
         : Dialog(texts, messageBoxes, background), games(games), host(host), mode(mode) {}
 
@@ -54,7 +54,7 @@ class frmFiles : public Dialog {
     static LRESULT CALLBACK NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                           DWORD_PTR self);
 
-    const SavedGames& games;
+    const GameStore& games;
     GameHost& host;
     FilesMode mode;
     GameName typed;

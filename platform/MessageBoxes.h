@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/Texts.h"
+#include "texts/Texts.h"
 
 #include <windows.h>
 

@@ -12,25 +12,6 @@ constexpr HRESULT PathNotFound = static_cast<HRESULT>(0x800A004C);
 
 }  // namespace
 
-TextId ReasonRow(DWORD code) {
-    switch (code) {
-        case ERROR_ACCESS_DENIED:
-        case ERROR_WRITE_PROTECT: return TextId::ReasonAccessDenied;
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-        case ERROR_BUSY: return TextId::ReasonInUse;
-        case ERROR_DISK_FULL:
-        case ERROR_HANDLE_DISK_FULL: return TextId::ReasonDiskFull;
-        case ERROR_FILE_NOT_FOUND:
-        case ERROR_PATH_NOT_FOUND: return TextId::ReasonNotFound;
-        case ERROR_INVALID_NAME:
-        case ERROR_FILENAME_EXCED_RANGE: return TextId::ReasonInvalidName;
-        case ERROR_ALREADY_EXISTS:
-        case ERROR_FILE_EXISTS: return TextId::ReasonNameTaken;
-        default: return TextId::ReasonSystemError;
-    }
-}
-
 DWORD CodeOf(HRESULT status) {
     switch (status) {
         case FileNotFound: return ERROR_FILE_NOT_FOUND;

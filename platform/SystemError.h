@@ -1,7 +1,5 @@
 #pragma once
 
-#include "settings/TextIds.h"
-
 #include <windows.h>
 
 #include <exception>
@@ -20,9 +18,6 @@ class SystemError : public std::exception {
     DWORD code;
     std::wstring thing;
 };
-
-// The text that explains an error code; ReasonSystemError, which wants the number as %1, for one without a row.
-TextId ReasonRow(DWORD code);
 
 // The code of GetLastError in a status of COM or of the scripting runtime.
 DWORD CodeOf(HRESULT status);

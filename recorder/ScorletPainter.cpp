@@ -2,7 +2,7 @@
 
 #include "platform/Colours.h"
 #include "platform/Painting.h"
-#include "settings/modResource.h"
+#include "platform/modResource.h"
 
 #include <string>
 

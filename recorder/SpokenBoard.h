@@ -1,7 +1,7 @@
 #pragma once
 
 #include "recorder/BoardInput.h"
-#include "settings/Texts.h"
+#include "texts/Texts.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 
 #include "base/Side.h"
 #include "settings/SoundTables.h"
-#include "settings/TextIds.h"
+#include "texts/TextIds.h"
 
 #include <array>
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/SystemError.h"
-#include "settings/Texts.h"
+#include "texts/Texts.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ std::wstring ReasonOf(const RecordError& error, const Texts& texts) {
 int32_t SettingsFile::LoadLanguage() const {
     try {
         const auto bytes = ReadFileBytes(path, LongestRecord);
-        if (bytes) return ReadLanguage(DecodeRecord(*bytes).slots);
+        if (bytes) return DecodeLanguage(DecodeRecord(*bytes).slots);
     } catch (const SystemError&) {
         // Load, which follows, says so.
     }
@@ -40,7 +40,7 @@ std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
             settings.LanguageIndex = language;
             return {};
         }
-        if (const auto error = ReadSettings(DecodeRecord(*bytes), settings))
+        if (const auto error = DecodeSettings(DecodeRecord(*bytes), settings))
             return texts.Compose(TextId::SettingsDamaged, path, ReasonOf(*error, texts));
         return {};
     } catch (const SystemError& error) {
@@ -49,5 +49,5 @@ std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
 }
 
 void SettingsFile::Save(const Settings& settings) const {
-    ReplaceFileBytes(path, EncodeRecord(WriteSettings(settings)));
+    ReplaceFileBytes(path, EncodeRecord(EncodeSettings(settings)));
 }

@@ -11,7 +11,7 @@ constexpr int32_t PgnSlot = 301;
 
 }  // namespace
 
-int32_t ReadLanguage(const SlotRecord& record) {
+int32_t DecodeLanguage(const SlotRecord& record) {
     if (std::holds_alternative<std::monostate>(record[LanguageSlot])) return English;
     try {
         return NumberInSlot(record, LanguageSlot);
@@ -20,7 +20,7 @@ int32_t ReadLanguage(const SlotRecord& record) {
     }
 }
 
-void ReadOptions(SlotReader& slots, Settings& settings) {
+void DecodeOptions(SlotReader& slots, Settings& settings) {
     for (int32_t& seconds : settings.PeriodLimit) seconds = slots.NextMinutes(60);
     for (int32_t& seconds : settings.SecondPeriodTime) seconds = slots.NextMinutes(0);
     for (int32_t& seconds : settings.MoveBonus) seconds = slots.Next(0);
@@ -35,13 +35,13 @@ void ReadOptions(SlotReader& slots, Settings& settings) {
     settings.SetFlagSound(slots.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
 }
 
-std::optional<RecordError> ReadSettings(const DecodedRecord& record, Settings& settings) {
+std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings& settings) {
     SlotReader reader(record);
     try {
         settings.PlayerNames[White] = reader.NextName(MaxNameCharacters);
         const int32_t left = MaxNameCharacters - static_cast<int32_t>(settings.PlayerNames[White].size());
         settings.PlayerNames[Black] = reader.NextName(left);
-        ReadOptions(reader, settings);
+        DecodeOptions(reader, settings);
         settings.WritePgn = reader.At(PgnSlot) != 0;
     } catch (const BadSlot& bad) {
         return bad.error;
@@ -50,7 +50,7 @@ std::optional<RecordError> ReadSettings(const DecodedRecord& record, Settings& s
     return record.error;
 }
 
-SlotRecord WriteSettings(const Settings& settings) {
+SlotRecord EncodeSettings(const Settings& settings) {
     if (settings.PlayerNames[White].size() + settings.PlayerNames[Black].size() > MaxNameCharacters)
         throw RunTimeError(Fault::OutOfRange);
 

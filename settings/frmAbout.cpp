@@ -1,9 +1,9 @@
 #include "settings/frmAbout.h"
 
 #include "platform/SystemError.h"
+#include "platform/modResource.h"
 #include "resources/resource.h"
 #include "settings/VersionInformation.h"
-#include "settings/modResource.h"
 
 #include <commctrl.h>
 

@@ -1,11 +1,11 @@
 #include "settings/frmSetup.h"
 
-#include "clock/TimeText.h"
+#include "base/TimeText.h"
 #include "platform/Ansi.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
+#include "platform/modSound.h"
 #include "resources/resource.h"
-#include "settings/modSound.h"
 
 #include <commctrl.h>
 #include <windowsx.h>

@@ -222,7 +222,7 @@ Settings QuietSettings(bool withScorlet) {
 
 void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings) {
     CreateDirectoryW((programFolder + L"Data").c_str(), nullptr);
-    WriteFileText(programFolder + L"Data\\TORVANIX.set", EncodeRecord(WriteSettings(settings)));
+    WriteFileText(programFolder + L"Data\\TORVANIX.set", EncodeRecord(EncodeSettings(settings)));
 }
 
 namespace {

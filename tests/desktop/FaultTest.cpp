@@ -1,4 +1,4 @@
-#include "games/SavedGames.h"
+#include "games/GameStore.h"
 #include "platform/Ansi.h"
 #include "tests/desktop/Desktop.h"
 
@@ -160,7 +160,7 @@ TEST_F(FaultTest, KilledWhileSavingLeavesEachFileOldOrNew) {
         games[game] = Read(L"whole");
     }
     for (size_t i = 0; i < FileExtensions.size(); ++i) ASSERT_NE(games[0][i], games[1][i]) << i;
-    const SavedGames store(saved);
+    const GameStore store(saved);
     int between = 0;
     for (int moment = 0; moment < moments; ++moment) {
         SCOPED_TRACE(moment);
@@ -189,7 +189,7 @@ TEST_F(FaultTest, KilledWhileSavingLeavesEachFileOldOrNew) {
         if (HasWaitingFiles(L"game")) ++between;
         if (left[0].empty()) continue;
         EXPECT_TRUE(!before[0].empty() || replaced == left.size()) << "a new game is there whole or not at all";
-        LoadedGame loaded;
+        SavedGame loaded;
         EXPECT_FALSE(store.LoadGame(L"game", Settings(), loaded)) << "damaged";
     }
     EXPECT_GT(between, 0) << "every kill came too late or too early";

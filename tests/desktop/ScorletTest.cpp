@@ -1,8 +1,8 @@
 #include "tests/desktop/Desktop.h"
 
+#include "bench/Replay.h"
 #include "platform/Ansi.h"
 #include "recorder/Notation.h"
-#include "recorder/Replay.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "settings/SettingsFile.h"
-#include "settings/Texts.h"
+#include "texts/Texts.h"
 
 #include <gtest/gtest.h>
 

@@ -48,7 +48,7 @@ TEST(CgnTest, MovetextIsWrittenAsItStandsInTheLists) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(WriteCgn(Head, Lists(row.lists)), File(row.movetext, row.result));
+        EXPECT_EQ(EncodeCgn(Head, Lists(row.lists)), File(row.movetext, row.result));
     }
 }
 
@@ -75,11 +75,11 @@ TEST(CgnTest, ListsAndResultComeBack) {
         SCOPED_TRACE(row.name);
         MoveLists lists;
         const std::string bytes = File(row.movetext);
-        const auto error = ReadCgn(bytes, row.toMove, lists);
+        const auto error = DecodeCgn(bytes, row.toMove, lists);
         ASSERT_FALSE(error) << error->place;
         EXPECT_EQ(ListText(lists), row.lists);
         MoveLists again;
-        ASSERT_FALSE(ReadCgn(WriteCgn(Head, lists), row.toMove, again));
+        ASSERT_FALSE(DecodeCgn(EncodeCgn(Head, lists), row.toMove, again));
         EXPECT_EQ(ListText(again), row.lists);
     }
 }
@@ -105,17 +105,17 @@ TEST(CgnTest, DamageIsNamedWithItsOffset) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         MoveLists lists = Lists("kept /");
-        EXPECT_EQ(ReadCgn(File(row.movetext), White, lists),
+        EXPECT_EQ(DecodeCgn(File(row.movetext), White, lists),
                   (GameFileError{MovesFile, row.rule, start + static_cast<int32_t>(row.offset)}));
         EXPECT_EQ(ListText(lists), "1. kept / ");
     }
     MoveLists lists;
-    EXPECT_EQ(ReadCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Rule::NoHead, 7}));
+    EXPECT_EQ(DecodeCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Rule::NoHead, 7}));
 }
 
 TEST(CgnTest, NamesStayOnTheirLine) {
-    const std::string bytes = WriteCgn({{1, 2, 3}, {"A\r\n\r\nB", ""}}, Lists("e4 /"));
+    const std::string bytes = EncodeCgn({{1, 2, 3}, {"A\r\n\r\nB", ""}}, Lists("e4 /"));
     EXPECT_NE(bytes.find("[Date \"0001-02-03\"]\r\n[Round \"\"]\r\n[White \"A    B\"]\r\n"), std::string::npos);
     MoveLists lists;
-    EXPECT_FALSE(ReadCgn(bytes, Black, lists));
+    EXPECT_FALSE(DecodeCgn(bytes, Black, lists));
 }

@@ -13,8 +13,8 @@ std::span<const uint8_t> Bytes(const std::string& text) {
 }
 
 // A game of two plies under way, with a value of its own in every field that may have one.
-SavedClock UnderWay() {
-    SavedClock saved;
+ClockRecord UnderWay() {
+    ClockRecord saved;
     saved.Options.PlayerNames = {"A\xF1", ""};
     saved.Options.TurnClock = true;
     saved.Options.ShowMoveNumber = false;
@@ -41,10 +41,10 @@ SavedClock UnderWay() {
 
 constexpr size_t Base = 4;  // the first slot behind the names of UnderWay
 
-SlotRecord RecordOf(const SavedClock& saved) { return DecodeRecord(Bytes(WriteClockRecord(saved))).slots; }
+SlotRecord RecordOf(const ClockRecord& saved) { return DecodeRecord(Bytes(EncodeClockRecord(saved))).slots; }
 
-std::optional<GameFileError> Read(const SlotRecord& record, SavedClock& saved) {
-    return ReadClockRecord(Bytes(EncodeRecord(record)), Settings(), saved);
+std::optional<GameFileError> Read(const SlotRecord& record, ClockRecord& saved) {
+    return DecodeClockRecord(Bytes(EncodeRecord(record)), Settings(), saved);
 }
 
 }  // namespace
@@ -68,26 +68,26 @@ TEST(ClockRecordTest, SlotsHaveTheirTypesAndValues) {
 TEST(ClockRecordTest, RoundTripKeepsEverythingAndTheLanguageInUse) {
     Settings present;
     present.LanguageIndex = French;
-    SavedClock read;
-    const std::string bytes = WriteClockRecord(UnderWay());
-    ASSERT_FALSE(ReadClockRecord(Bytes(bytes), present, read));
-    EXPECT_EQ(WriteClockRecord(read), bytes);
+    ClockRecord read;
+    const std::string bytes = EncodeClockRecord(UnderWay());
+    ASSERT_FALSE(DecodeClockRecord(Bytes(bytes), present, read));
+    EXPECT_EQ(EncodeClockRecord(read), bytes);
     EXPECT_EQ(read.Options.PeriodLimit, (std::array{90, 1200})) << "settings and clock agree";
     EXPECT_EQ(read.Options.LanguageIndex, French);
 
     // Every second comes back, whatever its minutes are as a fraction.
-    SavedClock saved;
+    ClockRecord saved;
     for (int32_t seconds = 60; seconds < 20000; seconds += 7) {
         saved.Clock.PeriodLimit.fill(seconds);
-        ASSERT_FALSE(ReadClockRecord(Bytes(WriteClockRecord(saved)), present, read));
+        ASSERT_FALSE(DecodeClockRecord(Bytes(EncodeClockRecord(saved)), present, read));
         ASSERT_EQ(read.Clock.PeriodLimit[Black], seconds);
     }
 }
 
 TEST(ClockRecordTest, LongNamesAreCut) {
-    SavedClock saved = UnderWay();
+    ClockRecord saved = UnderWay();
     saved.Options.PlayerNames = {std::string(200, 'a'), std::string(128, 'b')};
-    SavedClock read;
+    ClockRecord read;
     ASSERT_FALSE(Read(RecordOf(saved), read));
     EXPECT_EQ(read.Options.PlayerNames, (std::array{std::string(128, 'a'), std::string(128, 'b')}));
 }
@@ -102,12 +102,12 @@ TEST(ClockRecordTest, ProgressFollowsFromTheRestInAnEarlierForm) {
     for (const Row& row : {Row{"never started", {0, 0}, 0, false, false}, Row{"White runs", {1, 0}, 60, true, true},
                            Row{"Black runs", {1, 1}, 60, true, false}, Row{"flag fallen", {3, 2}, 0, false, false}}) {
         SCOPED_TRACE(row.name);
-        SavedClock saved = UnderWay();
+        ClockRecord saved = UnderWay();
         saved.Clock.MoveCount = row.counts;
         saved.Clock.PlayerTime[saved.Clock.SideByCounts()] = row.runningTime;
         SlotRecord record = RecordOf(saved);
         for (size_t slot = Base + 22; slot <= Base + 26; ++slot) record[slot] = SlotValue();
-        SavedClock read;
+        ClockRecord read;
         ASSERT_FALSE(Read(record, read));
         EXPECT_EQ(read.Clock.GameStarted, row.started);
         EXPECT_EQ(read.Clock.TurnFlag, row.turnFlag);
@@ -149,22 +149,22 @@ TEST(ClockRecordTest, DamageIsNamedWithItsSlot) {
         SCOPED_TRACE(row.name);
         SlotRecord record = RecordOf(UnderWay());
         record[row.field] = row.value;
-        SavedClock read;
+        ClockRecord read;
         const auto error = Read(record, read);
         const auto slot = static_cast<int32_t>(row.named > 0 ? row.named : row.field);
         EXPECT_EQ(error, (GameFileError{ClockFile, row.rule, slot}));
         EXPECT_EQ(read.Options.TurnClock, false) << "nothing is taken";
     }
 
-    SavedClock read;
-    const std::string bytes = WriteClockRecord(UnderWay());
-    EXPECT_EQ(ReadClockRecord(Bytes(bytes).first(bytes.size() - 1), Settings(), read),
+    ClockRecord read;
+    const std::string bytes = EncodeClockRecord(UnderWay());
+    EXPECT_EQ(DecodeClockRecord(Bytes(bytes).first(bytes.size() - 1), Settings(), read),
               (GameFileError{ClockFile, Rule::ShortRecord, 999}));
-    EXPECT_EQ(ReadClockRecord(Bytes("PK\3\4"), Settings(), read), (GameFileError{ClockFile, Rule::UnknownTag, 0}));
+    EXPECT_EQ(DecodeClockRecord(Bytes("PK\3\4"), Settings(), read), (GameFileError{ClockFile, Rule::UnknownTag, 0}));
 }
 
 TEST(ClockRecordTest, CountingUpTheTimeUsedMayPassTheLimitByABonusOnly) {
-    SavedClock saved = UnderWay(), read;
+    ClockRecord saved = UnderWay(), read;
     saved.Clock.CountTimeDown = false;
     saved.Clock.PlayerTime[White] = 95;
     EXPECT_FALSE(Read(RecordOf(saved), read)) << "a bonus was added, and no second has passed since";
@@ -178,7 +178,7 @@ TEST(ClockRecordTest, CountingUpTheTimeUsedMayPassTheLimitByABonusOnly) {
 TEST(ClockRecordTest, TheTailOfALongerFileStays) {
     EXPECT_EQ(WithOldTail("abc", "12345"), "abc45");
     EXPECT_EQ(WithOldTail("abc", "12"), "abc");
-    const std::string bytes = WriteClockRecord(UnderWay());
-    SavedClock read;
-    EXPECT_FALSE(ReadClockRecord(Bytes(WithOldTail(bytes, std::string(20000, 'x'))), Settings(), read));
+    const std::string bytes = EncodeClockRecord(UnderWay());
+    ClockRecord read;
+    EXPECT_FALSE(DecodeClockRecord(Bytes(WithOldTail(bytes, std::string(20000, 'x'))), Settings(), read));
 }

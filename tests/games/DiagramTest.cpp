@@ -16,11 +16,11 @@ const std::string Initial =
 
 }  // namespace
 
-TEST(DiagramTest, InitialPositionByteForByte) { EXPECT_EQ(WriteDiagram(Board()), Initial); }
+TEST(DiagramTest, InitialPositionByteForByte) { EXPECT_EQ(EncodeDiagram(Board()), Initial); }
 
 TEST(DiagramTest, DamageIsNamedWithLineAndColumn) {
     Board read;
-    EXPECT_FALSE(ReadDiagram(std::string_view(Initial).substr(0, 270), read)) << "without the last line end";
+    EXPECT_FALSE(DecodeDiagram(std::string_view(Initial).substr(0, 270), read)) << "without the last line end";
     using Rule = GameFileError::Rule;
     struct Row {
         const char* name;
@@ -40,7 +40,7 @@ TEST(DiagramTest, DamageIsNamedWithLineAndColumn) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(ReadDiagram(std::string(Initial).replace(row.at, row.length, row.text), read),
+        EXPECT_EQ(DecodeDiagram(std::string(Initial).replace(row.at, row.length, row.text), read),
                   (GameFileError{DiagramFile, row.rule, row.line, row.column}));
     }
 }

@@ -1,4 +1,4 @@
-#include "games/SavedGame.h"
+#include "games/GameCodec.h"
 #include "tests/games/GameText.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ Reading ReadByExtract(const Recorder& recorder) {
     Settings settings;
     settings.PlayerNames = {"Kramer, J\xF6rg", "Team 1. Anna"};
     settings.WritePgn = true;
-    const GameFiles files = PrepareGame(settings, modClock::ClockState(), &recorder, {2024, 3, 9});
+    const GameFiles files = EncodeGame(settings, modClock::ClockState(), &recorder, {2024, 3, 9});
     const std::string path = testing::TempDir() + "torvanix-reader";
     std::ofstream(path + ".pgn", std::ios::binary) << *files[PgnFile];
     const std::string command = "PATH=$PATH:/usr/games pgn-extract -s -Wuci --notags -w 99999 '" + path + ".pgn' >'" +

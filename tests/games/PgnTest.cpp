@@ -11,7 +11,7 @@ std::string File(const std::string& text, const std::string& result) {
     return Lines + "[Result \"" + result + "\"]\r\n\r\n" + text + "\r\n";
 }
 
-std::string Written(const Recorder& recorder) { return WritePgn({{2024, 12, 31}, {"A", "B"}}, recorder); }
+std::string Written(const Recorder& recorder) { return EncodePgn({{2024, 12, 31}, {"A", "B"}}, recorder); }
 
 }  // namespace
 
@@ -26,7 +26,7 @@ TEST(PgnTest, TextAndResultAreWrittenAndComeBack) {
     EXPECT_EQ(Written(Recorder()), File("*", "*"));
 
     std::string text;
-    ASSERT_FALSE(ReadPgn(ended, text));
+    ASSERT_FALSE(DecodePgn(ended, text));
     EXPECT_EQ(text, "1. e4 e5 2. Nf3# 1-0");
     Recorder restored;
     restored.Restore(recorder.Position(), recorder.Lists(), Black, text);
@@ -41,7 +41,7 @@ TEST(PgnTest, DamagedFilesAreRefused) {
                                       {Lines, Rule::NoHead},
                                       {whole.substr(0, whole.size() - 1), Rule::EndsEarly},
                                       {whole.substr(0, whole.size() - 9), Rule::EndsEarly}}) {
-        EXPECT_EQ(ReadPgn(bytes, text), (GameFileError{PgnFile, rule, static_cast<int32_t>(bytes.size())}));
+        EXPECT_EQ(DecodePgn(bytes, text), (GameFileError{PgnFile, rule, static_cast<int32_t>(bytes.size())}));
         EXPECT_EQ(text, "kept");
     }
 }

@@ -69,11 +69,11 @@ TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
         GameFiles FilesOfGame() override { return {}; }
         void GameSaved() override {}
         const Settings& PresentSettings() const override { return settings; }
-        void TakeGame(const std::wstring&, LoadedGame&) override {}
+        void TakeGame(const std::wstring&, SavedGame&) override {}
         void OpenHelp(HWND) override {}
         Settings settings;
     } host;
-    const SavedGames games(folder.Path());
+    const GameStore games(folder.Path());
     for (FilesMode mode : {FilesMode::Load, FilesMode::Save, FilesMode::Delete}) {
         frmFiles files(texts, messageBoxes, 0xBFBFBF, games, host, mode);
         files.Open(nullptr);

@@ -34,43 +34,43 @@ constexpr int32_t Most = std::numeric_limits<int32_t>::max();
 }  // namespace
 
 TEST(SettingsRecordTest, RoundTripKeepsEverything) {
-    const SlotRecord record = WriteSettings(Unusual());
+    const SlotRecord record = EncodeSettings(Unusual());
     Settings read;
-    EXPECT_FALSE(ReadSettings({record, {}}, read));
-    read.LanguageIndex = ReadLanguage(record);
-    EXPECT_EQ(WriteSettings(read), record);
+    EXPECT_FALSE(DecodeSettings({record, {}}, read));
+    read.LanguageIndex = DecodeLanguage(record);
+    EXPECT_EQ(EncodeSettings(read), record);
     EXPECT_EQ(read.PeriodLimit, (std::array{60, 10800}));
     EXPECT_TRUE(read.SecondPeriodEnabled && read.TurnClock && read.WritePgn);
     EXPECT_FALSE(read.CountTimeDown || read.ShowMoveNumber || read.OpenScorletAtStart);
 }
 
 TEST(SettingsRecordTest, FieldsFollowTheNames) {
-    const SlotRecord record = WriteSettings(Unusual());
+    const SlotRecord record = EncodeSettings(Unusual());
     const std::map<size_t, int32_t> wanted{{0, 4}, {4, 0xF1}, {5, 0}, {6, 1}, {7, 180}, {13, 1}, {19, 5}, {300, 3}};
     for (const auto& [slot, value] : wanted) EXPECT_EQ(record[slot], SlotValue(value)) << slot;
     EXPECT_EQ(record[20], SlotValue());
     EXPECT_EQ(record[301], SlotValue(int32_t{1}));
 
-    const SlotRecord plain = WriteSettings(Settings());
+    const SlotRecord plain = EncodeSettings(Settings());
     EXPECT_EQ(plain[2], SlotValue(int32_t{20})) << "an empty White name moves everything down";
     EXPECT_EQ(plain[301], SlotValue());
 }
 
 TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
-    SlotRecord record = WriteSettings(Settings());
+    SlotRecord record = EncodeSettings(Settings());
     record[2] = 30.0;
     record[8] = true;          // a check box
     record[11] = SlotValue();  // clock type 0
     Settings read;
-    EXPECT_FALSE(ReadSettings({record, {}}, read));
+    EXPECT_FALSE(DecodeSettings({record, {}}, read));
     EXPECT_EQ(read.PeriodLimit[White], 1800);
     EXPECT_TRUE(read.CountTimeDown);
     EXPECT_EQ(read.ClockType, 0);
     EXPECT_FALSE(read.SecondPeriodEnabled);
     record[300] = SlotValue();
-    EXPECT_EQ(ReadLanguage(record), English);
+    EXPECT_EQ(DecodeLanguage(record), English);
     record[300] = 3.0;
-    EXPECT_EQ(ReadLanguage(record), French);
+    EXPECT_EQ(DecodeLanguage(record), French);
 }
 
 TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
@@ -97,10 +97,10 @@ TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        SlotRecord record = WriteSettings(Settings());
+        SlotRecord record = EncodeSettings(Settings());
         record[static_cast<size_t>(row.slot)] = row.value;
         Settings read;
-        const auto error = ReadSettings({record, {}}, read);
+        const auto error = DecodeSettings({record, {}}, read);
         ASSERT_TRUE(error);
         EXPECT_EQ(error->slot, row.slot);
         EXPECT_EQ(error->rule, row.rule);
@@ -108,7 +108,7 @@ TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
 
     const RecordError cut{RecordError::Rule::ShortFile, 18};
     Settings readOfCut;
-    const auto error = ReadSettings({WriteSettings(Unusual()), cut}, readOfCut);
+    const auto error = DecodeSettings({EncodeSettings(Unusual()), cut}, readOfCut);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->slot, 18);
     EXPECT_EQ(readOfCut.MoveBonus, Unusual().MoveBonus) << "what was read before it stays";
@@ -119,8 +119,8 @@ TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
     Settings settings;
     settings.PlayerNames = {std::string(200, 'a'), std::string(84, 'b')};
     Settings read;
-    EXPECT_FALSE(ReadSettings({WriteSettings(settings), {}}, read));
+    EXPECT_FALSE(DecodeSettings({EncodeSettings(settings), {}}, read));
     EXPECT_EQ(read.PlayerNames, settings.PlayerNames);
     settings.PlayerNames[Black] += 'b';
-    EXPECT_THROW(WriteSettings(settings), RunTimeError);
+    EXPECT_THROW(EncodeSettings(settings), RunTimeError);
 }

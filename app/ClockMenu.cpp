@@ -1,0 +1,88 @@
+#include "app/ClockMenu.h"
+
+#include "resources/resource.h"
+
+#include <array>
+#include <span>
+
+namespace {
+
+constexpr TextId NoKey{0};
+
+struct Entry {
+    int command;  // 0: a separator line
+    TextId text{};
+    TextId key = NoKey;
+    bool available = true;  // false: until the Scorlet is open
+};
+
+constexpr Entry Separator{0};
+
+constexpr std::array GameEntries{
+    Entry{mnuStart, TextId::MenuStart, TextId::MenuStartKey},
+    Separator,
+    Entry{mnuLoad, TextId::MenuLoad},
+    Entry{mnuSave, TextId::MenuSave},
+    Entry{mnuDelete, TextId::MenuDelete},
+    Separator,
+    Entry{mnuExit, TextId::MenuExit},
+};
+
+constexpr std::array ClockEntries{
+    Entry{mnuReset, TextId::MenuReset, TextId::MenuResetKey},
+    Entry{mnuPause, TextId::MenuPause},
+    Separator,
+    Entry{mnuSetup, TextId::MenuSetup, TextId::MenuSetupKey},
+};
+
+constexpr std::array ScorletEntries{
+    Entry{mnuShowScorlet, TextId::MenuShow},
+    Entry{mnuCloseScorlet, TextId::MenuClose, NoKey, false},
+    Separator,
+    Entry{mnuPrint, TextId::MenuPrint, NoKey, false},
+};
+
+constexpr std::array HelpEntries{
+    Entry{mnuContents, TextId::MenuContents},
+    Separator,
+    Entry{mnuAbout, TextId::MenuAbout},
+};
+
+void AppendPopup(HMENU bar, const Texts& texts, TextId caption, std::span<const Entry> entries) {
+    const HMENU popup = CreatePopupMenu();
+    for (const Entry& entry : entries) {
+        if (entry.command == 0) {
+            AppendMenuW(popup, MF_SEPARATOR, 0, nullptr);
+            continue;
+        }
+        const UINT state = entry.available ? MF_ENABLED : MF_GRAYED;
+        AppendMenuW(popup, MF_STRING | state, static_cast<UINT_PTR>(entry.command),
+                    EntryText(texts, entry.text, entry.key).c_str());
+    }
+    AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), texts(caption).c_str());
+}
+
+}  // namespace
+
+HMENU MakeClockMenu(const Texts& texts) {
+    const HMENU bar = CreateMenu();
+    AppendPopup(bar, texts, TextId::MenuGame, GameEntries);
+    AppendPopup(bar, texts, TextId::MenuClock, ClockEntries);
+    AppendPopup(bar, texts, TextId::MenuScorlet, ScorletEntries);
+    AppendPopup(bar, texts, TextId::MenuHelp, HelpEntries);
+    return bar;
+}
+
+UniqueAccelerators MakeClockAccelerators() {
+    std::array keys{
+        ACCEL{FCONTROL | FVIRTKEY, 'T', mnuStart},
+        ACCEL{FCONTROL | FVIRTKEY, 'R', mnuReset},
+        ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetup},
+        ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
+    };
+    return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
+}
+
+std::wstring EntryText(const Texts& texts, TextId entry, TextId key) {
+    return key == NoKey ? texts(entry) : texts(entry) + L"\t" + texts(key);
+}

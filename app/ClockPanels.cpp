@@ -1,0 +1,257 @@
+#include "app/ClockPanels.h"
+
+#include "base/TimeText.h"
+#include "platform/Ansi.h"
+#include "platform/modResource.h"
+#include "resources/resource.h"
+
+#include <array>
+
+namespace {
+
+constexpr int HandImageSize = 256;
+
+static_assert(cmdClock % 2 == 0, "pairs of controls begin at even numbers");
+
+}  // namespace
+
+Place PlaceOf(int id) {
+    if (id >= shpTurn && id < shpTurn + 2 * TurnMarksPerSide) return {shpTurn, id < TurnMark(Black, 0) ? White : Black};
+    return {id & ~1, id & 1 ? Black : White};
+}
+
+void ClockPanels::Create() {
+    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
+    constexpr DWORD text = WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE | SS_ENDELLIPSIS;
+    for (Side side : BothSides) {
+        const auto add = [&](const wchar_t* kind, int pair, DWORD style) {
+            form.AddControl(kind, ControlOf(pair, side), style);
+        };
+        // The order is the reading and the tab order; a label comes before what it names.
+        const auto addMark = [&](int mark) {
+            form.AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
+        };
+        addMark(0);
+        add(WC_STATICW, lblSide, text);
+        add(WC_STATICW, lblBlink, text | SS_RIGHT);
+        addMark(1);
+        add(WC_STATICW, lblFace, drawn);
+        addMark(2);
+        add(WC_STATICW, imgFlagUp, drawn);
+        add(WC_STATICW, imgFlagDown, SS_OWNERDRAW);
+        add(WC_STATICW, imgHand, drawn);
+        add(WC_BUTTONW, cmdClock, WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW);
+        add(WC_BUTTONW, cmdPause, WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW);
+        add(WC_STATICW, lblMoveNumber, text);
+        add(WC_STATICW, lblMoveCount, text);
+        for (int pair : {lblPeriod, lblPeriodTime, lblBonus, lblBonusTime}) add(WC_STATICW, pair, text | SS_RIGHT);
+    }
+    toolTips.Create();
+}
+
+void ClockPanels::LoadPictures() {
+    hand = Picture::OfIcon(L"HAND", HandImageSize);
+    flagUp = Picture(*modResource::LoadResourcePicture("FLAGUP"));
+    flagDown = Picture(*modResource::LoadResourcePicture("FLAGDOWN"));
+}
+
+void ClockPanels::ApplyTexts() {
+    for (Side side : BothSides) {
+        form.SetText(ControlOf(cmdClock, side), texts(TextId::ClockButton));
+        form.SetText(ControlOf(lblMoveNumber, side), texts(TextId::MoveNumber));
+        form.SetText(ControlOf(lblBonus, side), texts(TextId::BonusTime));
+    }
+}
+
+void ClockPanels::Arrange() {
+    RECT client{};
+    GetClientRect(form.Window(), &client);
+    if (client.right == 0 || client.bottom == 0) return;
+    arranged = client;
+    layout = LayOutClock(static_cast<int>(client.right), static_cast<int>(client.bottom));
+    painter.SetLayout(layout);
+    for (Side side : BothSides) ArrangePanel(side);
+    // Drawn controls show more or less at another size, so what they showed is no longer good.
+    RedrawWindow(form.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void ClockPanels::TakeSize() {
+    // Sizes that the window takes before it is shown come and go, and moving every control takes time.
+    if (!IsWindowVisible(form.Window())) return;
+    RECT client{};
+    GetClientRect(form.Window(), &client);
+    if (!EqualRect(&client, &arranged)) Arrange();
+}
+
+void ClockPanels::ArrangePanel(Side side) {
+    const PanelLayout& panel = layout.panels[side];
+    const auto move = [&](int id, const Box& box) {
+        SetWindowPos(form.Control(id), nullptr, box.left, box.top, box.width, box.height,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    };
+    const auto place = [&](int pair, const Box& box, HFONT font = nullptr) {
+        const int id = ControlOf(pair, side);
+        if (font) SendMessageW(form.Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+        move(id, box);
+    };
+    place(lblSide, panel.side, painter.NameFont(side, NameOf(side), panel.side.width));
+    place(lblBlink, panel.blink, painter.BlinkFont());
+    place(lblFace, panel.face);
+    place(imgFlagUp, panel.flag);
+    place(imgFlagDown, panel.flag);
+    place(imgHand, panel.hand);
+    place(cmdClock, panel.clockButton, painter.ButtonFont());
+    place(cmdPause, panel.pauseButton, painter.PauseFont());
+    place(lblMoveNumber, panel.moveNumber, painter.TextFont());
+    place(lblMoveCount, panel.moveCount, painter.TextFont());
+    place(lblPeriod, panel.period, painter.TextFont());
+    place(lblPeriodTime, panel.periodTime, painter.TextFont());
+    place(lblBonus, panel.bonus, painter.TextFont());
+    place(lblBonusTime, panel.bonusTime, painter.TextFont());
+    for (int mark = 0; mark < TurnMarksPerSide; ++mark)
+        move(TurnMark(side, mark), panel.turnMarks[static_cast<size_t>(mark)]);
+
+    const auto tip = [&](int pair, const Box& box, TextId row) {
+        toolTips.SetArea(ControlOf(pair, side), {box.left, box.top, box.Right(), box.Bottom()}, texts(row));
+    };
+    tip(imgFlagUp, panel.flag, TextId::TipFlag);
+    tip(imgHand, panel.hand, TextId::TipHand);
+    tip(lblPeriodTime, panel.periodTime, TextId::TipHoursMinutes);
+    tip(lblBonusTime, panel.bonusTime, TextId::TipMinutesSeconds);
+}
+
+std::wstring ClockPanels::NameOf(Side side) const {
+    const std::string& name = settings.PlayerNames[side];
+    return name.empty() ? texts(side == White ? TextId::White : TextId::Black) : FromAnsi(name);
+}
+
+int32_t ClockPanels::PeriodTime(Side side) const {
+    return settings.SecondPeriodEnabled ? settings.SecondPeriodTime[side] : settings.PeriodLimit[side];
+}
+
+void ClockPanels::ShowSettings() {
+    const std::wstring ordinal = texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()),
+                                               std::to_wstring(settings.MovesFirstPeriod));
+    const bool second = settings.SecondPeriodEnabled;
+    const std::wstring caption =
+        second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime);
+    for (Side side : BothSides) {
+        const int32_t bonus = settings.MoveBonus[side];
+        form.SetText(ControlOf(lblSide, side), NameOf(side));
+        form.SetText(ControlOf(lblPeriod, side), caption);
+        form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side))));
+        form.SetText(ControlOf(lblBonusTime, side), FromAnsi(MinutesSecondsText(bonus)));
+        for (int pair : {lblBonus, lblBonusTime}) form.SetVisible(ControlOf(pair, side), bonus > 0);
+        for (int pair : {lblMoveNumber, lblMoveCount}) form.SetVisible(ControlOf(pair, side), settings.ShowMoveNumber);
+    }
+    // The type of a name depends on its length.
+    Arrange();
+}
+
+void ClockPanels::ShowFace(Side side) {
+    const HWND face = form.Control(ControlOf(lblFace, side));
+    // Straight to where the text is kept: whether a control that its owner draws takes a new text for a reason to be
+    // drawn is its own affair. It is drawn once and at once, before the many other controls that a press changes.
+    DefWindowProcW(face, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(FromAnsi(commands.Clock().Face(side)).c_str()));
+    RedrawWindow(face, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void ClockPanels::ShowMoveNumbers() {
+    for (Side side : BothSides) {
+        const int32_t count = commands.Clock().State().MoveCount[side];
+        form.SetText(ControlOf(lblMoveCount, side), std::to_wstring(count) + L".");
+    }
+}
+
+void ClockPanels::ShowPhase() {
+    for (Side side : BothSides) {
+        for (int mark = 0; mark < TurnMarksPerSide; ++mark)
+            form.SetVisible(TurnMark(side, mark), commands.TurnMarksVisible(side));
+        form.SetVisible(ControlOf(imgFlagUp, side), !commands.FlagFallen(side));
+        form.SetVisible(ControlOf(imgFlagDown, side), commands.FlagFallen(side));
+        form.SetText(ControlOf(cmdPause, side), texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
+        form.SetEnabled(ControlOf(cmdClock, side), commands.ClockButtonEnabled(side));
+        form.SetEnabled(ControlOf(cmdPause, side), commands.PauseButtonEnabled(side));
+        form.SetText(ControlOf(lblBlink, side), L"");
+        // What says nothing should not be there for a screen reader.
+        form.SetVisible(ControlOf(lblBlink, side), commands.BlinkingSide() == side);
+    }
+    Blink();
+    // At once: what follows may take time, the flag's sound for example.
+    RedrawWindow(form.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void ClockPanels::Blink() {
+    const auto side = commands.BlinkingSide();
+    if (!side) return;
+    const int id = ControlOf(lblBlink, *side);
+    const bool empty = GetWindowTextLengthW(form.Control(id)) == 0;
+    form.SetText(id, empty ? texts(BlinkRow()) : L"");
+}
+
+TextId ClockPanels::BlinkRow() const {
+    return commands.BlinkText() == BlinkMark::ToMove ? TextId::ToMove : TextId::Pause;
+}
+
+std::wstring ClockPanels::SpokenName(int id) const {
+    const auto [pair, side] = PlaceOf(id);
+    const bool fallen = commands.FlagFallen(side);
+    const auto of = [&, side = side](const std::wstring& text) {
+        return texts.SideName(side) + L", " + text;
+    };
+    switch (pair) {
+        case lblFace: {
+            const modClock::ClockState& state = commands.Clock().State();
+            const int32_t minutes = state.TimeHours[side] * 60 + state.TimeMinutes[side];
+            const std::wstring time = of(texts.Duration(minutes * 60 + state.TimeSeconds[side]));
+            return fallen ? time + L", " + texts(TextId::FlagFallen) : time;
+        }
+        case lblBlink: return of(texts(BlinkRow()));  // while the mark is off too
+        case shpTurn: return of(texts(TextId::ToMove));
+        case imgFlagUp:
+        case imgFlagDown: return of(texts(fallen ? TextId::FlagFallen : TextId::FlagUp));
+        case imgHand:
+        case cmdClock: return of(texts(TextId::TipHand));
+        case cmdPause: return of(texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
+        case lblPeriodTime: return texts.Duration(PeriodTime(side));
+        case lblBonusTime: return texts.Duration(settings.MoveBonus[side]);
+        default: return {};
+    }
+}
+
+Place ClockPanels::PlaceAt(POINT point) const {
+    const HWND child = ChildWindowFromPointEx(form.Window(), point, CWP_SKIPINVISIBLE);
+    return child && child != form.Window() ? PlaceOf(GetDlgCtrlID(child)) : Place{};
+}
+
+void ClockPanels::Draw(const DRAWITEMSTRUCT& item) const {
+    const int id = static_cast<int>(item.CtlID);
+    const auto [pair, side] = PlaceOf(id);
+    const bool running = Runs(side);
+    std::array<wchar_t, 64> text{};
+    GetWindowTextW(item.hwndItem, text.data(), static_cast<int>(text.size()));
+    switch (pair) {
+        case lblFace: return painter.DrawFace(item, side, text.data(), commands.FlagFallen(side));
+        case shpTurn: return painter.DrawTurnMark(item, id == TurnMark(side, 0));
+        case imgFlagUp: return painter.DrawPicture(item, flagUp, running);
+        case imgFlagDown: return painter.DrawPicture(item, flagDown, running);
+        case imgHand: return painter.DrawPicture(item, hand, running);
+        case cmdClock: return painter.DrawClockButton(item, text.data(), running);
+        case cmdPause: return painter.DrawPauseButton(item, text.data(), running);
+        default: return;
+    }
+}
+
+HBRUSH ClockPanels::Colour(HDC dc, HWND control) const {
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, ClockPainter::Ink);
+    return painter.PanelBrush(Runs(PlaceOf(GetDlgCtrlID(control)).side));
+}
+
+void ClockPanels::PaintBackground() const {
+    PAINTSTRUCT paint;
+    const HDC dc = BeginPaint(form.Window(), &paint);
+    FillRect(dc, &paint.rcPaint, painter.BackgroundBrush());
+    for (Side side : BothSides) painter.DrawPanel(dc, layout.panels[side].panel, Runs(side));
+    EndPaint(form.Window(), &paint);
+}

@@ -1,0 +1,116 @@
+#include "app/EditorPrinter.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace {
+
+constexpr ULONGLONG EditorPatience = 5000, ClipboardPatience = 1000;  // milliseconds
+
+constexpr wchar_t EditorClass[] = L"Notepad";
+
+std::vector<HWND> EditorWindows() {
+    std::vector<HWND> windows;
+    for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, EditorClass, nullptr)) != nullptr;)
+        windows.push_back(window);
+    return windows;
+}
+
+// 0, or why the text is not on the clipboard.
+DWORD PutOnClipboard(HWND owner, const std::wstring& text) {
+    if (!OpenClipboard(owner)) return ERROR_BUSY;
+    EmptyClipboard();
+    const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    DWORD code = 0;
+    if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes)) {
+        std::memcpy(GlobalLock(memory), text.c_str(), bytes);
+        GlobalUnlock(memory);
+        if (!SetClipboardData(CF_UNICODETEXT, memory)) {
+            code = GetLastError();
+            GlobalFree(memory);
+        }
+    } else {
+        code = ERROR_NOT_ENOUGH_MEMORY;
+    }
+    CloseClipboard();
+    return code;
+}
+
+bool SendPasteKeys() {
+    const auto stroke = [](WORD key, DWORD flags) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+        input.ki.dwFlags = flags;
+        return input;
+    };
+    std::array keys{stroke(VK_MENU, 0),
+                    stroke('E', 0),
+                    stroke('E', KEYEVENTF_KEYUP),
+                    stroke(VK_MENU, KEYEVENTF_KEYUP),
+                    stroke('P', 0),
+                    stroke('P', KEYEVENTF_KEYUP)};
+    return SendInput(static_cast<UINT>(keys.size()), keys.data(), sizeof(INPUT)) == keys.size();
+}
+
+}  // namespace
+
+void EditorPrinter::Start(HWND owner, const std::wstring& editor, const std::wstring& printed) {
+    earlier = EditorWindows();
+    std::wstring commandLine = L"\"" + editor + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = SW_SHOWNORMAL;
+    PROCESS_INFORMATION started{};
+    if (!CreateProcessW(editor.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &started)) {
+        const std::wstring reason = texts.Reason(GetLastError());
+        return messageBoxes.Inform(owner, texts.Compose(TextId::EditorNotStarted, editor, reason));
+    }
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
+    text = printed;
+    step = Step::Clipboard;
+    deadline = GetTickCount64() + ClipboardPatience;
+}
+
+void EditorPrinter::Continue(HWND owner) {
+    const bool late = GetTickCount64() >= deadline;
+    if (step == Step::Clipboard) {
+        const DWORD code = PutOnClipboard(owner, text);
+        if (code == 0) {
+            step = Step::Front;
+            deadline = GetTickCount64() + EditorPatience;
+        } else if (code != ERROR_BUSY || late) {
+            End(owner, texts.Compose(TextId::ClipboardNotUsed, texts.Reason(code)));
+        }
+    } else if (step == Step::Front) {
+        // Sent to another window the P would pause the clock, for example.
+        if (IsInFront())
+            End(owner, SendPasteKeys() ? L"" : texts(TextId::ListOnClipboard));
+        else if (late)
+            End(owner, texts(TextId::ListOnClipboard));
+    }
+}
+
+// Whether a window that the start has opened is in front and one of its controls takes keys. It is known by its class:
+// on newer systems the file that is started hands over to another process.
+bool EditorPrinter::IsInFront() const {
+    const HWND front = GetForegroundWindow();
+    std::array<wchar_t, 32> name{};
+    GetClassNameW(front, name.data(), static_cast<int>(name.size()));
+    if (lstrcmpiW(name.data(), EditorClass) != 0) return false;
+    if (std::find(earlier.begin(), earlier.end(), front) != earlier.end()) return false;
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof(thread);
+    return GetGUIThreadInfo(GetWindowThreadProcessId(front, nullptr), &thread) && thread.hwndFocus;
+}
+
+void EditorPrinter::End(HWND owner, const std::wstring& message) {
+    step = Step::None;
+    text.clear();
+    if (!message.empty()) messageBoxes.Inform(owner, message);
+}

@@ -1,0 +1,87 @@
+#include "app/HelpWindow.h"
+
+#include "platform/SystemError.h"
+
+namespace {
+
+// The folders of the languages in the help file.
+const wchar_t* FolderOf(int32_t language) {
+    switch (language) {
+        case Turkish: return L"tr";
+        case French: return L"fr";
+        default: return L"en";
+    }
+}
+
+const wchar_t* NameOf(HelpPage page) {
+    switch (page) {
+        case HelpPage::Settings: return L"settings.htm";
+        case HelpPage::SavedGames: return L"saving.htm";
+        case HelpPage::Contents: break;
+    }
+    return L"index.htm";
+}
+
+}  // namespace
+
+// As the viewer takes it: the file, two colons and the page's path in it.
+std::wstring HelpWindow::AddressOf(HelpPage page) const {
+    // The row begins with a backslash, the folder ends with one.
+    const std::wstring name = texts(page == HelpPage::Contents ? TextId::HelpContents : TextId::HelpPages);
+    const std::wstring file = folder + (name.empty() ? name : name.substr(1));
+    return file + L"::/" + FolderOf(texts.LanguageIndex()) + L"/" + NameOf(page);
+}
+
+void HelpWindow::Open(HWND owner, HelpPage page) {
+    Watch(GetWindow(owner, GW_HWNDFIRST));
+    const std::wstring address = AddressOf(page);
+    // The viewer cannot be told to turn to a page: it is started anew.
+    if (held && page != HelpPage::Contents) {
+        Close(held);
+        process.reset();
+    }
+    if (held) {
+        if (IsIconic(held)) ShowWindow(held, SW_RESTORE);
+        SetForegroundWindow(held);
+        return;
+    }
+    // A viewer that has been started and shows no window yet will.
+    if (process && page == HelpPage::Contents && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
+    if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
+    const std::wstring file = address.substr(0, address.rfind(L"::"));
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || attributes & FILE_ATTRIBUTE_DIRECTORY)
+        return messageBoxes.Inform(owner, texts.Compose(TextId::HelpFileMissing, file));
+
+    std::wstring commandLine = L"\"" + viewer + L"\" \"" + address + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION started{};
+    if (!CreateProcessW(viewer.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &started)) {
+        const std::wstring reason = texts.Reason(GetLastError());
+        return messageBoxes.Inform(owner, texts.Compose(TextId::HelpNotStarted, viewer, reason));
+    }
+    CloseHandle(started.hThread);
+    process.reset(started.hProcess);
+}
+
+void HelpWindow::Watch(HWND first) {
+    if (held && !IsWindow(held)) held = nullptr;
+    if (held || !process) return;
+    const DWORD viewerId = GetProcessId(process.get());
+    for (HWND window = first; window; window = GetWindow(window, GW_HWNDNEXT)) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == viewerId && IsWindowVisible(window)) {
+            held = window;
+            return;
+        }
+    }
+}
+
+void HelpWindow::Close(HWND first) {
+    Watch(first);
+    if (held) SendMessageA(held, WM_CLOSE, 0, 0);
+    held = nullptr;
+}

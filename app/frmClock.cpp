@@ -1,0 +1,382 @@
+#include "app/frmClock.h"
+
+#include "app/ClockMenu.h"
+#include "platform/Dpi.h"
+#include "platform/Subclass.h"
+#include "platform/SystemError.h"
+#include "platform/modSound.h"
+#include "resources/resource.h"
+#include "settings/frmAbout.h"
+#include "settings/frmSetup.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr wchar_t ClassName[] = L"frmClock";
+
+constexpr UINT_PTR BlinkTimer = 1, HelpTimer = 2;
+constexpr UINT BlinkInterval = 500, HelpInterval = 2000;  // milliseconds
+
+// Messages of the window to itself: a button was pressed with this key (0: the mouse); the window is open and
+// can show what went wrong before.
+constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2;
+
+}  // namespace
+
+frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
+                   const Texts& texts, const MessageBoxes& messageBoxes)
+    : Form(texts, messageBoxes),
+      environment(environment),
+      settingsFile(settingsFile),
+      settings(settings),
+      commands(*this),
+      timer([this] { Tick(); }),
+      help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
+      panels(*this, commands, settings, captions, environment.appearance.backgroundColour),
+      scorlet(
+          *this, commands, texts, messageBoxes, [this] { UpdateMenu(); }, [this] { games.Print(); }),
+      games(*this, commands, scorlet, panels, settings, environment, help, texts, messageBoxes) {}
+
+frmClock::~frmClock() {
+    scorlet.Unload();
+    // The window's last messages need the members of this class.
+    if (Window()) DestroyWindow(Window());
+}
+
+void frmClock::Open() {
+    const HICON icon = LoadIconW(GetModuleHandleW(nullptr), L"AAATORVANIX");
+    Create(ClassName, captions(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
+    accelerators = MakeClockAccelerators();
+    panels.Create();
+    for (int id = cmdClock; id <= cmdPause + 1; ++id)
+        Subclass<ButtonProcedure>(Control(id), this, static_cast<UINT_PTR>(id));
+    LoadPictures();
+    SetMenu(Window(), MakeClockMenu(captions));
+    panels.ApplyTexts();
+    PlaceWindow();
+    commands.Initialise();
+    ::SetTimer(Window(), BlinkTimer, BlinkInterval, nullptr);
+    ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
+    ShowWindow(Window(), SW_SHOWDEFAULT);
+    UpdateWindow(Window());
+    // As a command of its own: what stops it does not stop the clock.
+    if (settings.OpenScorletAtStart) PostMessageW(Window(), WM_COMMAND, mnuShowScorlet, 0);
+    PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
+}
+
+void frmClock::LoadPictures() {
+    const auto cursor = [](const wchar_t* name) {
+        return static_cast<HCURSOR>(
+            LoadImageW(GetModuleHandleW(nullptr), name, IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR));
+    };
+    handHit.reset(cursor(L"HANDHIT.CUR"));
+    handPointBlue.reset(cursor(L"HANDPOINTBLUE.CUR"));
+    // Without a picture the clock still runs.
+    try {
+        panels.LoadPictures();
+    } catch (const SystemError& error) {
+        problems.push_back(texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code())));
+    }
+}
+
+void frmClock::TellReadingProblems() {
+    if (!IsWindowVisible(Window())) return;
+    for (const std::wstring& problem : std::exchange(problems, {})) messageBoxes.Inform(Window(), problem);
+}
+
+bool frmClock::TakeMessage(MSG& message) {
+    panels.Relay(message);
+    // A held Ctrl+T must not ask to reset the game that it has just started.
+    const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
+    if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    if (scorlet.Loaded() && scorlet.Loaded()->TakeMessage(message)) return true;
+    return IsDialogMessageW(Window(), &message);
+}
+
+void frmClock::ShowSetup() {
+    if (!commands.SetupEnabled()) return;
+    frmSetup setup(texts, messageBoxes, environment.appearance.backgroundColour, settingsFile, settings,
+                   [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
+    setup.Open(Window());
+    setup.RunModal();
+    if (!setup.Accepted()) return;
+    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
+    commands.TakeTimeControl(ShownTimeControl());
+    if (scorlet.Loaded()) scorlet.Loaded()->ShowRecord();
+}
+
+void frmClock::ShowAbout() {
+    frmAbout about(texts, messageBoxes, environment.appearance.backgroundColour);
+    about.Open(Window());
+    about.RunModal();
+}
+
+void frmClock::PlaceWindow() {
+    const RECT screen = WorkArea(Window());
+    const int screenWidth = screen.right - screen.left, screenHeight = screen.bottom - screen.top;
+
+    // What frame, caption and menu add is known only of a window that has a size.
+    const int width = Scaled(DesignWidth, Dpi()), height = Scaled(DesignHeight, Dpi());
+    SetWindowPos(Window(), nullptr, screen.left, screen.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT client{};
+    GetClientRect(Window(), &client);
+    const int windowWidth = std::min(2 * width - static_cast<int>(client.right), screenWidth);
+    const int windowHeight = std::min(2 * height - static_cast<int>(client.bottom), screenHeight);
+    SetWindowPos(Window(), nullptr, screen.left + (screenWidth - windowWidth) / 2,
+                 screen.top + (screenHeight - windowHeight) / 2, windowWidth, windowHeight,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmClock::PhaseChanged() {
+    const Phase phase = commands.CurrentPhase();
+    // A disabled button would swallow the keys.
+    if (phase == Phase::Fallen) FocusWhileActive(Window());
+    panels.ShowPhase();
+
+    // Sleep would stop the ticks.
+    SetThreadExecutionState(ES_CONTINUOUS |
+                            (phase == Phase::Running ? ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED : EXECUTION_STATE{0}));
+
+    UpdateMenu();
+}
+
+void frmClock::UpdateMenu() {
+    const HMENU menu = GetMenu(Window());
+    const bool paused = commands.CurrentPhase() == Phase::Paused;
+    const std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
+    ModifyMenuW(menu, mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
+    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (commands.SetupEnabled() ? MF_ENABLED : MF_GRAYED));
+    for (const UINT entry : {mnuCloseScorlet, mnuPrint})
+        EnableMenuItem(menu, entry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
+}
+
+void frmClock::Tick() {
+    // The system calls this, and no exception may reach it.
+    try {
+        commands.Tick();
+    } catch (const std::exception& error) {
+        ShowError(error);
+    }
+}
+
+void frmClock::FocusClockButton(Side side) { FocusWhileActive(Control(ControlOf(cmdClock, side))); }
+void frmClock::FocusPauseButton(Side side) { FocusWhileActive(Control(ControlOf(cmdPause, side))); }
+
+// A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
+void frmClock::FocusWhileActive(HWND control) const {
+    if (GetActiveWindow() == Window()) SetFocus(control);
+}
+
+void frmClock::PlayButtonSound() { modSound::Play(settings.ButtonSoundName); }
+void frmClock::PlayFlagSound() { modSound::Play(settings.FlagSoundName); }
+
+void frmClock::Inform(Notice notice) { messageBoxes.Inform(Window(), NoticeText(notice)); }
+
+std::wstring frmClock::NoticeText(Notice notice) const {
+    switch (notice) {
+        case Notice::TimerNotKilled: return texts(TextId::TimerNotKilled);
+        case Notice::TimerNotCreated: return texts(TextId::TimerNotCreated);
+        case Notice::TimerNotCreatedEnding: return texts(TextId::TimerNotCreatedEnding);
+        case Notice::Overflow: return texts(TextId::ClockOverflow);
+        case Notice::HowToBegin: return texts(TextId::HelpToBegin) + WaysToBegin();
+        case Notice::HowToRestart: break;
+    }
+    return texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpThenBegin) + WaysToBegin();
+}
+
+std::wstring frmClock::WaysToBegin() const {
+    return texts(TextId::HelpPushButton) + texts(TextId::HelpSelectStart) + texts(TextId::HelpSpace) +
+           texts(TextId::HelpMouse);
+}
+
+// No is preselected: the key that presses the clock must not throw a game away.
+bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::ResetQuestion), false); }
+
+modClock::TimeControl frmClock::ReadTimeControl() {
+    const std::wstring problem = settingsFile.Load(settings, texts);
+    if (!problem.empty()) problems.push_back(problem);
+    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
+    return ShownTimeControl();
+}
+
+// Shows what the settings say; the rest of them is for the clock.
+modClock::TimeControl frmClock::ShownTimeControl() {
+    panels.ShowSettings();
+    return TimeControlOf(settings);
+}
+
+LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND: OnCommand(LOWORD(wParam)); return 0;
+        case WM_BUTTONKEY: OnButtonKey(static_cast<int>(lParam), wParam); return 0;
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+            OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}, message == WM_RBUTTONDOWN);
+            return 0;
+        case WM_KEYDOWN:
+            // The window itself has the focus only when no button can take it.
+            if (wParam == VK_SPACE && !(HIWORD(lParam) & KF_REPEAT)) commands.Press(White);
+            return 0;
+        case WM_TIMER: OnTimer(wParam); return 0;
+        case WM_DRAWITEM: panels.Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
+        case WM_CTLCOLORSTATIC:
+            return reinterpret_cast<LRESULT>(
+                panels.Colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+        case WM_ERASEBKGND: return TRUE;
+        case WM_PAINT: panels.PaintBackground(); return 0;
+        case WM_SIZE: panels.TakeSize(); return 0;
+        case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
+        case WM_SETCURSOR:
+            if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;
+            break;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
+            return 0;
+        case WM_TELLPROBLEMS: TellReadingProblems(); return 0;
+        case WM_FORGETSCORLET: scorlet.Forget(); return 0;
+        case WM_DESTROY:
+            Unload();
+            PostQuitMessage(0);
+            return 0;
+        default: break;
+    }
+    return Form::Handle(message, wParam, lParam);
+}
+
+void frmClock::OnCommand(int id) {
+    switch (id) {
+        case mnuStart: return commands.Start();
+        case mnuLoad: return games.Open(FilesMode::Load);
+        case mnuSave: return games.Open(FilesMode::Save);
+        case mnuDelete: return games.Open(FilesMode::Delete);
+        case mnuExit: DestroyWindow(Window()); return;
+        case mnuReset: return commands.AskedResetIfStarted();
+        case mnuPause: return commands.PauseOrResume();
+        case mnuShowScorlet: return scorlet.Show();
+        case mnuNextWindow: return scorlet.GoToOtherWindow();
+        case mnuCloseScorlet: return scorlet.Close();
+        case mnuPrint: return games.Print();
+        case mnuSetup: return ShowSetup();
+        case mnuContents: return help.Open(Window(), HelpPage::Contents);
+        case mnuAbout: return ShowAbout();
+        case cmdPause:
+        case cmdPause + 1: return commands.PauseOrResume(PlaceOf(id).side);
+        default: return;
+    }
+}
+
+void frmClock::OnMouseDown(POINT point, bool rightButton) {
+    const auto [pair, side] = panels.PlaceAt(point);
+    switch (pair) {
+        case lblFace:
+        case lblSide:
+        case lblPeriod:
+        case lblPeriodTime:
+        case lblBonus:
+        case lblBonusTime: return commands.Press(ButtonOfMouse(rightButton, settings.TurnClock));
+        default: break;
+    }
+    if (rightButton) return;
+    switch (pair) {
+        case imgHand:
+        case cmdClock:  // only a disabled button leaves the mouse to the window
+            return commands.Press(side);
+        case cmdPause: return commands.PauseOrResume(side);
+        case imgFlagUp:
+        case imgFlagDown: return commands.AskedReset();
+        default: return;
+    }
+}
+
+void frmClock::OnButtonKey(int id, WPARAM key) {
+    const auto [pair, side] = PlaceOf(id);
+    if (key == 'p') return commands.PressKeyP();
+    if (pair == cmdClock) return commands.Press(side);
+    commands.PauseOrResume(side);
+}
+
+LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                           DWORD_PTR self) {
+    const auto* form = reinterpret_cast<const frmClock*>(self);
+    const bool isClock = PlaceOf(static_cast<int>(id)).pair == cmdClock;
+    // By way of the window, whose procedure ends all exceptions.
+    const auto act = [&](WPARAM key) -> LRESULT {
+        return SendMessageW(form->Window(), WM_BUTTONKEY, key, static_cast<LPARAM>(id));
+    };
+    switch (message) {
+        case WM_GETDLGCODE: {
+            // All characters, Enter before the dialog keys take it, and the arrows, which would move the focus away.
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
+            return DefSubclassProc(button, message, wParam, lParam) | DLGC_WANTCHARS | DLGC_WANTARROWS |
+                   (enter ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK: return act(0);
+        case WM_KEYDOWN:
+            if (wParam == VK_RETURN || (isClock && wParam == VK_SPACE))
+                return HIWORD(lParam) & KF_REPEAT ? 0 : act(wParam);
+            break;
+        case WM_KEYUP:
+            if (isClock && wParam == VK_SPACE) return 0;
+            break;
+        case WM_CHAR:
+            if (isClock && wParam == 'p') return act(wParam);
+            break;
+        default: break;
+    }
+    return DefSubclassProc(button, message, wParam, lParam);
+}
+
+bool frmClock::OnSetCursor() {
+    POINT point{};
+    GetCursorPos(&point);
+    ScreenToClient(Window(), &point);
+    switch (panels.PlaceAt(point).pair) {
+        case imgHand: ::SetCursor(handHit.get()); return true;
+        case imgFlagUp:
+        case imgFlagDown: ::SetCursor(handPointBlue.get()); return true;
+        default: return false;
+    }
+}
+
+void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
+    RECT window{}, client{};
+    GetWindowRect(Window(), &window);
+    GetClientRect(Window(), &client);
+    const LONG frameWidth = window.right - window.left - client.right;
+    const LONG frameHeight = window.bottom - window.top - client.bottom;
+    const LONG designed = MulDiv(environment.appearance.windowHeight, Dpi(), 1440);
+    info.ptMinTrackSize.x = Scaled(LeastWidth, Dpi()) + frameWidth;
+    info.ptMinTrackSize.y = std::max(Scaled(LeastHeight, Dpi()) + frameHeight, designed);
+}
+
+void frmClock::OnTimer(UINT_PTR id) {
+    if (id == BlinkTimer) panels.Blink();
+    if (id == PrintTimer) games.ContinuePrinting();
+    if (id == HelpTimer) help.Watch(GetWindow(Window(), GW_HWNDFIRST));
+}
+
+void frmClock::FocusRightfulButton() {
+    for (int pair : {cmdClock, cmdPause}) {
+        for (Side side : BothSides) {
+            const HWND button = Control(ControlOf(pair, side));
+            if (button && IsWindowEnabled(button)) {
+                SetFocus(button);
+                return;
+            }
+        }
+    }
+    SetFocus(Window());
+}
+
+void frmClock::Unload() {
+    help.Close(GetWindow(Window(), GW_HWNDFIRST));
+    commands.Unload();
+    SetThreadExecutionState(ES_CONTINUOUS);
+}

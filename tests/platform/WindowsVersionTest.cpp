@@ -1,0 +1,21 @@
+#include "platform/WindowsVersion.h"
+
+#include <gtest/gtest.h>
+
+TEST(WindowsVersionTest, NamesByPlatformAndNumbers) {
+    struct Row {
+        uint32_t platform, major, minor;
+        const char* osName;
+    };
+    const Row rows[] = {
+        {0, 9, 9, "WIN32S"},         {1, 4, 0, "WINDOWS95"},    {1, 4, 9, "WINDOWS95"},   {1, 4, 10, "WINDOWS98"},
+        {1, 4, 11, "NONE"},          {1, 4, 89, "NONE"},        {1, 4, 90, "WINDOWSME"},  {1, 3, 0, "NONE"},
+        {2, 3, 51, "WINDOWSNT3.51"}, {2, 4, 7, "WINDOWSNT4"},   {2, 5, 0, "WINDOWS2000"}, {2, 5, 1, "WINDOWSXP"},
+        {2, 5, 2, "NONE"},           {2, 10, 0, "WINDOWS2000"}, {2, 6, 1, "WINDOWSXP"},   {2, 2, 0, "NONE"},
+        {3, 5, 1, "NONE"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.platform << ' ' << row.major << '.' << row.minor);
+        EXPECT_EQ(OsNameOf(WindowsVersionName(row.platform, row.major, row.minor)), row.osName);
+    }
+}

@@ -1,0 +1,70 @@
+#include "platform/clsFileSystem.h"
+
+#include "tests/desktop/Desktop.h"
+
+#include <gtest/gtest.h>
+#include <objbase.h>
+
+#include <algorithm>
+
+namespace {
+
+class clsFileSystemTest : public testing::Test {
+  protected:
+    struct Com {
+        Com() { CoInitialize(nullptr); }
+        ~Com() { CoUninitialize(); }
+    } com;
+    TestFolder folder;
+    clsFileSystem fileSystem;
+};
+
+}  // namespace
+
+TEST_F(clsFileSystemTest, FoldersAndFiles) {
+    const std::wstring sub = folder.Path() + L"sub";
+    EXPECT_FALSE(fileSystem.FolderExists(sub).result);
+    EXPECT_EQ(fileSystem.CreateFolder(sub), S_OK);
+    EXPECT_TRUE(fileSystem.FolderExists(sub).result);
+    EXPECT_TRUE(FAILED(fileSystem.CreateFolder(sub))) << "there already";
+    WriteFileText(folder.Path() + L"b.txt", "x");
+    WriteFileText(folder.Path() + L"a.txt", "x");
+    EXPECT_TRUE(fileSystem.FileExists(folder.Path() + L"a.txt").result);
+    EXPECT_FALSE(fileSystem.FileExists(sub).result) << "a folder is no file";
+    auto files = fileSystem.FileNames(folder.Path());
+    std::sort(files.result.begin(), files.result.end());
+    EXPECT_EQ(files.result, (std::vector<std::wstring>{L"a.txt", L"b.txt"}));
+    EXPECT_EQ(fileSystem.SubfolderNames(folder.Path()).result, std::vector<std::wstring>{L"sub"});
+    EXPECT_TRUE(FAILED(fileSystem.FileNames(folder.Path() + L"none").status));
+    EXPECT_EQ(fileSystem.DeleteFolder(sub), S_OK);
+    EXPECT_FALSE(Exists(sub));
+    EXPECT_TRUE(fileSystem.DriveExists(L"C:").result);
+    EXPECT_FALSE(fileSystem.DriveExists(L"Q:").result);
+}
+
+TEST_F(clsFileSystemTest, DatesOrTheReasonWhyThereIsNone) {
+    WriteFileText(folder.Path() + L"a.txt", "x");
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    DATE today = 0;
+    SystemTimeToVariantTime(&now, &today);
+    const auto date = fileSystem.FileDate(folder.Path() + L"a.txt", clsFileSystem::DateKind::LastModified);
+    ASSERT_EQ(date.status, S_OK);
+    EXPECT_NEAR(date.result, today, 1.1) << "days";
+    EXPECT_TRUE(FAILED(fileSystem.FileDate(folder.Path() + L"none", clsFileSystem::DateKind::Created).status));
+    // Not every system's object knows the dates of folders; what it cannot tell it says in the status.
+    const auto folderDate = fileSystem.FolderDate(folder.Path(), clsFileSystem::DateKind::Created);
+    EXPECT_TRUE(FAILED(folderDate.status) || folderDate.result > today - 1.1);
+}
+
+TEST_F(clsFileSystemTest, LogTakesItsStatusAndTextAndStaysSilentWithoutItsFolder) {
+    fileSystem.SetLogFolder(folder.Path() + L"none\\");
+    EXPECT_EQ(fileSystem.WriteLog(1), S_OK);
+    EXPECT_FALSE(Exists(folder.Path() + L"none"));
+
+    fileSystem.SetLogFolder(folder.Path());
+    EXPECT_EQ(fileSystem.WriteLog(22677, -5, L"Data"), S_OK);
+    EXPECT_EQ(fileSystem.LastMessage(), L"22677--5-Data");
+    EXPECT_NE(ReadFileText(folder.Path() + L"TORVANIX.log").find("#Message: 22677--5-Data\r\n#\r\n"),
+              std::string::npos);
+}

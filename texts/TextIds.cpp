@@ -1,0 +1,18 @@
+#include "texts/TextIds.h"
+
+TextId OrdinalRow(int32_t number, int32_t language) {
+    if (language == French) return number == 1 ? TextId::OrdinalSt : TextId::OrdinalTh;
+    const int32_t tens = number / 10 % 10;
+    if (tens == 1) return TextId::OrdinalTh;
+    switch (number % 10) {
+        case 1: return TextId::OrdinalSt;
+        case 2: return TextId::OrdinalNd;
+        case 3: return TextId::OrdinalRd;
+        default: return TextId::OrdinalTh;
+    }
+}
+
+TextId CountRow(TextId one, int32_t number, int32_t language) {
+    const bool singular = number == 1 || (number == 0 && language == French);
+    return singular ? one : RowBehind(one, 1);
+}

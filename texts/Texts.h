@@ -1,0 +1,37 @@
+#pragma once
+
+#include "base/Side.h"
+#include "texts/TextIds.h"
+
+#include <windows.h>
+
+#include <string>
+
+// The string table in the program's resources, in the language of the settings.
+class Texts {
+  public:
+    // The language index must outlive the texts; a change of it counts from the next look-up on.
+    explicit Texts(const int32_t& languageIndex) : language(languageIndex) {}
+
+    // Text of an identifier; empty where the table has none.
+    std::wstring LookUp(int64_t identifier) const;
+
+    std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, language)); }
+
+    // Text of a row with its %1 and %2 replaced.
+    std::wstring Compose(TextId row, const std::wstring& first, const std::wstring& second = {}) const;
+
+    // "White", "Black", for speech.
+    std::wstring SideName(Side side) const;
+
+    // A time in words, without the parts that are 0: "1 hour 5 seconds".
+    std::wstring Duration(int32_t seconds) const;
+
+    // Why a call of the system failed.
+    std::wstring Reason(DWORD code) const;
+
+    int32_t LanguageIndex() const { return language; }
+
+  private:
+    const int32_t& language;
+};
