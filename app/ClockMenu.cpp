@@ -10,10 +10,10 @@ namespace {
 constexpr TextId NoKey{0};
 
 struct Entry {
-    int command;  // 0: a separator line
-    TextId text{};
-    TextId key = NoKey;
-    bool available = true;  // false: until the Scorlet is open
+    int Command;  // 0: a separator line
+    TextId Text{};
+    TextId Key = NoKey;
+    bool Available = true;  // false: until the Scorlet is open
 };
 
 constexpr Entry Separator{0};
@@ -51,13 +51,13 @@ constexpr std::array HelpEntries{
 void AppendPopup(HMENU bar, const Texts& texts, TextId caption, std::span<const Entry> entries) {
     const HMENU popup = CreatePopupMenu();
     for (const Entry& entry : entries) {
-        if (entry.command == 0) {
+        if (entry.Command == 0) {
             AppendMenuW(popup, MF_SEPARATOR, 0, nullptr);
             continue;
         }
-        const UINT state = entry.available ? MF_ENABLED : MF_GRAYED;
-        AppendMenuW(popup, MF_STRING | state, static_cast<UINT_PTR>(entry.command),
-                    EntryText(texts, entry.text, entry.key).c_str());
+        const UINT state = entry.Available ? MF_ENABLED : MF_GRAYED;
+        AppendMenuW(popup, MF_STRING | state, static_cast<UINT_PTR>(entry.Command),
+                    EntryText(texts, entry.Text, entry.Key).c_str());
     }
     AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), texts(caption).c_str());
 }

@@ -84,9 +84,9 @@ void ClockPanels::TakeSize() {
 }
 
 void ClockPanels::ArrangePanel(Side side) {
-    const PanelLayout& panel = layout.panels[side];
+    const PanelLayout& panel = layout.Panels[side];
     const auto move = [&](int id, const Box& box) {
-        SetWindowPos(form.Control(id), nullptr, box.left, box.top, box.width, box.height,
+        SetWindowPos(form.Control(id), nullptr, box.Left, box.Top, box.Width, box.Height,
                      SWP_NOZORDER | SWP_NOACTIVATE);
     };
     const auto place = [&](int pair, const Box& box, HFONT font = nullptr) {
@@ -94,30 +94,30 @@ void ClockPanels::ArrangePanel(Side side) {
         if (font) SendMessageW(form.Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         move(id, box);
     };
-    place(lblSide, panel.side, painter.NameFont(side, NameOf(side), panel.side.width));
-    place(lblBlink, panel.blink, painter.BlinkFont());
-    place(lblFace, panel.face);
-    place(imgFlagUp, panel.flag);
-    place(imgFlagDown, panel.flag);
-    place(imgHand, panel.hand);
-    place(cmdClock, panel.clockButton, painter.ButtonFont());
-    place(cmdPause, panel.pauseButton, painter.PauseFont());
-    place(lblMoveNumber, panel.moveNumber, painter.TextFont());
-    place(lblMoveCount, panel.moveCount, painter.TextFont());
-    place(lblPeriod, panel.period, painter.TextFont());
-    place(lblPeriodTime, panel.periodTime, painter.TextFont());
-    place(lblBonus, panel.bonus, painter.TextFont());
-    place(lblBonusTime, panel.bonusTime, painter.TextFont());
+    place(lblSide, panel.Name, painter.NameFont(side, NameOf(side), panel.Name.Width));
+    place(lblBlink, panel.Blink, painter.BlinkFont());
+    place(lblFace, panel.Face);
+    place(imgFlagUp, panel.Flag);
+    place(imgFlagDown, panel.Flag);
+    place(imgHand, panel.Hand);
+    place(cmdClock, panel.ClockButton, painter.ButtonFont());
+    place(cmdPause, panel.PauseButton, painter.PauseFont());
+    place(lblMoveNumber, panel.MoveNumber, painter.TextFont());
+    place(lblMoveCount, panel.MoveCount, painter.TextFont());
+    place(lblPeriod, panel.Period, painter.TextFont());
+    place(lblPeriodTime, panel.PeriodTime, painter.TextFont());
+    place(lblBonus, panel.Bonus, painter.TextFont());
+    place(lblBonusTime, panel.BonusTime, painter.TextFont());
     for (int mark = 0; mark < TurnMarksPerSide; ++mark)
-        move(TurnMark(side, mark), panel.turnMarks[static_cast<size_t>(mark)]);
+        move(TurnMark(side, mark), panel.TurnMarks[static_cast<size_t>(mark)]);
 
     const auto tip = [&](int pair, const Box& box, TextId row) {
-        toolTips.SetArea(ControlOf(pair, side), {box.left, box.top, box.Right(), box.Bottom()}, texts(row));
+        toolTips.SetArea(ControlOf(pair, side), {box.Left, box.Top, box.Right(), box.Bottom()}, texts(row));
     };
-    tip(imgFlagUp, panel.flag, TextId::TipFlag);
-    tip(imgHand, panel.hand, TextId::TipHand);
-    tip(lblPeriodTime, panel.periodTime, TextId::TipHoursMinutes);
-    tip(lblBonusTime, panel.bonusTime, TextId::TipMinutesSeconds);
+    tip(imgFlagUp, panel.Flag, TextId::TipFlag);
+    tip(imgHand, panel.Hand, TextId::TipHand);
+    tip(lblPeriodTime, panel.PeriodTime, TextId::TipHoursMinutes);
+    tip(lblBonusTime, panel.BonusTime, TextId::TipMinutesSeconds);
 }
 
 std::wstring ClockPanels::NameOf(Side side) const {
@@ -126,17 +126,18 @@ std::wstring ClockPanels::NameOf(Side side) const {
 }
 
 int32_t ClockPanels::PeriodTime(Side side) const {
-    return settings.SecondPeriodEnabled ? settings.SecondPeriodTime[side] : settings.PeriodLimit[side];
+    return settings.Control.SecondPeriodEnabled ? settings.Control.SecondPeriodTime[side]
+                                                : settings.Control.PeriodLimit[side];
 }
 
 void ClockPanels::ShowSettings() {
-    const std::wstring ordinal = texts.Compose(OrdinalRow(settings.MovesFirstPeriod, texts.LanguageIndex()),
-                                               std::to_wstring(settings.MovesFirstPeriod));
-    const bool second = settings.SecondPeriodEnabled;
+    const std::wstring ordinal = texts.Compose(OrdinalRow(settings.Control.MovesFirstPeriod, texts.LanguageIndex()),
+                                               std::to_wstring(settings.Control.MovesFirstPeriod));
+    const bool second = settings.Control.SecondPeriodEnabled;
     const std::wstring caption =
         second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime);
     for (Side side : BothSides) {
-        const int32_t bonus = settings.MoveBonus[side];
+        const int32_t bonus = settings.Control.MoveBonus[side];
         form.SetText(ControlOf(lblSide, side), NameOf(side));
         form.SetText(ControlOf(lblPeriod, side), caption);
         form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side))));
@@ -214,7 +215,7 @@ std::wstring ClockPanels::SpokenName(int id) const {
         case cmdClock: return of(texts(TextId::TipHand));
         case cmdPause: return of(texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
         case lblPeriodTime: return texts.Duration(PeriodTime(side));
-        case lblBonusTime: return texts.Duration(settings.MoveBonus[side]);
+        case lblBonusTime: return texts.Duration(settings.Control.MoveBonus[side]);
         default: return {};
     }
 }
@@ -245,13 +246,13 @@ void ClockPanels::Draw(const DRAWITEMSTRUCT& item) const {
 HBRUSH ClockPanels::Colour(HDC dc, HWND control) const {
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, ClockPainter::Ink);
-    return painter.PanelBrush(Runs(PlaceOf(GetDlgCtrlID(control)).side));
+    return painter.PanelBrush(Runs(PlaceOf(GetDlgCtrlID(control)).Panel));
 }
 
 void ClockPanels::PaintBackground() const {
     PAINTSTRUCT paint;
     const HDC dc = BeginPaint(form.Window(), &paint);
     FillRect(dc, &paint.rcPaint, painter.BackgroundBrush());
-    for (Side side : BothSides) painter.DrawPanel(dc, layout.panels[side].panel, Runs(side));
+    for (Side side : BothSides) painter.DrawPanel(dc, layout.Panels[side].Panel, Runs(side));
     EndPaint(form.Window(), &paint);
 }

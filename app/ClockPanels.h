@@ -9,8 +9,8 @@
 
 // The pair of controls that a number belongs to, and its side; pair 0 is none.
 struct Place {
-    int pair = 0;
-    Side side = White;
+    int Pair = 0;
+    Side Panel = White;
 };
 Place PlaceOf(int id);
 

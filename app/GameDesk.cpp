@@ -30,7 +30,7 @@ GameDesk::GameDesk(const Form& clock, ClockCommands& commands, ClockScorlet& sco
       printer(texts, messageBoxes) {}
 
 void GameDesk::Open(FilesMode mode) {
-    frmFiles dialog(texts, messageBoxes, environment.appearance.backgroundColour, games, *this, mode);
+    frmFiles dialog(texts, messageBoxes, environment.Appearance.BackgroundColour, games, *this, mode);
     dialog.Open(clock.Window());
     dialog.RunModal();
 }

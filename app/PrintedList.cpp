@@ -17,11 +17,11 @@ std::wstring Row(std::wstring white, const std::wstring& black) {
 std::wstring PrintedList(const PrintedLabels& labels, const std::array<std::wstring, 2>& names,
                          const CalendarDate& date, const std::array<std::vector<std::wstring>, 2>& columns) {
     std::wstring text;
-    for (const Side side : BothSides) text += labels.sides[side] + L": " + names[side] + L"\r\n\r\n";
+    for (const Side side : BothSides) text += labels.Sides[side] + L": " + names[side] + L"\r\n\r\n";
     wchar_t day[40];
-    std::swprintf(day, std::size(day), L"%02d/%02d/%04d", date.day, date.month, date.year);
-    text += labels.date + L": " + day + L"\r\n";
-    text += Row(labels.sides[White], labels.sides[Black]);
+    std::swprintf(day, std::size(day), L"%02d/%02d/%04d", date.Day, date.Month, date.Year);
+    text += labels.Date + L": " + day + L"\r\n";
+    text += Row(labels.Sides[White], labels.Sides[Black]);
     for (size_t row = 0; row < std::max(columns[White].size(), columns[Black].size()); ++row) {
         const auto entry = [&](Side side) {
             return row < columns[side].size() ? columns[side][row] : std::wstring();

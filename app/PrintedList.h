@@ -8,8 +8,8 @@
 
 // The words of the printed list in the program's language.
 struct PrintedLabels {
-    std::array<std::wstring, 2> sides;
-    std::wstring date;
+    std::array<std::wstring, 2> Sides;
+    std::wstring Date;
 };
 
 // A game as plain text: names, date, and the two move lists side by side, Black's from column 40 on. Lines end in CR

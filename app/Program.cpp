@@ -60,8 +60,8 @@ int RunProgram() {
     const SettingsFile settingsFile(environment.DataFolder);
     settings.LanguageIndex = settingsFile.LoadLanguage();
 
-    if (FAILED(environment.savedGamesStatus)) {
-        const std::wstring reason = texts.Reason(CodeOf(environment.savedGamesStatus));
+    if (FAILED(environment.SavedGamesStatus)) {
+        const std::wstring reason = texts.Reason(CodeOf(environment.SavedGamesStatus));
         messageBoxes.Inform(nullptr,
                             texts.Compose(TextId::SavedGamesFolderMissing, environment.SavedGamesFolder, reason));
     }

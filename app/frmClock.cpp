@@ -37,7 +37,7 @@ frmClock::frmClock(const modEnvironment::Environment& environment, const Setting
       commands(*this),
       timer([this] { Tick(); }),
       help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
-      panels(*this, commands, settings, captions, environment.appearance.backgroundColour),
+      panels(*this, commands, settings, captions, environment.Appearance.BackgroundColour),
       scorlet(
           *this, commands, texts, messageBoxes, [this] { UpdateMenu(); }, [this] { games.Print(); }),
       games(*this, commands, scorlet, panels, settings, environment, help, texts, messageBoxes) {}
@@ -100,7 +100,7 @@ bool frmClock::TakeMessage(MSG& message) {
 
 void frmClock::ShowSetup() {
     if (!commands.SetupEnabled()) return;
-    frmSetup setup(texts, messageBoxes, environment.appearance.backgroundColour, settingsFile, settings,
+    frmSetup setup(texts, messageBoxes, environment.Appearance.BackgroundColour, settingsFile, settings,
                    [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
     setup.Open(Window());
     setup.RunModal();
@@ -111,7 +111,7 @@ void frmClock::ShowSetup() {
 }
 
 void frmClock::ShowAbout() {
-    frmAbout about(texts, messageBoxes, environment.appearance.backgroundColour);
+    frmAbout about(texts, messageBoxes, environment.Appearance.BackgroundColour);
     about.Open(Window());
     about.RunModal();
 }
@@ -197,7 +197,7 @@ std::wstring frmClock::WaysToBegin() const {
 // No is preselected: the key that presses the clock must not throw a game away.
 bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::ResetQuestion), false); }
 
-modClock::TimeControl frmClock::ReadTimeControl() {
+TimeControl frmClock::ReadTimeControl() {
     const std::wstring problem = settingsFile.Load(settings, texts);
     if (!problem.empty()) problems.push_back(problem);
     SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
@@ -205,9 +205,9 @@ modClock::TimeControl frmClock::ReadTimeControl() {
 }
 
 // Shows what the settings say; the rest of them is for the clock.
-modClock::TimeControl frmClock::ShownTimeControl() {
+TimeControl frmClock::ShownTimeControl() {
     panels.ShowSettings();
-    return TimeControlOf(settings);
+    return settings.Control;
 }
 
 LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -265,7 +265,7 @@ void frmClock::OnCommand(int id) {
         case mnuContents: return help.Open(Window(), HelpPage::Contents);
         case mnuAbout: return ShowAbout();
         case cmdPause:
-        case cmdPause + 1: return commands.PauseOrResume(PlaceOf(id).side);
+        case cmdPause + 1: return commands.PauseOrResume(PlaceOf(id).Panel);
         default: return;
     }
 }
@@ -303,7 +303,7 @@ void frmClock::OnButtonKey(int id, WPARAM key) {
 LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                            DWORD_PTR self) {
     const auto* form = reinterpret_cast<const frmClock*>(self);
-    const bool isClock = PlaceOf(static_cast<int>(id)).pair == cmdClock;
+    const bool isClock = PlaceOf(static_cast<int>(id)).Pair == cmdClock;
     // By way of the window, whose procedure ends all exceptions.
     const auto act = [&](WPARAM key) -> LRESULT {
         return SendMessageW(form->Window(), WM_BUTTONKEY, key, static_cast<LPARAM>(id));
@@ -337,7 +337,7 @@ bool frmClock::OnSetCursor() {
     POINT point{};
     GetCursorPos(&point);
     ScreenToClient(Window(), &point);
-    switch (panels.PlaceAt(point).pair) {
+    switch (panels.PlaceAt(point).Pair) {
         case imgHand: ::SetCursor(handHit.get()); return true;
         case imgFlagUp:
         case imgFlagDown: ::SetCursor(handPointBlue.get()); return true;
@@ -351,7 +351,7 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
     GetClientRect(Window(), &client);
     const LONG frameWidth = window.right - window.left - client.right;
     const LONG frameHeight = window.bottom - window.top - client.bottom;
-    const LONG designed = MulDiv(environment.appearance.windowHeight, Dpi(), 1440);
+    const LONG designed = MulDiv(environment.Appearance.WindowHeight, Dpi(), 1440);
     info.ptMinTrackSize.x = Scaled(LeastWidth, Dpi()) + frameWidth;
     info.ptMinTrackSize.y = std::max(Scaled(LeastHeight, Dpi()) + frameHeight, designed);
 }

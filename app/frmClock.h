@@ -50,13 +50,13 @@ class frmClock : public Form, private ClockView {
     void ResetRecorder() override {
         if (scorlet.Loaded()) scorlet.Loaded()->ResetRecord();
     }
-    modClock::TimeControl ReadTimeControl() override;
+    TimeControl ReadTimeControl() override;
     void TellReadingProblems() override;
 
     void LoadPictures();
     void ShowSetup();
     void ShowAbout();
-    modClock::TimeControl ShownTimeControl();
+    TimeControl ShownTimeControl();
     void UpdateMenu();
     void PlaceWindow();
     void Tick();

@@ -28,7 +28,7 @@ std::wstring FindFolder(UINT(WINAPI* find)(LPSTR, UINT)) {
 
 std::wstring FindProgram(const clsFileSystem& fileSystem, const Environment& environment, const wchar_t* name) {
     for (const std::wstring& folder : {environment.WindowsFolder, environment.SystemFolder}) {
-        if (fileSystem.FileExists(folder + name).result) return folder + name;
+        if (fileSystem.FileExists(folder + name).Result) return folder + name;
     }
     return {};
 }
@@ -48,8 +48,8 @@ std::wstring FindProgramFolder() {
 
 HRESULT EnsureFolder(const clsFileSystem& fileSystem, const std::wstring& folder) {
     const Outcome<bool> exists = fileSystem.FolderExists(folder);
-    if (exists.result) return S_OK;
-    if (SUCCEEDED(exists.status)) return fileSystem.CreateFolder(folder);
+    if (exists.Result) return S_OK;
+    if (SUCCEEDED(exists.Status)) return fileSystem.CreateFolder(folder);
     // No scripting runtime on this system: ask the system itself.
     if (CreateDirectoryW(folder.c_str(), nullptr)) return S_OK;
     const DWORD code = GetLastError();
@@ -62,7 +62,7 @@ Environment Establish(clsFileSystem& fileSystem, const Texts& texts) {
     Environment environment;
     environment.ProductTitle = texts(TextId::ProductTitle);
     environment.OsName = OsNameOf(FindVersionName());
-    environment.appearance = AppearanceOf(environment.OsName);
+    environment.Appearance = AppearanceOf(environment.OsName);
 
     environment.ProgramFolder = FindProgramFolder();
     environment.ImagesFolder = environment.ProgramFolder + L"images\\";
@@ -80,7 +80,7 @@ Environment Establish(clsFileSystem& fileSystem, const Texts& texts) {
     if (environment.OsName == "NONE") fileSystem.WriteLog(UnknownWindowsCode, 0, FromAnsi(environment.OsName));
 
     environment.NotepadPath = FindProgram(fileSystem, environment, L"Notepad.exe");
-    environment.savedGamesStatus = EnsureFolder(fileSystem, environment.SavedGamesFolder);
+    environment.SavedGamesStatus = EnsureFolder(fileSystem, environment.SavedGamesFolder);
     environment.HelpViewerPath = FindProgram(fileSystem, environment, L"hh.exe");
     return environment;
 }

@@ -13,7 +13,7 @@ namespace modEnvironment {
 struct Environment {
     std::wstring ProductTitle;  // title of message boxes
     std::string OsName;         // "WINDOWSXP", or "NONE"
-    Appearance appearance;
+    Appearance Appearance;
 
     std::wstring ProgramFolder;
     std::wstring ImagesFolder;
@@ -26,7 +26,7 @@ struct Environment {
     std::wstring NotepadPath;     // empty when there is none
     std::wstring HelpViewerPath;  // empty when there is none
 
-    HRESULT savedGamesStatus = S_OK;  // why the folder of saved games could not be made
+    HRESULT SavedGamesStatus = S_OK;  // why the folder of saved games could not be made
 };
 
 // The folder of the running program file, with its backslash.

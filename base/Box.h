@@ -2,7 +2,7 @@
 
 // A rectangle in pixels.
 struct Box {
-    int left = 0, top = 0, width = 0, height = 0;
-    int Right() const { return left + width; }
-    int Bottom() const { return top + height; }
+    int Left = 0, Top = 0, Width = 0, Height = 0;
+    int Right() const { return Left + Width; }
+    int Bottom() const { return Top + Height; }
 };

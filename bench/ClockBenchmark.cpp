@@ -14,8 +14,8 @@ struct SilentHost : modClock::ClockHost {
 };
 
 // A Fischer game that runs for as long as a benchmark does.
-modClock::TimeControl LongGame(bool down) {
-    modClock::TimeControl control;
+TimeControl LongGame(bool down) {
+    TimeControl control;
     control.CountTimeDown = down;
     control.PeriodLimit.fill(2'000'000'000);
     control.SecondPeriodTime.fill(1800);

@@ -12,14 +12,14 @@ namespace {
 
 Settings WithBonus() {
     Settings settings = QuietSettings();
-    settings.MoveBonus.fill(1);
+    settings.Control.MoveBonus.fill(1);
     return settings;
 }
 
 // When a face was painted with another text than before.
 struct PaintWatch {
-    std::wstring before;
-    double painted = 0;
+    std::wstring Before;
+    double Painted = 0;
 };
 
 // Put before the face's own procedure in the old way: a subclass of the common controls looks itself up at each
@@ -30,7 +30,7 @@ LRESULT CALLBACK FaceProcedure(HWND face, UINT message, WPARAM wParam, LPARAM lP
     if (message == WM_PAINT) {
         GdiFlush();
         auto& watch = *reinterpret_cast<PaintWatch*>(GetWindowLongPtrW(face, GWLP_USERDATA));
-        if (!watch.painted && TextOf(face) != watch.before) watch.painted = Now();
+        if (!watch.Painted && TextOf(face) != watch.Before) watch.Painted = Now();
     }
     return result;
 }
@@ -45,7 +45,7 @@ std::vector<double> MeasurePresses(int count) {
     const Texts texts(settings.LanguageIndex);
     const MessageBoxes messageBoxes(texts);
     modEnvironment::Environment environment;
-    environment.appearance = AppearanceOf("NONE");
+    environment.Appearance = AppearanceOf("NONE");
     frmClock form(environment, settingsFile, settings, texts, messageBoxes);
     form.Open();
 
@@ -66,11 +66,11 @@ std::vector<double> MeasurePresses(int count) {
         watch = {TextOf(form.Control(ControlOf(lblFace, running))), 0};
         const double start = Now();
         PostMessageW(form.Control(ControlOf(cmdClock, running)), WM_LBUTTONDOWN, 0, 0);
-        while (!watch.painted && GetMessageW(&message, nullptr, 0, 0) > 0) {
+        while (!watch.Painted && GetMessageW(&message, nullptr, 0, 0) > 0) {
             if (form.TakeMessage(message)) continue;
             DispatchMessageW(&message);
         }
-        times.push_back(watch.painted - start);
+        times.push_back(watch.Painted - start);
         running = Other(running);
     }
     return times;

@@ -41,8 +41,8 @@ bool ReplayMove(Board& board, std::string_view word, std::string& written) {
     board.Carry(move);
     if (word.size() == 5) {
         const PieceKind kind = ReadPromotion(word[4]);
-        if (kind == PieceKind::None || !Board::ReachesLastRank(move.moving, destination)) return false;
-        board.Put(destination, PieceOf(SideOf(move.moving), kind));
+        if (kind == PieceKind::None || !Board::ReachesLastRank(move.Moving, destination)) return false;
+        board.Put(destination, PieceOf(SideOf(move.Moving), kind));
         written += '=';
         written += PieceLetter(kind);
     }

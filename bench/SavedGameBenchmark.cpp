@@ -30,7 +30,7 @@ Settings Options() {
 
 modClock::ClockState Clock() {
     modClock::ClockState clock;
-    static_cast<modClock::TimeControl&>(clock) = TimeControlOf(Options());
+    clock.Control = Options().Control;
     clock.PlayerTime = {300, 200};
     clock.MoveCount = {Moves, Moves};
     clock.GameStarted = true;

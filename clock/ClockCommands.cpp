@@ -28,7 +28,7 @@ void ClockCommands::Initialise() {
     view.TellReadingProblems();
 }
 
-void ClockCommands::TakeTimeControl(const modClock::TimeControl& control) {
+void ClockCommands::TakeTimeControl(const TimeControl& control) {
     clock.AbandonGame();
     clock.SetTimeControl(control);
     clock.InitialiseClock();

@@ -45,7 +45,7 @@ class ClockView {
     virtual void RecordFlagFall(Side side) = 0;
     virtual void ResetRecorder() = 0;
     // The user's time control, read anew; the window shows what else the settings say.
-    virtual modClock::TimeControl ReadTimeControl() = 0;
+    virtual TimeControl ReadTimeControl() = 0;
     // Time to say what went wrong in the reading: the clock stands initialised.
     virtual void TellReadingProblems() = 0;
 
@@ -78,7 +78,7 @@ class ClockCommands final : private modClock::ClockHost {
     void Initialise();
 
     // An idle clock with another one, as if none had ever been started; for when SetupEnabled.
-    void TakeTimeControl(const modClock::TimeControl& control);
+    void TakeTimeControl(const TimeControl& control);
 
     void Press(Side button);
     void Start();

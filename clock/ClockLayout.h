@@ -9,20 +9,20 @@
 
 // One player's panel. The turn marks are an arrow before the name and a bar above and below the face.
 struct PanelLayout {
-    Box panel;
-    Box side, blink;
-    Box face;
-    std::array<Box, 3> turnMarks;
-    Box flag, hand, clockButton, pauseButton;
-    Box moveNumber, moveCount;
-    Box period, periodTime;
-    Box bonus, bonusTime;
+    Box Panel;
+    Box Name, Blink;
+    Box Face;
+    std::array<Box, 3> TurnMarks;
+    Box Flag, Hand, ClockButton, PauseButton;
+    Box MoveNumber, MoveCount;
+    Box Period, PeriodTime;
+    Box Bonus, BonusTime;
 };
 
 struct ClockLayout {
-    std::array<PanelLayout, 2> panels;
+    std::array<PanelLayout, 2> Panels;
     // Heights of type, in pixels.
-    int nameType, blinkType, buttonType, pauseType, textType;
+    int NameType, BlinkType, ButtonType, PauseType, TextType;
 };
 
 // The client size at which the design is drawn 1 : 1, and the least that leaves it readable, at 96 dpi.

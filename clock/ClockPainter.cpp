@@ -12,7 +12,7 @@ constexpr Colour MarkColour{RGB(0x12, 0x8A, 0x3A), COLOR_HIGHLIGHT};
 constexpr Colour EdgeColour{RGB(0x6E, 0x6E, 0x6E), COLOR_WINDOWTEXT};
 
 struct FaceColours {
-    Colour ground, ink, fallenInk;
+    Colour Ground, Ink, FallenInk;
 };
 constexpr std::array<FaceColours, 2> Faces{
     FaceColours{{RGB(0xFF, 0xFF, 0xFF), COLOR_WINDOW},
@@ -46,11 +46,11 @@ ClockPainter::ClockPainter(uint32_t background)
     : backgroundBrush({ColourOf(background), COLOR_BTNFACE}), panelBrush(PanelColour), runningBrush(RunningColour) {}
 
 void ClockPainter::SetLayout(const ClockLayout& layout) {
-    nameType = layout.nameType;
-    blinkFont = MakeFont(layout.blinkType, true);
-    buttonFont = MakeFont(layout.buttonType, true);
-    pauseFont = MakeFont(layout.pauseType, true);
-    textFont = MakeFont(layout.textType, false);
+    nameType = layout.NameType;
+    blinkFont = MakeFont(layout.BlinkType, true);
+    buttonFont = MakeFont(layout.ButtonType, true);
+    pauseFont = MakeFont(layout.PauseType, true);
+    textFont = MakeFont(layout.TextType, false);
     faceFont.reset();
 }
 
@@ -65,7 +65,7 @@ HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
 }
 
 void ClockPainter::DrawPanel(HDC dc, const Box& panel, bool running) const {
-    RECT area{panel.left, panel.top, panel.Right(), panel.Bottom()};
+    RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
     FillRect(dc, &area, PanelBrush(running));
     Frame(dc, area, running ? MarkColour : EdgeColour);
     if (running) {
@@ -78,10 +78,10 @@ void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::ws
     const Buffered buffer(item);
     RECT area = buffer.Area();
     const FaceColours& colours = Faces[side];
-    Fill(buffer.Dc(), area, colours.ground);
+    Fill(buffer.Dc(), area, colours.Ground);
     Frame(buffer.Dc(), area, EdgeColour);
     const Selection selection(buffer.Dc(), FaceFont(buffer.Dc(), text, area.right * 94 / 100, area.bottom));
-    SetTextColor(buffer.Dc(), fallen ? colours.fallenInk : colours.ink);
+    SetTextColor(buffer.Dc(), fallen ? colours.FallenInk : colours.Ink);
     DrawTextW(buffer.Dc(), text.c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }
 
@@ -144,7 +144,7 @@ void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text,
     const LONG rise = std::max(area.bottom / 10, LONG{3});
     const KeyColours& colours = enabled ? live : DeadKey;
 
-    Fill(buffer.Dc(), area, colours.rim);
+    Fill(buffer.Dc(), area, colours.Rim);
     RECT top = area;
     if (down) {
         top.top += rise * 2 / 3;
@@ -154,11 +154,11 @@ void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text,
     } else {
         top.bottom -= rise;
     }
-    Fill(buffer.Dc(), top, colours.face);
-    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, colours.edge);
+    Fill(buffer.Dc(), top, colours.Face);
+    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, colours.Edge);
 
     const Selection selection(buffer.Dc(), font);
-    SetTextColor(buffer.Dc(), colours.text);
+    SetTextColor(buffer.Dc(), colours.Text);
     DrawTextW(buffer.Dc(), text.c_str(), -1, &top, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     if (item.itemState & ODS_FOCUS) {
         InflateRect(&top, -static_cast<int>(rise / 2), -static_cast<int>(rise / 2));

@@ -12,7 +12,7 @@
 
 // Of a key that can be pressed, and of one that cannot.
 struct KeyColours {
-    Colour face, rim, text, edge;
+    Colour Face, Rim, Text, Edge;
 };
 
 // How the clock window looks: its colours, type and pictures.

@@ -18,7 +18,7 @@ std::string Clock::Face(Side side) const {
     return state.TimeHoursText[side] + ":" + state.TimeMinutesText[side] + ":" + state.TimeSecondsText[side];
 }
 
-void Clock::SetTimeControl(const TimeControl& control) { static_cast<TimeControl&>(state) = control; }
+void Clock::SetTimeControl(const TimeControl& control) { state.Control = control; }
 
 void Clock::Restore(const ClockState& kept) {
     const bool running = state.TimerRunning;
@@ -37,7 +37,7 @@ void Clock::InitialiseClock() {
         state.PlayerTime[side] = 0;
         state.MoveCount[side] = 0;
         state.SecondPeriodDue[side] = false;
-        state.SecondPeriodArmed[side] = state.SecondPeriodEnabled;
+        state.SecondPeriodArmed[side] = state.Control.SecondPeriodEnabled;
     }
     for (Side side : BothSides) ShowClock(side);
     host.MoveNumbersChanged();
@@ -50,8 +50,8 @@ void Clock::AbandonGame() {
 }
 
 void Clock::ShowClock(Side side) {
-    const bool showsLimit = state.CountTimeDown && Untouched();
-    const int32_t time = showsLimit ? state.PeriodLimit[side] : state.PlayerTime[side];
+    const bool showsLimit = state.Control.CountTimeDown && Untouched();
+    const int32_t time = showsLimit ? state.Control.PeriodLimit[side] : state.PlayerTime[side];
     state.TimeSeconds[side] = time % 60;
     state.TimeMinutes[side] = time / 60 % 60;
     state.TimeHours[side] = time / 3600;
@@ -66,12 +66,12 @@ void Clock::ClockTick() {
     if (state.CountsOutOfStep()) return;
 
     const Side side = state.ActiveSide;
-    const bool granted = state.SecondPeriodDue[side] && state.SecondPeriodEnabled;
-    if (state.CountTimeDown) {
+    const bool granted = state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled;
+    if (state.Control.CountTimeDown) {
         state.PlayerTime[side] = CheckedAdd(state.PlayerTime[side], -1);
         if (state.PlayerTime[side] == 0) {
             if (granted) {
-                state.PlayerTime[side] = state.SecondPeriodTime[side];
+                state.PlayerTime[side] = state.Control.SecondPeriodTime[side];
                 state.SecondPeriodDue[side] = false;
             }
             // A second period of no time is none: the time must not run on below zero.
@@ -80,12 +80,13 @@ void Clock::ClockTick() {
     } else {
         const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
         // The bonus counts as time used, deliberately.
-        const bool passed = CheckedAdd(state.MoveBonus[side], used) > state.PeriodLimit[side];
-        const int32_t limit = passed && granted ? CheckedAdd(state.PeriodLimit[side], state.SecondPeriodTime[side]) : 0;
+        const bool passed = CheckedAdd(state.Control.MoveBonus[side], used) > state.Control.PeriodLimit[side];
+        const int32_t limit =
+            passed && granted ? CheckedAdd(state.Control.PeriodLimit[side], state.Control.SecondPeriodTime[side]) : 0;
         state.PlayerTime[side] = used;
         if (passed) {
             if (!granted) return FlagFall();
-            state.PeriodLimit[side] = limit;
+            state.Control.PeriodLimit[side] = limit;
             state.SecondPeriodDue[side] = false;
         }
     }
@@ -96,10 +97,11 @@ void Clock::ClockTick() {
 PressOutcome Clock::PressClock(Side button) {
     // A press begins the other side's move, and that is the one counted. The divisors differ by one on purpose.
     const Side counted = Other(button);
-    const int32_t divisor = counted == Black ? state.MovesFirstPeriod : CheckedAdd(state.MovesFirstPeriod, 1);
+    const int32_t divisor =
+        counted == Black ? state.Control.MovesFirstPeriod : CheckedAdd(state.Control.MovesFirstPeriod, 1);
     const int32_t moves = CheckedAdd(state.MoveCount[counted], 1);
     const bool ticking = state.TimerHandle > 1;
-    const int32_t bonus = ticking && state.MoveBonus[button] > 0 ? state.MoveBonus[button] : 0;
+    const int32_t bonus = ticking && state.Control.MoveBonus[button] > 0 ? state.Control.MoveBonus[button] : 0;
     const int32_t time = CheckedAdd(state.PlayerTime[button], bonus);
 
     const ClockState before = state;
@@ -107,7 +109,7 @@ PressOutcome Clock::PressClock(Side button) {
     state.PlayerTime[button] = time;
     if (!ticking && !state.GameStarted) {
         state.GameStarted = true;
-        if (state.CountTimeDown) state.PlayerTime = state.PeriodLimit;
+        if (state.Control.CountTimeDown) state.PlayerTime = state.Control.PeriodLimit;
         if (!StartClockTimer()) {
             state = before;
             return PressOutcome::TimerNotCreated;
@@ -124,7 +126,7 @@ PressOutcome Clock::PressClock(Side button) {
 }
 
 bool Clock::EarnsSecondPeriod(Side side, int32_t moves, int32_t divisor) const {
-    const int32_t second = state.SecondPeriodTime[side];
+    const int32_t second = state.Control.SecondPeriodTime[side];
     const bool byTime = state.PlayerTime[side] > second && state.SecondPeriodArmed[side];
     const bool byMoves = moves % divisor == 0 && second >= 1;
     return byTime || byMoves;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Side.h"
+#include "base/TimeControl.h"
 
 #include <array>
 #include <cstdint>
@@ -10,17 +11,9 @@
 // of ClockTick counts as exactly one second.
 namespace modClock {
 
-// What a game is played with. Times are whole seconds, per side.
-struct TimeControl {
-    std::array<int32_t, 2> PeriodLimit{};       // first period; counting up it grows when the second is granted
-    std::array<int32_t, 2> SecondPeriodTime{};  // 0: none
-    std::array<int32_t, 2> MoveBonus{};         // added at each press, 0: none
-    bool CountTimeDown = true;                  // false: the clocks show the time used
-    bool SecondPeriodEnabled = false;
-    int32_t MovesFirstPeriod = 40;  // at least 1, it divides
-};
+struct ClockState {
+    TimeControl Control;
 
-struct ClockState : TimeControl {
     std::array<int32_t, 2> PlayerTime{};      // seconds left, or used when counting up
     std::array<bool, 2> SecondPeriodDue{};    // earned, and not yet used
     std::array<bool, 2> SecondPeriodArmed{};  // the second period may still be earned by the time rule

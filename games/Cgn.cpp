@@ -5,9 +5,7 @@
 
 namespace {
 
-using Rule = GameFileError::Rule;
-
-GameFileError ErrorAt(Rule rule, size_t offset) { return {MovesFile, rule, static_cast<int32_t>(offset)}; }
+GameFileError ErrorAt(Damage damage, size_t offset) { return {MovesFile, damage, static_cast<int32_t>(offset)}; }
 
 std::string WriteMovetext(const MoveLists& lists) {
     std::string text;
@@ -17,7 +15,7 @@ std::string WriteMovetext(const MoveLists& lists) {
             if (row >= lists[side].Moves()) continue;
             text += std::to_string(row + 1);
             text += side == White ? ". " : "... ";
-            text += lists[side].Entries()[row].text;
+            text += lists[side].Entries()[row].Text;
             text += ' ';
         }
     }
@@ -68,8 +66,8 @@ std::optional<std::string_view> EndMark(std::string_view word) {
 }
 
 struct MoveNumber {
-    size_t number;
-    Side side;
+    size_t Number;
+    Side Mover;
 };
 
 std::optional<MoveNumber> ReadMoveNumber(std::string_view word) {
@@ -85,7 +83,7 @@ std::optional<MoveNumber> ReadMoveNumber(std::string_view word) {
 Side ListOfResult(Side sideToMove, const MoveLists& lists) {
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
-    return last && lists[mover].Entries()[*last].text.ends_with('#') ? mover : sideToMove;
+    return last && lists[mover].Entries()[*last].Text.ends_with('#') ? mover : sideToMove;
 }
 
 }  // namespace
@@ -96,25 +94,25 @@ std::string EncodeCgn(const GameHead& head, const MoveLists& lists) {
 
 std::optional<GameFileError> DecodeCgn(std::string_view bytes, Side sideToMove, MoveLists& lists) {
     const size_t start = FindMovetext(bytes);
-    if (start == std::string_view::npos) return ErrorAt(Rule::NoHead, bytes.size());
+    if (start == std::string_view::npos) return ErrorAt(Damage::NoHead, bytes.size());
 
     MoveLists read;
     Words words(bytes, start);
     while (true) {
         const std::string_view word = words.Next();
-        if (word.empty()) return ErrorAt(Rule::EndsEarly, words.Start());
+        if (word.empty()) return ErrorAt(Damage::EndsEarly, words.Start());
         if (const auto mark = EndMark(word)) {
             if (*mark != "*") read[ListOfResult(sideToMove, read)].AddResult(*mark);
-            if (!words.Next().empty()) return ErrorAt(Rule::UnexpectedText, words.Start());
+            if (!words.Next().empty()) return ErrorAt(Damage::UnexpectedText, words.Start());
             lists = std::move(read);
             return std::nullopt;
         }
         const auto number = ReadMoveNumber(word);
-        if (!number) return ErrorAt(Rule::UnexpectedText, words.Start());
-        MoveList& list = read[number->side];
-        if (number->number != list.Moves() + 1) return ErrorAt(Rule::WrongNumber, words.Start());
+        if (!number) return ErrorAt(Damage::UnexpectedText, words.Start());
+        MoveList& list = read[number->Mover];
+        if (number->Number != list.Moves() + 1) return ErrorAt(Damage::WrongNumber, words.Start());
         const std::string_view move = words.Next();
-        if (move.empty()) return ErrorAt(Rule::EndsEarly, words.Start());
+        if (move.empty()) return ErrorAt(Damage::EndsEarly, words.Start());
         list.SetText(list.AddWaiting(), std::string(move));
     }
 }

@@ -4,35 +4,21 @@
 
 namespace {
 
-using Rule = GameFileError::Rule;
-
-GameFileError Damaged(const RecordError& error) {
-    const auto rule = [&] {
-        switch (error.rule) {
-            case RecordError::Rule::UnknownTag: return Rule::UnknownTag;
-            case RecordError::Rule::ShortFile: return Rule::ShortRecord;
-            case RecordError::Rule::Overflow: return Rule::Overflow;
-            case RecordError::Rule::OutOfRange: break;
-        }
-        return Rule::OutOfRange;
-    }();
-    return {ClockFile, rule, error.slot};
-}
-
 // Whether a side's flag is down by the test that a tick makes.
 bool OutOfTime(const modClock::ClockState& clock, Side side) {
-    if (clock.CountTimeDown) return clock.PlayerTime[side] == 0;
-    const bool granted = clock.SecondPeriodDue[side] && clock.SecondPeriodEnabled;
-    return !granted && int64_t{clock.MoveBonus[side]} + clock.PlayerTime[side] > clock.PeriodLimit[side];
+    if (clock.Control.CountTimeDown) return clock.PlayerTime[side] == 0;
+    const bool granted = clock.SecondPeriodDue[side] && clock.Control.SecondPeriodEnabled;
+    return !granted &&
+           int64_t{clock.Control.MoveBonus[side]} + clock.PlayerTime[side] > clock.Control.PeriodLimit[side];
 }
 
 // Counting up, a bonus or a second period of no time may carry the time past the limit without the flag: it falls at
 // the next second only.
 bool MayWaitForTick(const modClock::ClockState& clock, Side side) {
-    if (clock.CountTimeDown) return false;
-    const bool emptyPeriod = clock.SecondPeriodEnabled && clock.SecondPeriodTime[side] == 0;
-    const int64_t mostByBonus = int64_t{clock.MoveBonus[side]} * clock.MoveCount[side];
-    return int64_t{clock.PlayerTime[side]} - clock.PeriodLimit[side] <= mostByBonus + (emptyPeriod ? 1 : 0);
+    if (clock.Control.CountTimeDown) return false;
+    const bool emptyPeriod = clock.Control.SecondPeriodEnabled && clock.Control.SecondPeriodTime[side] == 0;
+    const int64_t mostByBonus = int64_t{clock.Control.MoveBonus[side]} * clock.MoveCount[side];
+    return int64_t{clock.PlayerTime[side]} - clock.Control.PeriodLimit[side] <= mostByBonus + (emptyPeriod ? 1 : 0);
 }
 
 // What the last fields would say, as far as it can be told without them.
@@ -42,9 +28,9 @@ void InferProgress(modClock::ClockState& clock) {
     clock.TurnFlag = clock.GameStarted && side == White;
     for (Side each : BothSides) {
         // The number of moves that earns the second period is one higher for White.
-        const int64_t earning = int64_t{clock.MovesFirstPeriod} + (each == White ? 1 : 0);
+        const int64_t earning = int64_t{clock.Control.MovesFirstPeriod} + (each == White ? 1 : 0);
         clock.SecondPeriodArmed[each] =
-            clock.SecondPeriodEnabled && !clock.SecondPeriodDue[each] && clock.MoveCount[each] < earning;
+            clock.Control.SecondPeriodEnabled && !clock.SecondPeriodDue[each] && clock.MoveCount[each] < earning;
     }
 }
 
@@ -55,7 +41,7 @@ void ReadProgress(SlotReader& slots, modClock::ClockState& clock) {
     // White runs first, so no game is under way without a move counted for it.
     const bool agrees =
         clock.GameStarted ? clock.TurnFlag == white && clock.MoveCount[White] > 0 : !clock.TurnFlag || white;
-    if (!agrees) throw GameFileError{ClockFile, Rule::TurnAgainstCounts, slots.Last() - 1};
+    if (!agrees) throw GameFileError{ClockFile, Damage::TurnAgainstCounts, slots.Last() - 1};
     for (bool& armed : clock.SecondPeriodArmed) armed = slots.NextCheck();
 }
 
@@ -63,12 +49,12 @@ void ReadFields(SlotReader& slots, ClockRecord& saved) {
     for (std::string& name : saved.Options.PlayerNames) name = slots.NextName(MaxSavedName);
     DecodeOptions(slots, saved.Options);
     modClock::ClockState& clock = saved.Clock;
-    static_cast<modClock::TimeControl&>(clock) = TimeControlOf(saved.Options);
+    clock.Control = saved.Options.Control;
     for (int32_t& seconds : clock.PlayerTime) seconds = slots.Next(0);
     const int32_t lastTime = slots.Last();
     for (bool& due : clock.SecondPeriodDue) due = slots.NextCheck();
     for (int32_t& moves : clock.MoveCount) moves = slots.Next(0, MostSavedMoves);
-    if (clock.CountsOutOfStep()) throw GameFileError{ClockFile, Rule::CountsOutOfStep, slots.Last()};
+    if (clock.CountsOutOfStep()) throw GameFileError{ClockFile, Damage::CountsOutOfStep, slots.Last()};
     saved.SideToMove = slots.NextCheck() ? White : Black;
     saved.Options.WritePgn = slots.NextCheck();
     if (slots.NextIsEmpty()) {
@@ -79,22 +65,11 @@ void ReadFields(SlotReader& slots, ClockRecord& saved) {
     }
     const Side side = clock.SideByCounts();
     if (clock.GameStarted && OutOfTime(clock, side) && !MayWaitForTick(clock, side))
-        throw GameFileError{ClockFile, Rule::NoTimeLeft, lastTime - (side == White ? 1 : 0)};
+        throw GameFileError{ClockFile, Damage::NoTimeLeft, lastTime - (side == White ? 1 : 0)};
     saved.ScorletLoaded = slots.NextIsEmpty() || slots.NextCheck();
 }
 
 }  // namespace
-
-modClock::TimeControl TimeControlOf(const Settings& settings) {
-    modClock::TimeControl control;
-    control.PeriodLimit = settings.PeriodLimit;
-    control.SecondPeriodTime = settings.SecondPeriodTime;
-    control.MoveBonus = settings.MoveBonus;
-    control.CountTimeDown = settings.CountTimeDown;
-    control.SecondPeriodEnabled = settings.SecondPeriodEnabled;
-    control.MovesFirstPeriod = settings.MovesFirstPeriod;
-    return control;
-}
 
 std::string EncodeClockRecord(const ClockRecord& saved) {
     SlotRecord record;
@@ -109,15 +84,15 @@ std::string EncodeClockRecord(const ClockRecord& saved) {
         write(static_cast<int32_t>(cut.size()));
         for (char character : cut) write(static_cast<double>(static_cast<uint8_t>(character)));
     }
-    for (int32_t seconds : clock.PeriodLimit) write(seconds / 60.0);
-    for (int32_t seconds : clock.SecondPeriodTime) write(seconds / 60.0);
-    for (int32_t seconds : clock.MoveBonus) write(seconds);
-    write(clock.CountTimeDown);
+    for (int32_t seconds : clock.Control.PeriodLimit) write(seconds / 60.0);
+    for (int32_t seconds : clock.Control.SecondPeriodTime) write(seconds / 60.0);
+    for (int32_t seconds : clock.Control.MoveBonus) write(seconds);
+    write(clock.Control.CountTimeDown);
     write(options.TurnClock);
     write(options.ShowMoveNumber);
     write(options.ClockType);
     write(options.OpenScorletAtStart);
-    write(clock.MovesFirstPeriod - 1);
+    write(clock.Control.MovesFirstPeriod - 1);
     write(options.ButtonSoundIndex);
     write(options.FlagSoundIndex);
     for (int32_t seconds : clock.PlayerTime) write(seconds);
@@ -140,12 +115,12 @@ std::optional<GameFileError> DecodeClockRecord(std::span<const uint8_t> bytes, c
     try {
         ReadFields(slots, read);
     } catch (const BadSlot& bad) {
-        return Damaged(bad.error);
+        return GameFileError{ClockFile, bad.Error.What, bad.Error.Slot};
     } catch (const GameFileError& error) {
         return error;
     }
     // A fault behind the last field has cost nothing, but the file is damaged.
-    if (record.error) return Damaged(*record.error);
+    if (record.Error) return GameFileError{ClockFile, record.Error->What, record.Error->Slot};
     saved = std::move(read);
     return std::nullopt;
 }

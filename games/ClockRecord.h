@@ -23,8 +23,6 @@ struct ClockRecord {
     bool ScorletLoaded = false;  // the game has its other files
 };
 
-modClock::TimeControl TimeControlOf(const Settings& settings);
-
 // The bytes of the record. The time control is taken from Clock.
 std::string EncodeClockRecord(const ClockRecord& saved);
 

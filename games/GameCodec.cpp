@@ -14,7 +14,7 @@ constexpr size_t LongestText = 4 << 20;
 std::optional<std::string> ReadText(const GameFileReader& read, GameFile file, size_t most) {
     const auto bytes = read(file, most + 1);
     if (!bytes) return std::nullopt;
-    if (bytes->size() > most) throw GameFileError{file, GameFileError::Rule::TooLong, static_cast<int32_t>(most)};
+    if (bytes->size() > most) throw GameFileError{file, Damage::TooLong, static_cast<int32_t>(most)};
     return std::string(bytes->begin(), bytes->end());
 }
 

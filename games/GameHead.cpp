@@ -16,7 +16,7 @@ std::string TagPair(std::string_view tag, std::string_view value) {
 
 std::string Dashed(const CalendarDate& date) {
     char text[40];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.year, date.month, date.day);
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.Year, date.Month, date.Day);
     return text;
 }
 
@@ -31,13 +31,13 @@ std::string OnOneLine(std::string name) {
 
 std::string_view ResultToken(const MoveLists& lists) {
     for (const MoveList& list : lists) {
-        if (list.EndsWithResult()) return list.Entries().back().text;
+        if (list.EndsWithResult()) return list.Entries().back().Text;
     }
     return "*";
 }
 
 std::string EncodeHead(const GameHead& head, std::string_view result) {
-    return TagPair("Event", "") + TagPair("Site", "") + TagPair("Date", Dashed(head.date)) + TagPair("Round", "") +
-           TagPair("White", OnOneLine(head.names[White])) + TagPair("Black", OnOneLine(head.names[Black])) +
+    return TagPair("Event", "") + TagPair("Site", "") + TagPair("Date", Dashed(head.Date)) + TagPair("Round", "") +
+           TagPair("White", OnOneLine(head.Names[White])) + TagPair("Black", OnOneLine(head.Names[Black])) +
            TagPair("Result", result);
 }

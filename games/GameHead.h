@@ -7,13 +7,13 @@
 #include <string_view>
 
 struct CalendarDate {
-    int year, month, day;  // month and day from 1
+    int Year, Month, Day;  // month and day from 1
 };
 
 // What the tag pairs at the start of the move files tell.
 struct GameHead {
-    CalendarDate date;
-    std::array<std::string, 2> names;  // in the ANSI code page, of any length
+    CalendarDate Date;
+    std::array<std::string, 2> Names;  // in the ANSI code page, of any length
 };
 
 // The result with which a list ends, or "*" where none does.

@@ -1,6 +1,5 @@
 #include "games/frmFiles.h"
 
-#include "games/GameMessages.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "resources/resource.h"
@@ -43,8 +42,8 @@ constexpr std::array Items{
 
 // What differs between the modes.
 struct ModeTexts {
-    int button;
-    TextId hint, title, nameMissing;
+    int Button;
+    TextId Hint, Title, NameMissing;
 };
 constexpr std::array Modes{
     ModeTexts{cmdLoad, TextId::HintLoad, TextId::LoadTitle, TextId::SelectGameToLoad},
@@ -56,9 +55,9 @@ constexpr const ModeTexts& Of(FilesMode mode) { return Modes[static_cast<size_t>
 }  // namespace
 
 void frmFiles::Open(HWND owner) {
-    Create(owner, L"frmFiles", Of(mode).title, L"DISKETTE.ICO", Width, Height, Items);
-    for (const ModeTexts& texts : Modes) SetVisible(texts.button, texts.button == Of(mode).button);
-    SetText(lblHint, captions(Of(mode).hint));
+    Create(owner, L"frmFiles", Of(mode).Title, L"DISKETTE.ICO", Width, Height, Items);
+    for (const ModeTexts& texts : Modes) SetVisible(texts.Button, texts.Button == Of(mode).Button);
+    SetText(lblHint, captions(Of(mode).Hint));
     Subclass<NameProcedure>(Control(txtGameName), this);
     toolTips.Create();
     FillGameList();
@@ -77,7 +76,7 @@ std::wstring frmFiles::SpokenName(int id) const {
     return id == fraActions ? captions(TextId::ActionGroup) : std::wstring();
 }
 
-int frmFiles::DefaultButton() const { return Of(mode).button; }
+int frmFiles::DefaultButton() const { return Of(mode).Button; }
 
 void frmFiles::FillGameList() {
     for (const std::wstring& name : games.Names())
@@ -129,7 +128,7 @@ void frmFiles::OnNameChange() {
 
 void frmFiles::Act() {
     const std::wstring name = Text(txtGameName);
-    if (name.empty()) return Tell(texts(Of(mode).nameMissing));
+    if (name.empty()) return Tell(texts(Of(mode).NameMissing));
     if (IsDeviceName(name)) return Tell(texts.Compose(TextId::DeviceName, name));
     switch (mode) {
         case FilesMode::Load: return OnLoad(name);
@@ -144,7 +143,8 @@ void frmFiles::OnLoad(const std::wstring& name) {
     SavedGame game;
     try {
         if (const auto error = games.LoadGame(name, host.PresentSettings(), game)) {
-            return Tell(texts.Compose(TextId::GameDamaged, games.PathOf(name, error->file), ReasonOf(*error, texts)));
+            return Tell(texts.Compose(TextId::GameDamaged, games.PathOf(name, error->File),
+                                      texts.Reason(error->What, error->Place, error->Column)));
         }
     } catch (const SystemError& error) {
         return Tell(texts.Compose(TextId::GameNotRead, error.Thing(), texts.Reason(error.Code())));
@@ -184,10 +184,10 @@ void frmFiles::OnDelete(const std::wstring& name) {
     FillGameList();
 }
 
-void frmFiles::Tell(const std::wstring& text) const { messageBoxes.Inform(Window(), text, Of(mode).title); }
+void frmFiles::Tell(const std::wstring& text) const { messageBoxes.Inform(Window(), text, Of(mode).Title); }
 
 bool frmFiles::Ask(const std::wstring& text, bool yesIsDefault) const {
-    return messageBoxes.Ask(Window(), text, yesIsDefault, Of(mode).title);
+    return messageBoxes.Ask(Window(), text, yesIsDefault, Of(mode).Title);
 }
 
 LRESULT CALLBACK frmFiles::NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,

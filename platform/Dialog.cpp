@@ -25,9 +25,9 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
                  LoadIconW(GetModuleHandleW(nullptr), icon), owner);
     for (const DialogItem& item : items) {
         // The arrow keys go between buttons that follow one another.
-        const bool button = lstrcmpW(item.kind, WC_BUTTONW) == 0 && (item.style & BS_TYPEMASK) != BS_GROUPBOX;
-        AddControl(item.kind, item.id, WS_VISIBLE | item.style | (button ? 0 : WS_GROUP));
-        if (item.text) SetText(item.id, captions(*item.text));
+        const bool button = lstrcmpW(item.Kind, WC_BUTTONW) == 0 && (item.Style & BS_TYPEMASK) != BS_GROUPBOX;
+        AddControl(item.Kind, item.Id, WS_VISIBLE | item.Style | (button ? 0 : WS_GROUP));
+        if (item.Text) SetText(item.Id, captions(*item.Text));
     }
     Place(owner, width, height);
 }
@@ -53,10 +53,10 @@ void Dialog::Arrange() {
     UniqueFont previous = std::move(font);
     font = MakeFont(Scaled(TypeHeight, Dpi()), false);
     for (const DialogItem& item : items) {
-        const Box& box = item.box;
-        SendMessageW(Control(item.id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
-        SetWindowPos(Control(item.id), nullptr, Scaled(box.left, Dpi()), Scaled(box.top, Dpi()),
-                     Scaled(box.width, Dpi()), Scaled(box.height, Dpi()), SWP_NOZORDER | SWP_NOACTIVATE);
+        const Box& box = item.Box;
+        SendMessageW(Control(item.Id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
+        SetWindowPos(Control(item.Id), nullptr, Scaled(box.Left, Dpi()), Scaled(box.Top, Dpi()),
+                     Scaled(box.Width, Dpi()), Scaled(box.Height, Dpi()), SWP_NOZORDER | SWP_NOACTIVATE);
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

@@ -10,11 +10,11 @@
 
 // A control of a dialog.
 struct DialogItem {
-    int id;
-    const wchar_t* kind;
-    DWORD style;  // WS_VISIBLE is added
-    Box box;      // in the 96 dpi design
-    std::optional<TextId> text = std::nullopt;
+    int Id;
+    const wchar_t* Kind;
+    DWORD Style;  // WS_VISIBLE is added
+    Box Box;      // in the 96 dpi design
+    std::optional<TextId> Text = std::nullopt;
 };
 
 // Base of the forms that stand over the clock until they are closed. Enter presses the default button, or the one that

@@ -12,8 +12,8 @@ namespace {
 
 // A top-down 32-bit bitmap whose pixels can be reached.
 struct Canvas {
-    UniqueBitmap bitmap;
-    uint32_t* pixels = nullptr;
+    UniqueBitmap Bitmap;
+    uint32_t* Pixels = nullptr;
 
     Canvas(int width, int height) {
         BITMAPINFO info{};
@@ -23,9 +23,9 @@ struct Canvas {
         info.bmiHeader.biPlanes = 1;
         info.bmiHeader.biBitCount = 32;
         void* bits = nullptr;
-        bitmap.reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        if (!bitmap) throw SystemError(ERROR_NOT_ENOUGH_MEMORY, L"DIB");
-        pixels = static_cast<uint32_t*>(bits);
+        Bitmap.reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        if (!Bitmap) throw SystemError(ERROR_NOT_ENOUGH_MEMORY, L"DIB");
+        Pixels = static_cast<uint32_t*>(bits);
     }
 };
 
@@ -34,12 +34,12 @@ template <typename Drawing>
 std::vector<uint32_t> DrawnOn(uint32_t ground, int width, int height, Drawing draw) {
     const Canvas canvas(width, height);
     const size_t count = static_cast<size_t>(width) * static_cast<size_t>(height);
-    std::fill_n(canvas.pixels, count, ground);
+    std::fill_n(canvas.Pixels, count, ground);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
-    const Selection selection(dc.get(), canvas.bitmap.get());
+    const Selection selection(dc.get(), canvas.Bitmap.get());
     draw(dc.get());
     GdiFlush();
-    return {canvas.pixels, canvas.pixels + count};
+    return {canvas.Pixels, canvas.Pixels + count};
 }
 
 // Drawing on black and on white tells how much of the ground shows through each pixel, whatever the source's own form
@@ -112,8 +112,8 @@ Picture Picture::OfIcon(const wchar_t* resourceName, int size) {
 
 void Picture::Pack(const std::vector<uint32_t>& pixels) {
     for (const uint32_t pixel : pixels) {
-        if (runs.empty() || runs.back().pixel != pixel) runs.push_back({pixel, 0});
-        ++runs.back().length;
+        if (runs.empty() || runs.back().Pixel != pixel) runs.push_back({pixel, 0});
+        ++runs.back().Length;
     }
     runs.shrink_to_fit();
 }
@@ -121,7 +121,7 @@ void Picture::Pack(const std::vector<uint32_t>& pixels) {
 std::vector<uint32_t> Picture::Unpacked() const {
     std::vector<uint32_t> pixels;
     pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
-    for (const Run& run : runs) pixels.insert(pixels.end(), run.length, run.pixel);
+    for (const Run& run : runs) pixels.insert(pixels.end(), run.Length, run.Pixel);
     return pixels;
 }
 
@@ -137,10 +137,10 @@ void Picture::Draw(HDC dc, int left, int top, int size) const {
 HBITMAP Picture::OfSize(int size) const {
     const COLORREF outline = HighContrast() ? GetSysColor(COLOR_WINDOWTEXT) : CLR_INVALID;
     for (const Ready& one : ready) {
-        if (one.size == size && one.outline == outline) return one.bitmap.get();
+        if (one.Size == size && one.Outline == outline) return one.Bitmap.get();
     }
     ready[1] = std::exchange(ready[0], {size, outline, Shrunk(size, outline)});
-    return ready[0].bitmap.get();
+    return ready[0].Bitmap.get();
 }
 
 UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
@@ -162,10 +162,10 @@ UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
             uint32_t mean = 0;
             for (size_t channel = 0; channel < 4; ++channel)
                 mean |= ((sums[channel] + area / 2) / area) << (8 * channel);
-            canvas.pixels[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
+            canvas.Pixels[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
         }
     }
     if (outline != CLR_INVALID)
-        AddOutline({canvas.pixels, static_cast<size_t>(size) * static_cast<size_t>(size)}, size, outline);
-    return std::move(canvas.bitmap);
+        AddOutline({canvas.Pixels, static_cast<size_t>(size) * static_cast<size_t>(size)}, size, outline);
+    return std::move(canvas.Bitmap);
 }

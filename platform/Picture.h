@@ -31,14 +31,14 @@ class Picture {
   private:
     // Pixels of one colour. They take a tenth of what the pixels themselves would.
     struct Run {
-        uint32_t pixel;  // BGRA
-        uint32_t length;
+        uint32_t Pixel;  // BGRA
+        uint32_t Length;
     };
 
     struct Ready {
-        int size = 0;
-        COLORREF outline = CLR_INVALID;
-        UniqueBitmap bitmap;
+        int Size = 0;
+        COLORREF Outline = CLR_INVALID;
+        UniqueBitmap Bitmap;
     };
 
     void Pack(const std::vector<uint32_t>& pixels);

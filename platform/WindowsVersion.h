@@ -11,7 +11,7 @@ std::string OsNameOf(const std::string& versionName);
 
 // How the clock window looks on a version.
 struct Appearance {
-    uint32_t backgroundColour;  // 0xRRGGBB
-    int32_t windowHeight;       // twips, 1440 to the inch
+    uint32_t BackgroundColour;  // 0xRRGGBB
+    int32_t WindowHeight;       // twips, 1440 to the inch
 };
 Appearance AppearanceOf(const std::string& osName);

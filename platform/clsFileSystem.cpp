@@ -76,11 +76,11 @@ Outcome<DATE> clsFileSystem::FolderDate(const std::wstring& folder, DateKind kin
 }
 
 HRESULT clsFileSystem::WriteLog(int32_t code, int32_t status, const std::wstring& text) {
-    if (!FolderExists(logFolder).result) return S_OK;
+    if (!FolderExists(logFolder).Result) return S_OK;
     lastMessage = std::to_wstring(code) + L"-" + std::to_wstring(status) + L"-" + text;
 
     const std::wstring file = logFolder + LogFileName;
-    const bool exists = FileExists(file).result;
+    const bool exists = FileExists(file).Result;
     Variant opened;
     HRESULT result = exists ? Call(*fileSystem, L"OpenTextFile", opened, file, ForAppending)
                             : Call(*fileSystem, L"CreateTextFile", opened, file, true);
@@ -111,20 +111,20 @@ Outcome<std::vector<std::wstring>> clsFileSystem::Names(const std::wstring& fold
     Outcome<std::vector<std::wstring>> names{created, {}};
     if (!fileSystem) return names;
     Variant value;
-    names.status = Call(*fileSystem, L"GetFolder", value, folder);
+    names.Status = Call(*fileSystem, L"GetFolder", value, folder);
     const auto object = value.Object();
     if (!object) return names;
-    names.status = Call(*object, collection, value);
+    names.Status = Call(*object, collection, value);
     const auto members = value.Object();
     if (!members) return names;
     std::vector<UniqueCom<IDispatch>> items;
-    names.status = Items(*members, items);
+    names.Status = Items(*members, items);
     for (const auto& item : items) {
         const HRESULT named = Call(*item, L"Name", value);
         if (FAILED(named))
-            names.status = named;
+            names.Status = named;
         else
-            names.result.push_back(value.Text());
+            names.Result.push_back(value.Text());
     }
     return names;
 }
@@ -133,10 +133,10 @@ Outcome<DATE> clsFileSystem::Date(const wchar_t* getter, const std::wstring& pat
     Outcome<DATE> date{created, 0};
     if (!fileSystem) return date;
     Variant value;
-    date.status = Call(*fileSystem, getter, value, path);
+    date.Status = Call(*fileSystem, getter, value, path);
     const auto object = value.Object();
     if (!object) return date;
-    date.status = Call(*object, DateMember(kind), value);
-    if (SUCCEEDED(date.status)) date.result = value.Date();
+    date.Status = Call(*object, DateMember(kind), value);
+    if (SUCCEEDED(date.Status)) date.Result = value.Date();
     return date;
 }

@@ -12,10 +12,10 @@
 #include <vector>
 
 // The status of an operation, success or the system's failure code, besides its result.
-template <typename Result>
+template <typename Value>
 struct Outcome {
-    HRESULT status;
-    Result result;
+    HRESULT Status;
+    Value Result;
 };
 
 // Folders, files and the program's log, by way of the scripting runtime's file-system object. Its members are called by

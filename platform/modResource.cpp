@@ -30,8 +30,8 @@ UniqueCom<IPicture> LoadResourcePicture(const std::string& resourceName, const s
     if (temporaryFile.empty()) temporaryFile = MakeTemporaryFileName("", "~tvx", 0);
     // Deleted whatever happens next.
     struct Deleter {
-        const std::string& file;
-        ~Deleter() { DeleteFileA(file.c_str()); }
+        const std::string& File;
+        ~Deleter() { DeleteFileA(File.c_str()); }
     } const deleter{temporaryFile};
 
     WriteResourceToFile(resourceName, resourceType, temporaryFile);

@@ -29,12 +29,12 @@ void Board::Reset() {
 Move Board::Classify(Square origin, Square destination) const {
     const Piece moving = cells[origin];
     Move move{origin, destination, MoveKind::Ordinary, moving, cells[destination], destination, NoSquare, NoSquare};
-    if (move.captured != Piece::Empty) {
-        move.kind = MoveKind::Capture;
+    if (move.Captured != Piece::Empty) {
+        move.Kind = MoveKind::Capture;
     } else if (KindOf(moving) == PieceKind::Pawn && EnPassant(origin, destination, moving)) {
-        move.kind = MoveKind::EnPassant;
-        move.capturedOn = SquareAt(FileOf(destination), RankOf(origin));
-        move.captured = cells[move.capturedOn];
+        move.Kind = MoveKind::EnPassant;
+        move.CapturedOn = SquareAt(FileOf(destination), RankOf(origin));
+        move.Captured = cells[move.CapturedOn];
     } else if (KindOf(moving) == PieceKind::King) {
         Castling(move);
     }
@@ -51,7 +51,7 @@ bool Board::EnPassant(Square origin, Square destination, Piece moving) const {
 }
 
 void Board::Castling(Move& move) const {
-    const Side side = SideOf(move.moving);
+    const Side side = SideOf(move.Moving);
     const int rank = side == White ? 1 : 8;
     const auto empty = [&](int file) {
         return cells[SquareAt(file, rank)] == Piece::Empty;
@@ -59,28 +59,28 @@ void Board::Castling(Move& move) const {
     const auto rook = [&](int file) {
         return cells[SquareAt(file, rank)] == PieceOf(side, PieceKind::Rook);
     };
-    if (move.origin != SquareAt(5, rank)) return;
-    if (move.destination == SquareAt(7, rank) && rook(8) && empty(6)) {
-        move.kind = MoveKind::CastlingKingSide;
-        move.rookOrigin = SquareAt(8, rank);
-        move.rookDestination = SquareAt(6, rank);
-    } else if (move.destination == SquareAt(3, rank) && rook(1) && empty(2) && empty(4)) {
-        move.kind = MoveKind::CastlingQueenSide;
-        move.rookOrigin = SquareAt(1, rank);
-        move.rookDestination = SquareAt(4, rank);
+    if (move.Origin != SquareAt(5, rank)) return;
+    if (move.Destination == SquareAt(7, rank) && rook(8) && empty(6)) {
+        move.Kind = MoveKind::CastlingKingSide;
+        move.RookOrigin = SquareAt(8, rank);
+        move.RookDestination = SquareAt(6, rank);
+    } else if (move.Destination == SquareAt(3, rank) && rook(1) && empty(2) && empty(4)) {
+        move.Kind = MoveKind::CastlingQueenSide;
+        move.RookOrigin = SquareAt(1, rank);
+        move.RookDestination = SquareAt(4, rank);
     }
 }
 
 void Board::Carry(const Move& move) {
-    if (move.captured != Piece::Empty) {
-        cells[move.capturedOn] = Piece::Empty;
-        AddCaptured(move.captured);
+    if (move.Captured != Piece::Empty) {
+        cells[move.CapturedOn] = Piece::Empty;
+        AddCaptured(move.Captured);
     }
-    cells[move.origin] = Piece::Empty;
-    cells[move.destination] = move.moving;
-    if (move.rookOrigin != NoSquare) {
-        cells[move.rookDestination] = cells[move.rookOrigin];
-        cells[move.rookOrigin] = Piece::Empty;
+    cells[move.Origin] = Piece::Empty;
+    cells[move.Destination] = move.Moving;
+    if (move.RookOrigin != NoSquare) {
+        cells[move.RookDestination] = cells[move.RookOrigin];
+        cells[move.RookOrigin] = Piece::Empty;
     }
 }
 

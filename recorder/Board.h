@@ -10,14 +10,14 @@
 enum class MoveKind : uint8_t { Ordinary = 1, Capture = 2, EnPassant = 3, CastlingQueenSide = 5, CastlingKingSide = 6 };
 
 struct Move {
-    Square origin;
-    Square destination;
-    MoveKind kind;
-    Piece moving;
-    Piece captured;     // Empty when none is
-    Square capturedOn;  // where the captured piece stood: not the destination when en passant
-    Square rookOrigin;  // castling only, NoSquare otherwise
-    Square rookDestination;
+    Square Origin;
+    Square Destination;
+    MoveKind Kind;
+    Piece Moving;
+    Piece Captured;     // Empty when none is
+    Square CapturedOn;  // where the captured piece stood: not the destination when en passant
+    Square RookOrigin;  // castling only, NoSquare otherwise
+    Square RookDestination;
 };
 
 // The kinds that have a tray of captured pieces, and how many pictures each tray holds.
@@ -36,8 +36,8 @@ constexpr int TraySlots(PieceKind kind) {
 
 // A slot of a tray, by piece and its place there.
 struct TraySlot {
-    Piece piece;
-    int slot;
+    Piece Captured;
+    int Slot;
     bool operator==(const TraySlot&) const = default;
 };
 

@@ -6,7 +6,7 @@ std::optional<ChosenLine> BoardInput::Click(Square square) {
     cursor = square;
     const Piece clicked = recorder.Position().At(square);
     if (captured) {
-        if (clicked == Piece::Empty) recorder.PutBack(captured->piece, captured->slot, square);
+        if (clicked == Piece::Empty) recorder.PutBack(captured->Captured, captured->Slot, square);
         captured.reset();
         if (clicked == Piece::Empty) return std::nullopt;
     }
@@ -40,7 +40,7 @@ void BoardInput::PickNextCaptured() {
     bool behind = !before;
     for (int number = 0; number < 2 * SlotsPerSide; ++number) {
         const TraySlot next = SlotOf(number);
-        if (behind && recorder.Position().CapturedShown(next.piece, next.slot)) {
+        if (behind && recorder.Position().CapturedShown(next.Captured, next.Slot)) {
             captured = next;
             return;
         }
@@ -60,9 +60,9 @@ void BoardInput::MoveCursor(int files, int ranks) {
 CellLook BoardInput::LookOf(Square square) const {
     const auto& last = recorder.LastMove();
     return {
-        .piece = recorder.Position().At(square),
-        .origin = origin == square,
-        .lastMove = last && (last->origin == square || last->destination == square),
-        .cursor = cursor == square,
+        .Shown = recorder.Position().At(square),
+        .Origin = origin == square,
+        .LastMove = last && (last->Origin == square || last->Destination == square),
+        .Cursor = cursor == square,
     };
 }

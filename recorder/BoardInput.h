@@ -6,10 +6,10 @@
 
 // What a square shows.
 struct CellLook {
-    Piece piece;
-    bool origin;    // picked
-    bool lastMove;  // where the last move began or ended
-    bool cursor;    // of the keys
+    Piece Shown;
+    bool Origin;    // picked
+    bool LastMove;  // where the last move began or ended
+    bool Cursor;    // of the keys
 
     bool operator==(const CellLook&) const = default;
 };
@@ -25,7 +25,7 @@ class BoardInput {
     Square Cursor() const { return cursor; }
     bool PiecePicked() const { return origin || captured; }
     bool IsPicked(Piece piece, int slot) const {
-        return captured && captured->piece == piece && captured->slot == slot;
+        return captured && captured->Captured == piece && captured->Slot == slot;
     }
 
     const std::optional<TraySlot>& Captured() const { return captured; }

@@ -12,7 +12,7 @@ size_t MoveList::Write(std::string_view move) {
     size_t index = entries.size();
     while (index > 0 && entries[index - 1].IsWaiting()) --index;
     if (index == entries.size()) AddWaiting();
-    entries[index].text = move;
+    entries[index].Text = move;
     return index;
 }
 
@@ -31,5 +31,5 @@ size_t MoveList::AddResult(std::string_view result) {
 std::string MoveList::Line(size_t index, Side side) const {
     const MoveEntry& entry = entries[index];
     const bool numbered = entry.IsWaiting() || (entry.IsWritten() && side == White);
-    return numbered ? std::to_string(entry.number) + ". " + entry.text : entry.text;
+    return numbered ? std::to_string(entry.Number) + ". " + entry.Text : entry.Text;
 }

@@ -11,13 +11,13 @@
 
 // A line of a move list: a move with its number, a place that waits for one, or, without a number, the game's result.
 struct MoveEntry {
-    int32_t number;  // 0: a result
-    std::string text;
+    int32_t Number;  // 0: a result
+    std::string Text;
 
     bool operator==(const MoveEntry&) const = default;
-    bool IsResult() const { return number == 0; }
-    bool IsWaiting() const { return !IsResult() && text == MissingMove; }
-    bool IsWritten() const { return !IsResult() && text != MissingMove; }
+    bool IsResult() const { return Number == 0; }
+    bool IsWaiting() const { return !IsResult() && Text == MissingMove; }
+    bool IsWritten() const { return !IsResult() && Text != MissingMove; }
 };
 
 // The moves of one side, entry i being its move i + 1; a result can only be the last.

@@ -5,7 +5,7 @@
 namespace {
 
 struct Step {
-    int files, ranks;
+    int Files, Ranks;
 };
 
 constexpr std::array KnightJumps{Step{-2, -1}, Step{-2, 1}, Step{-1, -2}, Step{-1, 2},
@@ -16,25 +16,25 @@ constexpr std::array Directions{Step{-1, -1}, Step{-1, 1}, Step{1, -1}, Step{1, 
                                 Step{-1, 0},  Step{1, 0},  Step{0, -1}, Step{0, 1}};
 
 bool AnotherKnight(const Board& before, const Move& move) {
-    const int file = FileOf(move.destination), rank = RankOf(move.destination);
+    const int file = FileOf(move.Destination), rank = RankOf(move.Destination);
     for (size_t i = 0; i < KnightJumps.size(); ++i) {
         const auto [files, ranks] = KnightJumps[i];
         if (!OnBoard(file + files, rank + ranks)) continue;
         // For the first jump the rank looked at is the destination's file number less one. Deliberate: scores written
         // so far were written like this.
         const Square square = SquareAt(file + files, i == 0 ? file - 1 : rank + ranks);
-        if (square != move.origin && before.At(square) == move.moving) return true;
+        if (square != move.Origin && before.At(square) == move.Moving) return true;
     }
     return false;
 }
 
 bool AnotherSlider(const Board& before, const Move& move, std::span<const Step> directions) {
     for (const auto& [files, ranks] : directions) {
-        int file = FileOf(move.destination) + files, rank = RankOf(move.destination) + ranks;
+        int file = FileOf(move.Destination) + files, rank = RankOf(move.Destination) + ranks;
         for (; OnBoard(file, rank); file += files, rank += ranks) {
             const Square square = SquareAt(file, rank);
             if (before.At(square) == Piece::Empty) continue;
-            if (square != move.origin && before.At(square) == move.moving) return true;
+            if (square != move.Origin && before.At(square) == move.Moving) return true;
             break;
         }
     }
@@ -68,41 +68,41 @@ char FileOrBishop(std::string_view text, size_t at) {
 
 MoveText WriteMove(const Board& before, const Move& move) {
     MoveText text;
-    if (IsCastling(move.kind)) {
-        text.Append(CastlingText(move.kind));
+    if (IsCastling(move.Kind)) {
+        text.Append(CastlingText(move.Kind));
         return text;
     }
-    const PieceKind kind = KindOf(move.moving);
-    const bool captures = move.kind != MoveKind::Ordinary;
+    const PieceKind kind = KindOf(move.Moving);
+    const bool captures = move.Kind != MoveKind::Ordinary;
     if (kind == PieceKind::Pawn) {
-        if (captures) text.Append(FileLetter(move.origin));
+        if (captures) text.Append(FileLetter(move.Origin));
     } else {
         text.Append(PieceLetter(kind));
         if (const char file = Disambiguation(before, move)) text.Append(file);
     }
     if (captures) text.Append('x');
-    text.Append(move.destination);
-    if (move.kind == MoveKind::EnPassant) text.Append("ep");
+    text.Append(move.Destination);
+    if (move.Kind == MoveKind::EnPassant) text.Append("ep");
     return text;
 }
 
 MoveText WriteLongForm(const Move& move) {
     MoveText text;
-    if (IsCastling(move.kind)) {
-        text.Append(CastlingText(move.kind));
+    if (IsCastling(move.Kind)) {
+        text.Append(CastlingText(move.Kind));
         return text;
     }
-    text.Append(move.origin);
-    text.Append(move.kind == MoveKind::Ordinary ? '-' : 'x');
-    text.Append(move.destination);
-    if (move.kind == MoveKind::EnPassant) text.Append("ep");
+    text.Append(move.Origin);
+    text.Append(move.Kind == MoveKind::Ordinary ? '-' : 'x');
+    text.Append(move.Destination);
+    if (move.Kind == MoveKind::EnPassant) text.Append("ep");
     return text;
 }
 
 char Disambiguation(const Board& before, const Move& move) {
     const std::span<const Step> directions(Directions);
     const bool another = [&] {
-        switch (KindOf(move.moving)) {
+        switch (KindOf(move.Moving)) {
             case PieceKind::Knight: return AnotherKnight(before, move);
             case PieceKind::Bishop: return AnotherSlider(before, move, directions.first(4));
             case PieceKind::Rook: return AnotherSlider(before, move, directions.last(4));
@@ -110,7 +110,7 @@ char Disambiguation(const Board& before, const Move& move) {
             default: return false;
         }
     }();
-    return another ? FileLetter(move.origin) : '\0';
+    return another ? FileLetter(move.Origin) : '\0';
 }
 
 void SetPromotion(std::string& moveText, PieceKind kind) {

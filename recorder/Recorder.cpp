@@ -9,8 +9,8 @@ constexpr std::string_view WinOf(Side side) { return side == White ? "1-0" : "0-
 // A move of the movetext with the blank behind it. Black's carries a number only where White's move is missing.
 std::string MoveOfText(const MoveEntry& entry, Side side, bool numbered) {
     std::string text;
-    if (numbered) text = std::to_string(entry.number) + (side == White ? ". " : "... ");
-    return text + entry.text + " ";
+    if (numbered) text = std::to_string(entry.Number) + (side == White ? ". " : "... ");
+    return text + entry.Text + " ";
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ void Recorder::AwaitPromotionAgain() {
         for (int file = 1; file <= 8; ++file) {
             const Square square = SquareAt(file, rank);
             const std::string name{FileLetter(square), RankDigit(square)};
-            const bool movedTo = lists[mover].Entries()[*last].text.find(name) != std::string::npos;
+            const bool movedTo = lists[mover].Entries()[*last].Text.find(name) != std::string::npos;
             if (movedTo && Board::ReachesLastRank(board.At(square), square))
                 promotion = Promotion{square, ChosenLine{mover, *last}};
         }
@@ -56,11 +56,11 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     const size_t before = HalfMovesWritten();
     const ChosenLine line{sideToMove, lists[sideToMove].Write(text.View())};
     runningText += pendingText;
-    pendingText = MoveOfText(lists[line.side].Entries()[line.index], line.side, line.side == White);
+    pendingText = MoveOfText(lists[line.List].Entries()[line.Index], line.List, line.List == White);
     // Behind a deletion, or in a line that others have overtaken, the text is not simply longer by this move.
-    if (line.index * 2 + static_cast<size_t>(line.side) != before) RebuildText();
+    if (line.Index * 2 + static_cast<size_t>(line.List) != before) RebuildText();
     promotion.reset();
-    if (Board::ReachesLastRank(move.moving, destination)) promotion = Promotion{destination, line};
+    if (Board::ReachesLastRank(move.Moving, destination)) promotion = Promotion{destination, line};
     sideToMove = Other(sideToMove);
     lastMove = move;
     return line;
@@ -68,13 +68,13 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
 
 void Recorder::Promote(PieceKind kind) {
     if (!promotion) return;
-    board.Put(promotion->square, PieceOf(SideOf(board.At(promotion->square)), kind));
-    if (!promotion->line) return;
-    const auto [side, index] = *promotion->line;
+    board.Put(promotion->On, PieceOf(SideOf(board.At(promotion->On)), kind));
+    if (!promotion->Line) return;
+    const auto [side, index] = *promotion->Line;
     const MoveEntry& entry = lists[side].Entries()[index];
     // An edit may have made something else of the entry.
     if (!entry.IsWritten()) return;
-    std::string text = entry.text;
+    std::string text = entry.Text;
     SetPromotion(text, kind);
     lists[side].SetText(index, text);
     RebuildText();
@@ -107,7 +107,7 @@ std::array<std::optional<size_t>, 2> Recorder::Declare(Declaration declaration,
 }
 
 void Recorder::SetMark(size_t index, Side side, std::string_view mark) {
-    std::string text = lists[side].Entries()[index].text;
+    std::string text = lists[side].Entries()[index].Text;
     if (text.ends_with('#')) return;
     if (text.ends_with('+')) {
         if (mark == "+") return;
@@ -172,9 +172,9 @@ void Recorder::DeleteLast(Side side) {
     MoveList& list = lists[side];
     if (list.Empty()) return;
     list.RemoveLast();
-    if (promotion && promotion->line && promotion->line->side == side &&
-        promotion->line->index >= list.Entries().size())
-        promotion->line.reset();
+    if (promotion && promotion->Line && promotion->Line->List == side &&
+        promotion->Line->Index >= list.Entries().size())
+        promotion->Line.reset();
     RebuildText();
 }
 
@@ -207,7 +207,7 @@ void Recorder::RebuildText() {
     }
     for (const MoveList& list : lists) {
         if (!list.EndsWithResult()) continue;
-        runningText += pendingText + list.Entries().back().text;
+        runningText += pendingText + list.Entries().back().Text;
         pendingText.clear();
         return;
     }

@@ -11,8 +11,8 @@ enum class Declaration { Check, Mate, Resign, Draw };
 
 // The entry of a list that an operation wants to be shown as chosen.
 struct ChosenLine {
-    Side side;
-    size_t index;
+    Side List;
+    size_t Index;
 };
 
 // The Scorlet without its window: the board, the two move lists, the running text of the game and whose move it is.
@@ -74,8 +74,8 @@ class Recorder {
 
   private:
     struct Promotion {
-        Square square;
-        std::optional<ChosenLine> line;  // none: it has been deleted
+        Square On;
+        std::optional<ChosenLine> Line;  // none: it has been deleted
     };
 
     void AwaitPromotionAgain();

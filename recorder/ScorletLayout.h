@@ -7,22 +7,22 @@
 
 // Where everything stands in the Scorlet window, in pixels of its client area.
 struct ScorletLayout {
-    Box board;  // with the coordinates at its left and lower edge
-    int edge;   // width of those
-    int cell;   // side of a square
-    Box capturedTitle;
-    std::array<Box, 2> capturedRows;  // the captured pieces of each side
-    int slot;                         // side of a captured piece's picture
-    Box sayLabel, say;
-    std::array<Box, 2> lists;
-    Box edit, editOk;
-    Box promotionTitle;
-    std::array<Box, 4> promotion;
-    int coordinateType;
+    Box Board;     // with the coordinates at its left and lower edge
+    int Edge;      // width of those
+    int CellSize;  // side of a square
+    Box CapturedTitle;
+    std::array<Box, 2> CapturedRows;  // the captured pieces of each side
+    int Slot;                         // side of a captured piece's picture
+    Box SayLabel, Say;
+    std::array<Box, 2> Lists;
+    Box Edit, EditOk;
+    Box PromotionTitle;
+    std::array<Box, 4> Promotion;
+    int CoordinateType;
 
     // Of the square in file and rank 1 to 8, seen from White.
     Box Cell(int file, int rank) const {
-        return {board.left + edge + (file - 1) * cell, board.top + (8 - rank) * cell, cell, cell};
+        return {Board.Left + Edge + (file - 1) * CellSize, Board.Top + (8 - rank) * CellSize, CellSize, CellSize};
     }
 };
 

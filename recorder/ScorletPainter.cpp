@@ -58,7 +58,7 @@ void ScorletPainter::LoadPictures() {
 
 void ScorletPainter::SetLayout(const ScorletLayout& layout, int dpi) {
     font = MakeFont(MulDiv(13, dpi, 96), false);
-    coordinateFont = MakeFont(layout.coordinateType, true);
+    coordinateFont = MakeFont(layout.CoordinateType, true);
 }
 
 void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const {
@@ -71,9 +71,10 @@ void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayo
     };
     for (int i = 1; i <= 8; ++i) {
         const Box cell = layout.Cell(i, i);
-        const int left = cell.left - layout.board.left, top = cell.top - layout.board.top;
-        write(static_cast<wchar_t>(L'0' + i), {0, top, layout.edge, top + layout.cell});
-        write(static_cast<wchar_t>(L'a' + i - 1), {left, 8 * layout.cell, left + layout.cell, layout.board.height});
+        const int left = cell.Left - layout.Board.Left, top = cell.Top - layout.Board.Top;
+        write(static_cast<wchar_t>(L'0' + i), {0, top, layout.Edge, top + layout.CellSize});
+        write(static_cast<wchar_t>(L'a' + i - 1),
+              {left, 8 * layout.CellSize, left + layout.CellSize, layout.Board.Height});
     }
 }
 
@@ -81,17 +82,17 @@ void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const C
     const Buffered buffer(item);
     RECT area = buffer.Area();
     const bool light = (FileOf(square) + RankOf(square)) % 2 != 0;
-    if (look.lastMove)
+    if (look.LastMove)
         Fill(buffer.Dc(), area, light ? LightLast : DarkLast);
     else
         Fill(buffer.Dc(), area, light ? LightSquare : DarkSquare);
     if (!light && HighContrast()) Hatch(buffer.Dc(), area);
 
     const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
-    if (look.lastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
-    if (look.origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
-    pieces[static_cast<size_t>(look.piece)].Draw(buffer.Dc(), 0, 0, size);
-    if (look.cursor) {
+    if (look.LastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
+    if (look.Origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
+    pieces[static_cast<size_t>(look.Shown)].Draw(buffer.Dc(), 0, 0, size);
+    if (look.Cursor) {
         InflateRect(&area, -thickness, -thickness);
         SetTextColor(buffer.Dc(), RGB(0, 0, 0));
         DrawFocusRect(buffer.Dc(), &area);

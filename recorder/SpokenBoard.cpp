@@ -9,7 +9,7 @@ std::wstring SpokenSquare(const Texts& texts, const Recorder& recorder, const Bo
     text += L", " + SpokenPiece(texts, recorder.Position().At(square));
     if (input.Origin() == square) text += L", " + texts(TextId::PickedPiece);
     const auto& last = recorder.LastMove();
-    if (last && (last->origin == square || last->destination == square)) text += L", " + texts(TextId::LastMove);
+    if (last && (last->Origin == square || last->Destination == square)) text += L", " + texts(TextId::LastMove);
     return text;
 }
 
@@ -21,6 +21,6 @@ std::wstring SpokenCaptured(const Texts& texts, const BoardInput& input, Piece p
 std::wstring SpokenBoard(const Texts& texts, const Recorder& recorder, const BoardInput& input) {
     std::wstring text = texts(TextId::ChessBoard) + L", ";
     if (const auto& captured = input.Captured())
-        text += SpokenCaptured(texts, input, captured->piece, captured->slot) + L", ";
+        text += SpokenCaptured(texts, input, captured->Captured, captured->Slot) + L", ";
     return text + SpokenSquare(texts, recorder, input, input.Cursor());
 }

@@ -105,24 +105,24 @@ void frmScorlet::Arrange() {
     layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi());
     painter.SetLayout(layout, Dpi());
     const auto place = [&](int id, const Box& box) {
-        SetWindowPos(Control(id), nullptr, box.left, box.top, box.width, box.height, SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(Control(id), nullptr, box.Left, box.Top, box.Width, box.Height, SWP_NOZORDER | SWP_NOACTIVATE);
         SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
     };
     ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
-    place(picBoard, layout.board);
-    place(lblCaptured, layout.capturedTitle);
+    place(picBoard, layout.Board);
+    place(lblCaptured, layout.CapturedTitle);
     for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const Box& row = layout.capturedRows[i < CapturedSlots ? White : Black];
-        place(imgCapturedWQ + i, {row.left + i % CapturedSlots * layout.slot, row.top, layout.slot, layout.slot});
+        const Box& row = layout.CapturedRows[i < CapturedSlots ? White : Black];
+        place(imgCapturedWQ + i, {row.Left + i % CapturedSlots * layout.Slot, row.Top, layout.Slot, layout.Slot});
     }
-    place(lblSay, layout.sayLabel);
+    place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
-    place(cmbSay, {layout.say.left, layout.say.top, layout.say.width, 8 * layout.say.height});
-    for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.lists[side]);
-    place(txtMove, layout.edit);
-    place(cmdOK, layout.editOk);
-    place(lblPromotion, layout.promotionTitle);
-    for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.promotion[static_cast<size_t>(i)]);
+    place(cmbSay, {layout.Say.Left, layout.Say.Top, layout.Say.Width, 8 * layout.Say.Height});
+    for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.Lists[side]);
+    place(txtMove, layout.Edit);
+    place(cmdOK, layout.EditOk);
+    place(lblPromotion, layout.PromotionTitle);
+    for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.Promotion[static_cast<size_t>(i)]);
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
@@ -158,7 +158,7 @@ void frmScorlet::ShowBoard() {
         const CellLook look = input.LookOf(square);
         if (look == shown) return;
         shown = look;
-        SetText(CellOf(square), FromAnsi(PieceCode(look.piece)));
+        SetText(CellOf(square), FromAnsi(PieceCode(look.Shown)));
         InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
     });
     for (int i = 0; i < 2 * CapturedSlots; ++i) {
@@ -185,7 +185,7 @@ void frmScorlet::ShowList(Side side) {
 }
 
 void frmScorlet::ChooseLine(const ChosenLine& line) {
-    SendMessageW(Control(ControlOf(lstMoves, line.side)), LB_SETCURSEL, line.index, 0);
+    SendMessageW(Control(ControlOf(lstMoves, line.List)), LB_SETCURSEL, line.Index, 0);
 }
 
 bool frmScorlet::TakeMessage(MSG& message) {
@@ -346,20 +346,20 @@ void frmScorlet::BeginEdit(Side side) {
     const LRESULT chosen = SendMessageW(Control(ControlOf(lstMoves, side)), LB_GETCURSEL, 0, 0);
     if (chosen < 0) return;
     const ChosenLine line{side, static_cast<size_t>(chosen)};
-    edited = Edited{line, recorder.List(side).Entries()[line.index]};
-    field.Show(FromAnsi(edited->entry.text));
+    edited = Edited{line, recorder.List(side).Entries()[line.Index]};
+    field.Show(FromAnsi(edited->Entry.Text));
 }
 
 void frmScorlet::EndEdit(bool accept) {
     if (!edited) return;
-    ChosenLine line = edited->line;
-    const bool wasResult = edited->entry.IsResult();
+    ChosenLine line = edited->Line;
+    const bool wasResult = edited->Entry.IsResult();
     edited.reset();
     // A result moves behind new lines, and goes when play goes on; moves stay where they are.
-    const MoveList& list = recorder.List(line.side);
-    if (wasResult && list.EndsWithResult()) line.index = list.Entries().size() - 1;
-    const bool stands = line.index < list.Entries().size() && list.Entries()[line.index].IsResult() == wasResult;
-    if (accept && stands) recorder.Edit(line.side, line.index, ToAnsi(field.Text()));
+    const MoveList& list = recorder.List(line.List);
+    if (wasResult && list.EndsWithResult()) line.Index = list.Entries().size() - 1;
+    const bool stands = line.Index < list.Entries().size() && list.Entries()[line.Index].IsResult() == wasResult;
+    if (accept && stands) recorder.Edit(line.List, line.Index, ToAnsi(field.Text()));
     field.Hide();
     ShowRecord(line);
     SetFocus(Control(picBoard));
@@ -392,7 +392,7 @@ void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     if (!IsCell(id)) return;
     const auto square = static_cast<Square>(id - picBoard);
     CellLook look = input.LookOf(square);
-    look.cursor = look.cursor && GetFocus() == Control(picBoard);
+    look.Cursor = look.Cursor && GetFocus() == Control(picBoard);
     painter.DrawCell(item, square, look);
 }
 

@@ -87,8 +87,8 @@ class frmScorlet : public Form {
     SayList say{*this};
     // The entry that is open in the edit field, and how it was.
     struct Edited {
-        ChosenLine line;
-        MoveEntry entry;
+        ChosenLine Line;
+        MoveEntry Entry;
     };
     std::optional<Edited> edited;
     Side menuList = White;

@@ -16,8 +16,8 @@ Settings::Settings() { ApplyPreset(DefaultPreset, *this); }
 
 void Settings::SetClockType(int32_t type) {
     ClockType = type;
-    if (type == 1 || type == 2) SecondPeriodEnabled = true;
-    if (type == 0 || type == 3) SecondPeriodEnabled = false;
+    if (type == 1 || type == 2) Control.SecondPeriodEnabled = true;
+    if (type == 0 || type == 3) Control.SecondPeriodEnabled = false;
 }
 
 void Settings::SetButtonSound(int32_t index) {
@@ -31,15 +31,15 @@ void Settings::SetFlagSound(int32_t index) {
 }
 
 void ApplyPreset(const Preset& preset, Settings& settings) {
-    settings.SetClockType(preset.clockType);
-    settings.PeriodLimit.fill(preset.firstPeriodMinutes * 60);
-    if (preset.secondPeriodMinutes) settings.SecondPeriodTime.fill(*preset.secondPeriodMinutes * 60);
-    settings.MoveBonus.fill(preset.bonusSeconds);
-    settings.ShowMoveNumber = preset.showMoveNumber;
-    settings.TurnClock = preset.turnClock;
-    settings.CountTimeDown = preset.countTimeDown;
-    settings.SetButtonSound(preset.buttonSound);
-    settings.SetFlagSound(preset.flagSound);
-    settings.OpenScorletAtStart = preset.openScorlet;
-    settings.MovesFirstPeriod = preset.movesFirstPeriod;
+    settings.SetClockType(preset.ClockType);
+    settings.Control.PeriodLimit.fill(preset.FirstPeriodMinutes * 60);
+    if (preset.SecondPeriodMinutes) settings.Control.SecondPeriodTime.fill(*preset.SecondPeriodMinutes * 60);
+    settings.Control.MoveBonus.fill(preset.BonusSeconds);
+    settings.ShowMoveNumber = preset.ShowMoveNumber;
+    settings.TurnClock = preset.TurnClock;
+    settings.Control.CountTimeDown = preset.CountTimeDown;
+    settings.SetButtonSound(preset.ButtonSound);
+    settings.SetFlagSound(preset.FlagSound);
+    settings.OpenScorletAtStart = preset.OpenScorlet;
+    settings.Control.MovesFirstPeriod = preset.MovesFirstPeriod;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Side.h"
+#include "base/TimeControl.h"
 #include "settings/SoundTables.h"
 #include "texts/TextIds.h"
 
@@ -12,16 +13,11 @@
 // The clock's configuration as every window reads it. Times are seconds, per side.
 struct Settings {
     std::array<std::string, 2> PlayerNames;  // in the ANSI code page; empty: the side's own caption is shown
-    std::array<int32_t, 2> PeriodLimit{};
-    std::array<int32_t, 2> SecondPeriodTime{};
-    std::array<int32_t, 2> MoveBonus{};
-    bool CountTimeDown = false;
+    TimeControl Control;                     // its SecondPeriodEnabled follows from ClockType, see SetClockType
     bool TurnClock = false;
     bool ShowMoveNumber = false;
     int32_t ClockType = 0;
-    bool SecondPeriodEnabled = false;  // follows from ClockType, see SetClockType
     bool OpenScorletAtStart = false;
-    int32_t MovesFirstPeriod = 1;  // at least 1
     int32_t ButtonSoundIndex = 0;
     int32_t FlagSoundIndex = 0;
     const char* ButtonSoundName = ButtonSounds[0];
@@ -43,45 +39,45 @@ struct Settings {
 
 // A fixed choice for everything but the names, the language and the PGN option.
 struct Preset {
-    int32_t clockType;
-    int32_t firstPeriodMinutes;
-    std::optional<int32_t> secondPeriodMinutes;  // none: left as it is
-    int32_t bonusSeconds;
-    bool showMoveNumber;
-    bool turnClock;
-    bool countTimeDown;
-    int32_t buttonSound;
-    int32_t flagSound;
-    bool openScorlet;
-    int32_t movesFirstPeriod;
+    int32_t ClockType;
+    int32_t FirstPeriodMinutes;
+    std::optional<int32_t> SecondPeriodMinutes;  // none: left as it is
+    int32_t BonusSeconds;
+    bool ShowMoveNumber;
+    bool TurnClock;
+    bool CountTimeDown;
+    int32_t ButtonSound;
+    int32_t FlagSound;
+    bool OpenScorlet;
+    int32_t MovesFirstPeriod;
 };
 
 inline constexpr Preset DefaultPreset{
-    .clockType = 1,
-    .firstPeriodMinutes = 20,
-    .secondPeriodMinutes = 20,
-    .bonusSeconds = 0,
-    .showMoveNumber = true,
-    .turnClock = false,
-    .countTimeDown = true,
-    .buttonSound = 1,
-    .flagSound = 1,
-    .openScorlet = true,
-    .movesFirstPeriod = 40,
+    .ClockType = 1,
+    .FirstPeriodMinutes = 20,
+    .SecondPeriodMinutes = 20,
+    .BonusSeconds = 0,
+    .ShowMoveNumber = true,
+    .TurnClock = false,
+    .CountTimeDown = true,
+    .ButtonSound = 1,
+    .FlagSound = 1,
+    .OpenScorlet = true,
+    .MovesFirstPeriod = 40,
 };
 
 inline constexpr Preset BlitzPreset{
-    .clockType = 0,
-    .firstPeriodMinutes = 5,
-    .secondPeriodMinutes = std::nullopt,
-    .bonusSeconds = 0,
-    .showMoveNumber = false,
-    .turnClock = false,
-    .countTimeDown = true,
-    .buttonSound = 1,
-    .flagSound = 0,
-    .openScorlet = false,
-    .movesFirstPeriod = 40,
+    .ClockType = 0,
+    .FirstPeriodMinutes = 5,
+    .SecondPeriodMinutes = std::nullopt,
+    .BonusSeconds = 0,
+    .ShowMoveNumber = false,
+    .TurnClock = false,
+    .CountTimeDown = true,
+    .ButtonSound = 1,
+    .FlagSound = 0,
+    .OpenScorlet = false,
+    .MovesFirstPeriod = 40,
 };
 
 void ApplyPreset(const Preset& preset, Settings& settings);

@@ -4,27 +4,10 @@
 #include "platform/SystemError.h"
 #include "texts/Texts.h"
 
-namespace {
-
-std::wstring ReasonOf(const RecordError& error, const Texts& texts) {
-    const auto row = [&] {
-        switch (error.rule) {
-            case RecordError::Rule::UnknownTag: return TextId::ReasonUnknownTag;
-            case RecordError::Rule::ShortFile: return TextId::ReasonShortFile;
-            case RecordError::Rule::Overflow: return TextId::ReasonSlotOverflow;
-            case RecordError::Rule::OutOfRange: break;
-        }
-        return TextId::ReasonSlotOutOfRange;
-    }();
-    return texts.Compose(row, std::to_wstring(error.slot));
-}
-
-}  // namespace
-
 int32_t SettingsFile::LoadLanguage() const {
     try {
         const auto bytes = ReadFileBytes(path, LongestRecord);
-        if (bytes) return DecodeLanguage(DecodeRecord(*bytes).slots);
+        if (bytes) return DecodeLanguage(DecodeRecord(*bytes).Slots);
     } catch (const SystemError&) {
         // Load, which follows, says so.
     }
@@ -41,7 +24,7 @@ std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
             return {};
         }
         if (const auto error = DecodeSettings(DecodeRecord(*bytes), settings))
-            return texts.Compose(TextId::SettingsDamaged, path, ReasonOf(*error, texts));
+            return texts.Compose(TextId::SettingsDamaged, path, texts.Reason(error->What, error->Slot));
         return {};
     } catch (const SystemError& error) {
         return texts.Compose(TextId::SettingsNotRead, path, texts.Reason(error.Code()));

@@ -21,16 +21,16 @@ int32_t DecodeLanguage(const SlotRecord& record) {
 }
 
 void DecodeOptions(SlotReader& slots, Settings& settings) {
-    for (int32_t& seconds : settings.PeriodLimit) seconds = slots.NextMinutes(60);
-    for (int32_t& seconds : settings.SecondPeriodTime) seconds = slots.NextMinutes(0);
-    for (int32_t& seconds : settings.MoveBonus) seconds = slots.Next(0);
-    settings.CountTimeDown = slots.NextCheck();
+    for (int32_t& seconds : settings.Control.PeriodLimit) seconds = slots.NextMinutes(60);
+    for (int32_t& seconds : settings.Control.SecondPeriodTime) seconds = slots.NextMinutes(0);
+    for (int32_t& seconds : settings.Control.MoveBonus) seconds = slots.Next(0);
+    settings.Control.CountTimeDown = slots.NextCheck();
     settings.TurnClock = slots.NextCheck();
     settings.ShowMoveNumber = slots.NextCheck();
     settings.SetClockType(slots.Next());
     settings.OpenScorletAtStart = slots.NextCheck();
     // The list position is one less than the amount, and the amount plus one must still be a number.
-    settings.MovesFirstPeriod = slots.Next(0, std::numeric_limits<int32_t>::max() - 2) + 1;
+    settings.Control.MovesFirstPeriod = slots.Next(0, std::numeric_limits<int32_t>::max() - 2) + 1;
     settings.SetButtonSound(slots.Next(0, static_cast<int32_t>(ButtonSounds.size()) - 1));
     settings.SetFlagSound(slots.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
 }
@@ -44,10 +44,10 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
         DecodeOptions(reader, settings);
         settings.WritePgn = reader.At(PgnSlot) != 0;
     } catch (const BadSlot& bad) {
-        return bad.error;
+        return bad.Error;
     }
     // A fault behind the last setting has cost nothing, but the file is damaged.
-    return record.error;
+    return record.Error;
 }
 
 SlotRecord EncodeSettings(const Settings& settings) {
@@ -63,15 +63,15 @@ SlotRecord EncodeSettings(const Settings& settings) {
         write(static_cast<int32_t>(name.size()));
         for (char character : name) write(static_cast<uint8_t>(character));
     }
-    for (int32_t seconds : settings.PeriodLimit) write(seconds / 60);
-    for (int32_t seconds : settings.SecondPeriodTime) write(seconds / 60);
-    for (int32_t seconds : settings.MoveBonus) write(seconds);
-    write(settings.CountTimeDown);
+    for (int32_t seconds : settings.Control.PeriodLimit) write(seconds / 60);
+    for (int32_t seconds : settings.Control.SecondPeriodTime) write(seconds / 60);
+    for (int32_t seconds : settings.Control.MoveBonus) write(seconds);
+    write(settings.Control.CountTimeDown);
     write(settings.TurnClock);
     write(settings.ShowMoveNumber);
     write(settings.ClockType);
     write(settings.OpenScorletAtStart);
-    write(settings.MovesFirstPeriod - 1);
+    write(settings.Control.MovesFirstPeriod - 1);
     write(settings.ButtonSoundIndex);
     write(settings.FlagSoundIndex);
     record[LanguageSlot] = settings.LanguageIndex;

@@ -6,7 +6,7 @@
 
 // The range of a time's scroll bar and its steps: minutes for periods, seconds for the bonus.
 struct TimeScale {
-    int32_t least, most, smallStep, largeStep;
+    int32_t Least, Most, SmallStep, LargeStep;
 };
 inline constexpr TimeScale FirstPeriodScale{1, 180, 1, 5};
 inline constexpr TimeScale SecondPeriodScale{0, 180, 1, 5};
@@ -17,9 +17,9 @@ inline constexpr int32_t MostMovesListed = 100;
 
 // What can be set with a clock type. A number that is no type takes nothing away.
 struct TypeRules {
-    bool secondPeriod;
-    bool bonus;
-    bool moveAmount;
+    bool SecondPeriod;
+    bool Bonus;
+    bool MoveAmount;
 };
 TypeRules RulesOf(int32_t clockType);
 

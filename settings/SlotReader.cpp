@@ -4,7 +4,7 @@
 
 namespace {
 
-[[noreturn]] void Fail(RecordError::Rule rule, int32_t slot) { throw BadSlot{{rule, slot}}; }
+[[noreturn]] void Fail(Damage rule, int32_t slot) { throw BadSlot{{rule, slot}}; }
 
 double Real(const SlotValue& value) {
     if (const auto* number = std::get_if<int32_t>(&value)) return *number;
@@ -17,35 +17,35 @@ int32_t Rounded(double real, int32_t slot) {
     const double rounded = std::nearbyint(real);
     constexpr double least = std::numeric_limits<int32_t>::min(), most = std::numeric_limits<int32_t>::max();
     // Not written as two comparisons that a NaN would pass.
-    if (!(rounded >= least && rounded <= most)) Fail(RecordError::Rule::Overflow, slot);
+    if (!(rounded >= least && rounded <= most)) Fail(Damage::Overflow, slot);
     return static_cast<int32_t>(rounded);
 }
 
 }  // namespace
 
 int32_t NumberInSlot(const SlotRecord& record, int32_t slot) {
-    if (slot < 0 || slot >= SlotCount) Fail(RecordError::Rule::OutOfRange, slot);
+    if (slot < 0 || slot >= SlotCount) Fail(Damage::OutOfRange, slot);
     return Rounded(Real(record[static_cast<size_t>(slot)]), slot);
 }
 
 const SlotValue& SlotReader::Value(int32_t slot) const {
-    if (record.error && slot >= record.error->slot) throw BadSlot{*record.error};
-    if (slot < 0 || slot >= SlotCount) Fail(RecordError::Rule::OutOfRange, slot);
-    return record.slots[static_cast<size_t>(slot)];
+    if (record.Error && slot >= record.Error->Slot) throw BadSlot{*record.Error};
+    if (slot < 0 || slot >= SlotCount) Fail(Damage::OutOfRange, slot);
+    return record.Slots[static_cast<size_t>(slot)];
 }
 
 int32_t SlotReader::At(int32_t slot) const { return Rounded(Real(Value(slot)), slot); }
 
 int32_t SlotReader::Next(int32_t least, int32_t most) {
     const int32_t value = Next();
-    if (value < least || value > most) Fail(RecordError::Rule::OutOfRange, Last());
+    if (value < least || value > most) Fail(Damage::OutOfRange, Last());
     return value;
 }
 
 int32_t SlotReader::NextMinutes(int32_t leastSeconds) {
     const int32_t slot = next++;
     const int32_t seconds = Rounded(Real(Value(slot)) * 60, slot);
-    if (seconds < leastSeconds) Fail(RecordError::Rule::OutOfRange, slot);
+    if (seconds < leastSeconds) Fail(Damage::OutOfRange, slot);
     return seconds;
 }
 

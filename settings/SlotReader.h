@@ -7,7 +7,7 @@
 
 // Thrown by a SlotReader at the first bad slot; the decoder that uses it catches it and lets it no further.
 struct BadSlot {
-    RecordError error;
+    RecordError Error;
 };
 
 // The slot's value as a whole number: any numeric type is accepted and rounded, an empty slot counts as 0. Throws

@@ -24,8 +24,8 @@ class Field {
     }
 };
 
-std::optional<RecordError::Rule> ReadSlot(std::span<const uint8_t>& bytes, SlotValue& slot) {
-    constexpr auto shortFile = RecordError::Rule::ShortFile;
+std::optional<Damage> ReadSlot(std::span<const uint8_t>& bytes, SlotValue& slot) {
+    constexpr auto shortFile = Damage::ShortFile;
     uint16_t tag;
     if (!Field<uint16_t>::Read(bytes, tag)) return shortFile;
     switch (tag) {
@@ -48,7 +48,7 @@ std::optional<RecordError::Rule> ReadSlot(std::span<const uint8_t>& bytes, SlotV
             slot = bits != 0;
             return std::nullopt;
         }
-        default: return RecordError::Rule::UnknownTag;
+        default: return Damage::UnknownTag;
     }
 }
 
@@ -56,8 +56,8 @@ std::optional<RecordError::Rule> ReadSlot(std::span<const uint8_t>& bytes, SlotV
 
 DecodedRecord DecodeRecord(std::span<const uint8_t> bytes) {
     DecodedRecord record;
-    for (int32_t i = 0; i < SlotCount && !record.error; ++i) {
-        if (const auto rule = ReadSlot(bytes, record.slots[static_cast<size_t>(i)])) record.error = {*rule, i};
+    for (int32_t i = 0; i < SlotCount && !record.Error; ++i) {
+        if (const auto rule = ReadSlot(bytes, record.Slots[static_cast<size_t>(i)])) record.Error = {*rule, i};
     }
     return record;
 }

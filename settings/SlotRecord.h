@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Damage.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -20,21 +22,15 @@ using SlotRecord = std::array<SlotValue, SlotCount>;
 
 // What makes a record unreadable, and where.
 struct RecordError {
-    enum class Rule {
-        UnknownTag,  // a type tag that is none of the four
-        ShortFile,   // the bytes end before or in the slot
-        OutOfRange,  // a slot past the record, or a value outside its range
-        Overflow,    // a number that does not fit 32 signed bits, as it stands or in seconds
-    };
-    Rule rule;
-    int32_t slot;
+    Damage What;
+    int32_t Slot;
 };
 
 // A record as far as it could be read: on an error the slots before error->slot hold what the bytes say, that one and
 // those behind it are empty.
 struct DecodedRecord {
-    SlotRecord slots;
-    std::optional<RecordError> error;
+    SlotRecord Slots;
+    std::optional<RecordError> Error;
 };
 
 // Reads a record from the start of `bytes`; what stands behind it is ignored.

@@ -98,20 +98,22 @@ constexpr std::array Items{
 };
 
 constexpr std::array Times{
-    TimeBars{hsbFirstPeriod, lblFirstPeriod, FirstPeriodScale, 60, &Settings::PeriodLimit},
-    TimeBars{hsbSecondPeriod, lblSecondPeriod, SecondPeriodScale, 60, &Settings::SecondPeriodTime},
-    TimeBars{hsbBonus, lblBonusValue, BonusScale, 1, &Settings::MoveBonus},
+    TimeBars{hsbFirstPeriod, lblFirstPeriod, FirstPeriodScale, 60, &TimeControl::PeriodLimit},
+    TimeBars{hsbSecondPeriod, lblSecondPeriod, SecondPeriodScale, 60, &TimeControl::SecondPeriodTime},
+    TimeBars{hsbBonus, lblBonusValue, BonusScale, 1, &TimeControl::MoveBonus},
 };
 
-struct CheckedSetting {
-    int box;
-    bool Settings::*setting;
-};
-constexpr std::array Checks{
-    CheckedSetting{chkOpenScorlet, &Settings::OpenScorletAtStart}, CheckedSetting{chkPGN, &Settings::WritePgn},
-    CheckedSetting{chkShowMoveNumber, &Settings::ShowMoveNumber},  CheckedSetting{chkTurnClock, &Settings::TurnClock},
-    CheckedSetting{chkCountTimeDown, &Settings::CountTimeDown},
-};
+constexpr std::array Checks{chkOpenScorlet, chkPGN, chkShowMoveNumber, chkTurnClock, chkCountTimeDown};
+
+bool& CheckedBy(int box, Settings& settings) {
+    switch (box) {
+        case chkOpenScorlet: return settings.OpenScorletAtStart;
+        case chkPGN: return settings.WritePgn;
+        case chkShowMoveNumber: return settings.ShowMoveNumber;
+        case chkTurnClock: return settings.TurnClock;
+        default: return settings.Control.CountTimeDown;
+    }
+}
 
 constexpr std::array Lists{cmbClockType, cmbLanguage, cmbMoveAmount, cmbButtonSound, cmbFlagSound};
 
@@ -146,7 +148,8 @@ void frmSetup::FillLists() {
     for (int32_t language : Languages)
         AddEntry(cmbLanguage, captions.LookUp(TextIdentifier(TextId::LanguageNames, language)));
     for (int32_t moves = 1; moves <= MostMovesListed; ++moves) AddEntry(cmbMoveAmount, std::to_wstring(moves));
-    if (draft.MovesFirstPeriod > MostMovesListed) AddEntry(cmbMoveAmount, std::to_wstring(draft.MovesFirstPeriod));
+    if (draft.Control.MovesFirstPeriod > MostMovesListed)
+        AddEntry(cmbMoveAmount, std::to_wstring(draft.Control.MovesFirstPeriod));
     for (size_t i = 0; i < ButtonSounds.size(); ++i)
         AddEntry(cmbButtonSound, captions(RowBehind(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
     for (size_t i = 0; i < FlagSounds.size(); ++i)
@@ -162,8 +165,8 @@ void frmSetup::SetToolTips() {
 
 void frmSetup::ShowDraft() {
     for (int list : Lists) SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(PositionOf(list)), 0);
-    for (const auto& [box, setting] : Checks)
-        SendMessageW(Control(box), BM_SETCHECK, draft.*setting ? BST_CHECKED : BST_UNCHECKED, 0);
+    for (const int box : Checks)
+        SendMessageW(Control(box), BM_SETCHECK, CheckedBy(box, draft) ? BST_CHECKED : BST_UNCHECKED, 0);
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) ShowTime(bars, side);
     }
@@ -179,7 +182,7 @@ int frmSetup::PositionOf(int list) const {
             const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
             return language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin());
         }
-        case cmbMoveAmount: return std::min(draft.MovesFirstPeriod - 1, MostMovesListed);
+        case cmbMoveAmount: return std::min(draft.Control.MovesFirstPeriod - 1, MostMovesListed);
         case cmbButtonSound: return draft.ButtonSoundIndex;
         default: return draft.FlagSoundIndex;
     }
@@ -188,26 +191,26 @@ int frmSetup::PositionOf(int list) const {
 void frmSetup::ShowClockType() {
     const TypeRules rules = RulesOf(draft.ClockType);
     SetText(lblFirstCaption, CaptionOf(Times[0]));
-    SetText(lblSecondCaption, rules.secondPeriod ? CaptionOf(Times[1]) : L"");
-    SetText(lblBonusCaption, rules.bonus ? CaptionOf(Times[2]) : L"");
-    SetVisible(lblSecondCaption, rules.secondPeriod);
-    SetVisible(lblBonusCaption, rules.bonus);
+    SetText(lblSecondCaption, rules.SecondPeriod ? CaptionOf(Times[1]) : L"");
+    SetText(lblBonusCaption, rules.Bonus ? CaptionOf(Times[2]) : L"");
+    SetVisible(lblSecondCaption, rules.SecondPeriod);
+    SetVisible(lblBonusCaption, rules.Bonus);
     for (Side side : BothSides) {
-        for (int pair : {hsbSecondPeriod, lblSecondPeriod}) SetEnabled(ControlOf(pair, side), rules.secondPeriod);
-        for (int pair : {hsbBonus, lblBonusValue}) SetEnabled(ControlOf(pair, side), rules.bonus);
+        for (int pair : {hsbSecondPeriod, lblSecondPeriod}) SetEnabled(ControlOf(pair, side), rules.SecondPeriod);
+        for (int pair : {hsbBonus, lblBonusValue}) SetEnabled(ControlOf(pair, side), rules.Bonus);
     }
-    SetEnabled(lblSecondUnit, rules.secondPeriod);
-    SetEnabled(lblBonusUnit, rules.bonus);
-    SetEnabled(lblMoveAmount, rules.moveAmount);
-    SetEnabled(cmbMoveAmount, rules.moveAmount);
+    SetEnabled(lblSecondUnit, rules.SecondPeriod);
+    SetEnabled(lblBonusUnit, rules.Bonus);
+    SetEnabled(lblMoveAmount, rules.MoveAmount);
+    SetEnabled(cmbMoveAmount, rules.MoveAmount);
 }
 
 std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
-    const std::wstring moves = std::to_wstring(draft.MovesFirstPeriod);
-    if (bars.bar == hsbBonus) return captions(TextId::BonusTime);
-    if (bars.bar == hsbSecondPeriod)
+    const std::wstring moves = std::to_wstring(draft.Control.MovesFirstPeriod);
+    if (bars.Bar == hsbBonus) return captions(TextId::BonusTime);
+    if (bars.Bar == hsbSecondPeriod)
         return captions(TextId::SecondTimeBefore) + moves + captions(TextId::SecondTimeAfter);
-    if (!RulesOf(draft.ClockType).moveAmount) return captions(TextId::CompleteGameTime);
+    if (!RulesOf(draft.ClockType).MoveAmount) return captions(TextId::CompleteGameTime);
     return captions(TextId::FirstTimeBefore) + moves + captions(TextId::FirstTimeAfter);
 }
 
@@ -215,9 +218,9 @@ std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
 std::wstring frmSetup::SpokenName(int id) const {
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) {
-            std::wstring time = captions.Duration((draft.*bars.time)[side]);
-            if (id == ControlOf(bars.value, side)) return time;
-            if (id == ControlOf(bars.bar, side))
+            std::wstring time = captions.Duration((draft.Control.*bars.Time)[side]);
+            if (id == ControlOf(bars.Value, side)) return time;
+            if (id == ControlOf(bars.Bar, side))
                 return CaptionOf(bars) + L", " + captions.SideName(side) + L", " + time;
         }
     }
@@ -233,16 +236,16 @@ std::wstring frmSetup::SpokenName(int id) const {
 }
 
 void frmSetup::ShowTime(const TimeBars& bars, Side side) {
-    const int32_t seconds = (draft.*bars.time)[side];
+    const int32_t seconds = (draft.Control.*bars.Time)[side];
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
     info.fMask = SIF_RANGE | SIF_POS;
-    info.nMin = bars.scale.least;
-    info.nMax = bars.scale.most;
-    info.nPos = seconds / bars.unit;
-    SetScrollInfo(Control(ControlOf(bars.bar, side)), SB_CTL, &info, TRUE);
-    SetText(ControlOf(bars.value, side),
-            FromAnsi(bars.unit == 60 ? HoursMinutesText(seconds) : MinutesSecondsText(seconds)));
+    info.nMin = bars.Scale.Least;
+    info.nMax = bars.Scale.Most;
+    info.nPos = seconds / bars.Unit;
+    SetScrollInfo(Control(ControlOf(bars.Bar, side)), SB_CTL, &info, TRUE);
+    SetText(ControlOf(bars.Value, side),
+            FromAnsi(bars.Unit == 60 ? HoursMinutesText(seconds) : MinutesSecondsText(seconds)));
 }
 
 LRESULT frmSetup::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -279,8 +282,8 @@ void frmSetup::OnCommand(int id, int notification) {
         case cmdHelp: return openHelp(Window());
         default: break;
     }
-    for (const auto& [box, setting] : Checks) {
-        if (box == id) draft.*setting = SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    for (const int box : Checks) {
+        if (box == id) CheckedBy(box, draft) = SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
 }
 
@@ -300,7 +303,8 @@ void frmSetup::OnChoice(int list, int position) {
         case cmbLanguage: settings.LanguageIndex = Languages[static_cast<size_t>(position)]; return;
         case cmbMoveAmount:
             // The last entry is a stored amount that the others do not reach.
-            draft.MovesFirstPeriod = position < MostMovesListed ? position + 1 : settings.MovesFirstPeriod;
+            draft.Control.MovesFirstPeriod =
+                position < MostMovesListed ? position + 1 : settings.Control.MovesFirstPeriod;
             return ShowClockType();
         case cmbButtonSound: return draft.SetButtonSound(position);
         default: return draft.SetFlagSound(position);
@@ -344,17 +348,17 @@ void frmSetup::SetName(Side side, const std::wstring& name) {
 
 void frmSetup::OnScroll(int bar, int request) {
     for (const TimeBars& bars : Times) {
-        const int side = bar - bars.bar;
+        const int side = bar - bars.Bar;
         if (side != White && side != Black) continue;
-        int32_t& seconds = (draft.*bars.time)[static_cast<size_t>(side)];
-        int32_t value = seconds / bars.unit;
+        int32_t& seconds = (draft.Control.*bars.Time)[static_cast<size_t>(side)];
+        int32_t value = seconds / bars.Unit;
         switch (request) {
-            case SB_LINELEFT: value -= bars.scale.smallStep; break;
-            case SB_LINERIGHT: value += bars.scale.smallStep; break;
-            case SB_PAGELEFT: value -= bars.scale.largeStep; break;
-            case SB_PAGERIGHT: value += bars.scale.largeStep; break;
-            case SB_LEFT: value = bars.scale.least; break;
-            case SB_RIGHT: value = bars.scale.most; break;
+            case SB_LINELEFT: value -= bars.Scale.SmallStep; break;
+            case SB_LINERIGHT: value += bars.Scale.SmallStep; break;
+            case SB_PAGELEFT: value -= bars.Scale.LargeStep; break;
+            case SB_PAGERIGHT: value += bars.Scale.LargeStep; break;
+            case SB_LEFT: value = bars.Scale.Least; break;
+            case SB_RIGHT: value = bars.Scale.Most; break;
             case SB_THUMBTRACK:
             case SB_THUMBPOSITION: {
                 SCROLLINFO info{};
@@ -366,7 +370,7 @@ void frmSetup::OnScroll(int bar, int request) {
             }
             default: return;
         }
-        seconds = std::clamp(value, bars.scale.least, bars.scale.most) * bars.unit;
+        seconds = std::clamp(value, bars.Scale.Least, bars.Scale.Most) * bars.Unit;
         ShowTime(bars, static_cast<Side>(side));
         return TellSpokenName(bar);
     }

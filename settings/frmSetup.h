@@ -10,10 +10,10 @@
 
 // The scroll bars of a time, one for each side, and the labels of their values.
 struct TimeBars {
-    int bar, value;
-    TimeScale scale;
-    int32_t unit;  // seconds
-    std::array<int32_t, 2> Settings::*time;
+    int Bar, Value;
+    TimeScale Scale;
+    int32_t Unit;  // seconds
+    std::array<int32_t, 2> TimeControl::*Time;
 };
 
 // The setup dialog. It works on a draft: OK saves and takes it, all else leaves the settings as they are, but for the

@@ -25,6 +25,26 @@ TextId ReasonRow(DWORD code) {
     }
 }
 
+TextId ReasonRow(Damage damage) {
+    switch (damage) {
+        case Damage::UnknownTag: return TextId::ReasonUnknownTag;
+        case Damage::ShortFile: return TextId::ReasonShortFile;
+        case Damage::OutOfRange: return TextId::ReasonSlotOutOfRange;
+        case Damage::Overflow: return TextId::ReasonSlotOverflow;
+        case Damage::CountsOutOfStep: return TextId::ReasonCountsOutOfStep;
+        case Damage::TurnAgainstCounts: return TextId::ReasonTurnAgainstCounts;
+        case Damage::NoTimeLeft: return TextId::ReasonNoTimeLeft;
+        case Damage::UnknownPiece: return TextId::ReasonUnknownPiece;
+        case Damage::BrokenLine: return TextId::ReasonBrokenLine;
+        case Damage::NoHead: return TextId::ReasonNoHead;
+        case Damage::EndsEarly: return TextId::ReasonEndsEarly;
+        case Damage::WrongNumber: return TextId::ReasonWrongNumber;
+        case Damage::UnexpectedText: return TextId::ReasonUnexpectedText;
+        case Damage::TooLong: break;
+    }
+    return TextId::ReasonTooLong;
+}
+
 }  // namespace
 
 std::wstring Texts::LookUp(int64_t identifier) const {
@@ -75,4 +95,8 @@ std::wstring Texts::Reason(DWORD code) const {
     wchar_t number[16];
     swprintf(number, 16, code > 0x7FFFFFFF ? L"0x%08lX" : L"%lu", code);
     return Compose(ReasonRow(code), number);
+}
+
+std::wstring Texts::Reason(Damage damage, int32_t place, int32_t column) const {
+    return Compose(ReasonRow(damage), std::to_wstring(place), std::to_wstring(column));
 }

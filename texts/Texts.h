@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Damage.h"
 #include "base/Side.h"
 #include "texts/TextIds.h"
 
@@ -29,6 +30,9 @@ class Texts {
 
     // Why a call of the system failed.
     std::wstring Reason(DWORD code) const;
+
+    // Why a file is damaged, with the place where it is.
+    std::wstring Reason(Damage damage, int32_t place, int32_t column = 0) const;
 
     int32_t LanguageIndex() const { return language; }
 

@@ -29,7 +29,7 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
         settings.LanguageIndex = GetParam();
         settings.OpenScorletAtStart = false;
         settingsFile.Save(settings);
-        environment.appearance = AppearanceOf("NONE");
+        environment.Appearance = AppearanceOf("NONE");
         form = std::make_unique<frmClock>(environment, settingsFile, settings, texts, messageBoxes);
         form->Open();
     }
@@ -136,7 +136,7 @@ TEST_P(frmClockTest, HeldKeyOfStartDoesNotRepeat) {
 
 TEST_P(frmClockTest, ScreenReadersNameEveryControlInReadingOrder) {
     struct Names {
-        const wchar_t *white, *black, *button, *period;
+        const wchar_t *White, *Black, *Button, *Period;
     };
     const Names rows[] = {
         {L"Beyaz, 1 saat 59 saniye", L"Siyah, 20 dakika", L"Beyaz, Hamleyi bitir", L"20 dakika"},
@@ -152,15 +152,15 @@ TEST_P(frmClockTest, ScreenReadersNameEveryControlInReadingOrder) {
         ExpectReadingOrder(form->Window());
     };
     expectAll();
-    settings.PeriodLimit[White] = 3660;
-    settings.MoveBonus = {5, 5};
+    settings.Control.PeriodLimit[White] = 3660;
+    settings.Control.MoveBonus = {5, 5};
     settingsFile.Save(settings);
     SendMessageW(form->Window(), WM_COMMAND, mnuReset, 0);
     SendMessageW(form->Window(), WM_COMMAND, mnuStart, 0);
-    ASSERT_TRUE(PumpUntil([&] { return name(lblFace) == names.white; })) << testing::PrintToString(name(lblFace));
-    EXPECT_EQ(name(lblFace + 1), names.black);
-    EXPECT_EQ(name(cmdClock), names.button);
-    EXPECT_EQ(name(lblPeriodTime), names.period);
+    ASSERT_TRUE(PumpUntil([&] { return name(lblFace) == names.White; })) << testing::PrintToString(name(lblFace));
+    EXPECT_EQ(name(lblFace + 1), names.Black);
+    EXPECT_EQ(name(cmdClock), names.Button);
+    EXPECT_EQ(name(lblPeriodTime), names.Period);
     expectAll();
 
     SendMessageW(form->Window(), WM_COMMAND, mnuPause, 0);

@@ -10,14 +10,14 @@
 inline void ExpectApartInside(const std::vector<Box>& boxes, const Box& area) {
     for (size_t i = 0; i < boxes.size(); ++i) {
         const Box& box = boxes[i];
-        EXPECT_TRUE(box.width > 0 && box.height > 0) << "box " << i;
-        EXPECT_TRUE(box.left >= area.left && box.top >= area.top && box.Right() <= area.Right() &&
+        EXPECT_TRUE(box.Width > 0 && box.Height > 0) << "box " << i;
+        EXPECT_TRUE(box.Left >= area.Left && box.Top >= area.Top && box.Right() <= area.Right() &&
                     box.Bottom() <= area.Bottom())
             << "box " << i;
         for (size_t j = 0; j < i; ++j) {
             const Box& other = boxes[j];
-            EXPECT_TRUE(box.Right() <= other.left || other.Right() <= box.left || box.Bottom() <= other.top ||
-                        other.Bottom() <= box.top)
+            EXPECT_TRUE(box.Right() <= other.Left || other.Right() <= box.Left || box.Bottom() <= other.Top ||
+                        other.Bottom() <= box.Top)
                 << i << " and " << j;
         }
     }

@@ -10,35 +10,35 @@ namespace {
 
 // A window without a window: keeps what it was asked to do, in order.
 struct RecordingView : ClockView {
-    modClock::TimeControl control;
-    bool timersWork = true;
-    int32_t killResult = 1;
-    bool resetAnswer = false;
-    std::vector<std::string> done;
+    TimeControl Control;
+    bool TimersWork = true;
+    int32_t KillResult = 1;
+    bool ResetAnswer = false;
+    std::vector<std::string> Done;
 
-    int32_t SetTimer() override { return timersWork ? 32767 : 0; }
-    int32_t KillTimer(int32_t) override { return killResult; }
+    int32_t SetTimer() override { return TimersWork ? 32767 : 0; }
+    int32_t KillTimer(int32_t) override { return KillResult; }
     void FaceChanged(Side) override {}
     void MoveNumbersChanged() override {}
-    void PhaseChanged() override { done.push_back("show"); }
-    void FocusClockButton(Side side) override { done.push_back("focus clock " + std::to_string(side)); }
-    void FocusPauseButton(Side side) override { done.push_back("focus pause " + std::to_string(side)); }
-    void PlayButtonSound() override { done.push_back("button sound"); }
-    void PlayFlagSound() override { done.push_back("flag sound"); }
-    void Inform(Notice notice) override { done.push_back("notice " + std::to_string(static_cast<int>(notice))); }
+    void PhaseChanged() override { Done.push_back("show"); }
+    void FocusClockButton(Side side) override { Done.push_back("focus clock " + std::to_string(side)); }
+    void FocusPauseButton(Side side) override { Done.push_back("focus pause " + std::to_string(side)); }
+    void PlayButtonSound() override { Done.push_back("button sound"); }
+    void PlayFlagSound() override { Done.push_back("flag sound"); }
+    void Inform(Notice notice) override { Done.push_back("notice " + std::to_string(static_cast<int>(notice))); }
     bool AskReset() override {
-        done.push_back("ask");
-        return resetAnswer;
+        Done.push_back("ask");
+        return ResetAnswer;
     }
-    modClock::TimeControl ReadTimeControl() override {
-        done.push_back("read");
-        return control;
+    TimeControl ReadTimeControl() override {
+        Done.push_back("read");
+        return Control;
     }
-    void TellReadingProblems() override { done.push_back("tell"); }
-    bool movesWritten = false;
-    bool MovesWritten() const override { return movesWritten; }
+    void TellReadingProblems() override { Done.push_back("tell"); }
+    bool Written = false;
+    bool MovesWritten() const override { return Written; }
     void MoveBegun(bool, Side) override {}
-    void RecordFlagFall(Side side) override { done.push_back("record " + std::to_string(side)); }
+    void RecordFlagFall(Side side) override { Done.push_back("record " + std::to_string(side)); }
     void ResetRecorder() override {}
 };
 
@@ -50,18 +50,18 @@ class ClockCommandsTest : public testing::Test {
     ClockCommands commands{view};
 
     ClockCommandsTest() {
-        view.control.PeriodLimit.fill(60);
+        view.Control.PeriodLimit.fill(60);
         commands.Initialise();
-        view.done.clear();
+        view.Done.clear();
     }
 
     using Steps = std::vector<std::string>;
-    Steps Done() { return std::exchange(view.done, {}); }
+    Steps Done() { return std::exchange(view.Done, {}); }
 
     void FallFlag() {
         if (commands.CurrentPhase() == Phase::Idle) commands.Press(White);
         while (commands.CurrentPhase() == Phase::Running) commands.Tick();
-        view.done.clear();
+        view.Done.clear();
     }
 
     // Enabled clock buttons, then pause buttons: "10 10" for side 0's pair.
@@ -77,7 +77,7 @@ class ClockCommandsTest : public testing::Test {
 TEST_F(ClockCommandsTest, PauseKeepsTheTurnAndResumeGoesOn) {
     commands.Press(White);
     commands.Press(White);
-    view.done.clear();
+    view.Done.clear();
     commands.PressKeyP();
     EXPECT_EQ(Done(), (Steps{"show", "focus pause 1"}));
     EXPECT_EQ(Enabled(), "00 01");
@@ -90,11 +90,11 @@ TEST_F(ClockCommandsTest, PauseKeepsTheTurnAndResumeGoesOn) {
     commands.Press(Black);
     EXPECT_EQ(Done(), Steps{}) << "paused: neither the key nor a press does anything";
 
-    view.timersWork = false;
+    view.TimersWork = false;
     commands.PauseOrResume();
     EXPECT_EQ(Done(), Steps{NoticeOf(Notice::TimerNotCreatedEnding)});
     EXPECT_EQ(commands.CurrentPhase(), Phase::Paused);
-    view.timersWork = true;
+    view.TimersWork = true;
     commands.PauseOrResume(Black);
     EXPECT_EQ(Done(), (Steps{"show", "focus clock 1"}));
     EXPECT_EQ(commands.BlinkText(), BlinkMark::ToMove);
@@ -104,7 +104,7 @@ TEST_F(ClockCommandsTest, PauseKeepsTheTurnAndResumeGoesOn) {
 TEST_F(ClockCommandsTest, FlagFallShowsBeforeItSounds) {
     commands.Press(White);
     for (int second = 0; second < 59; ++second) commands.Tick();
-    view.done.clear();
+    view.Done.clear();
     commands.Tick();
     EXPECT_EQ(Done(), (Steps{"record 0", "show", "flag sound"}));
     EXPECT_EQ(commands.CurrentPhase(), Phase::Fallen);
@@ -121,10 +121,10 @@ TEST_F(ClockCommandsTest, StartResetsFirstWhereAStartHasHappened) {
 
     const Steps resetAndStart{"read", "show", "tell", "focus clock 0", "button sound", "show", "focus clock 0"};
     commands.PauseOrResume();
-    view.timersWork = false;
+    view.TimersWork = false;
     commands.PauseOrResume();
-    view.timersWork = true;
-    view.done.clear();
+    view.TimersWork = true;
+    view.Done.clear();
     commands.Start();
     EXPECT_EQ(Done(), resetAndStart) << "paused, the timer refused at the resume: without a question";
 
@@ -139,18 +139,18 @@ TEST_F(ClockCommandsTest, ResetAsksWhereThereIsSomethingToLose) {
     EXPECT_EQ(Done(), (Steps{"read", "show", "tell", "focus clock 0"})) << "idle";
     commands.AskedReset();
     EXPECT_EQ(Done(), Steps{"ask"}) << "a click on a flag always asks";
-    view.movesWritten = true;
+    view.Written = true;
     commands.AskedResetIfStarted();
     EXPECT_EQ(Done(), Steps{"ask"}) << "idle, with moves in the Scorlet";
-    view.movesWritten = false;
+    view.Written = false;
     commands.Press(White);
     commands.Tick();
-    view.done.clear();
+    view.Done.clear();
     commands.AskedResetIfStarted();
     EXPECT_EQ(Done(), Steps{"ask"});
     EXPECT_EQ(commands.Clock().State().PlayerTime[White], 59) << "No changes nothing";
     EXPECT_EQ(commands.CurrentPhase(), Phase::Running);
-    view.resetAnswer = true;
+    view.ResetAnswer = true;
     commands.AskedResetIfStarted();
     EXPECT_EQ(commands.CurrentPhase(), Phase::Idle);
     EXPECT_EQ(Enabled(), "11 11");
@@ -158,8 +158,8 @@ TEST_F(ClockCommandsTest, ResetAsksWhereThereIsSomethingToLose) {
 
 TEST_F(ClockCommandsTest, ALoadedGameTakesThePlaceOfWhatStood) {
     modClock::ClockState loaded;
-    static_cast<modClock::TimeControl&>(loaded) = view.control;
-    loaded.PeriodLimit.fill(600);
+    loaded.Control = view.Control;
+    loaded.Control.PeriodLimit.fill(600);
     loaded.PlayerTime = {45, 30};
     loaded.MoveCount = {3, 2};
     loaded.TurnFlag = true;
@@ -185,33 +185,33 @@ TEST_F(ClockCommandsTest, ALoadedGameTakesThePlaceOfWhatStood) {
 }
 
 TEST_F(ClockCommandsTest, TimerFailuresAreTold) {
-    view.timersWork = false;
+    view.TimersWork = false;
     commands.Press(White);
     EXPECT_EQ(Done(), (Steps{"button sound", NoticeOf(Notice::TimerNotCreated)}));
     EXPECT_EQ(commands.CurrentPhase(), Phase::Idle);
-    view.timersWork = true;
+    view.TimersWork = true;
     commands.Press(White);
-    view.done.clear();
-    view.killResult = 0;
+    view.Done.clear();
+    view.KillResult = 0;
     commands.Unload();
     EXPECT_EQ(Done(), Steps{NoticeOf(Notice::TimerNotKilled)});
 }
 
 TEST_F(ClockCommandsTest, OverflowPausesAndTellsOnce) {
-    view.control.CountTimeDown = false;
-    view.control.PeriodLimit.fill(std::numeric_limits<int32_t>::max());
-    view.control.MoveBonus.fill(std::numeric_limits<int32_t>::max());
+    view.Control.CountTimeDown = false;
+    view.Control.PeriodLimit.fill(std::numeric_limits<int32_t>::max());
+    view.Control.MoveBonus.fill(std::numeric_limits<int32_t>::max());
     commands.Reset();
     commands.Press(White);
-    view.done.clear();
+    view.Done.clear();
     commands.Tick();
     EXPECT_EQ(Done(), (Steps{"show", "focus pause 0", NoticeOf(Notice::Overflow)})) << "in a tick";
     EXPECT_EQ(commands.CurrentPhase(), Phase::Paused);
 
-    view.control.CountTimeDown = true;
+    view.Control.CountTimeDown = true;
     commands.Reset();
     commands.Press(White);
-    view.done.clear();
+    view.Done.clear();
     commands.Press(White);
     EXPECT_EQ(Done(), (Steps{"button sound", "show", "focus pause 0", NoticeOf(Notice::Overflow)})) << "in a press";
 }

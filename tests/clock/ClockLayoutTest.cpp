@@ -8,13 +8,13 @@ TEST(ClockLayoutTest, NothingOverlapsOrLeavesItsPanelAtAnySize) {
     for (const auto& [width, height] : sizes) {
         SCOPED_TRACE(testing::Message() << width << " x " << height);
         const ClockLayout layout = LayOutClock(width, height);
-        ExpectApartInside({layout.panels[White].panel, layout.panels[Black].panel}, {0, 0, width, height});
-        for (const PanelLayout& panel : layout.panels) {
+        ExpectApartInside({layout.Panels[White].Panel, layout.Panels[Black].Panel}, {0, 0, width, height});
+        for (const PanelLayout& panel : layout.Panels) {
             ExpectApartInside(
-                {panel.side, panel.blink, panel.face, panel.turnMarks[0], panel.turnMarks[1], panel.turnMarks[2],
-                 panel.flag, panel.hand, panel.clockButton, panel.pauseButton, panel.moveNumber, panel.moveCount,
-                 panel.period, panel.periodTime, panel.bonus, panel.bonusTime},
-                panel.panel);
+                {panel.Name, panel.Blink, panel.Face, panel.TurnMarks[0], panel.TurnMarks[1], panel.TurnMarks[2],
+                 panel.Flag, panel.Hand, panel.ClockButton, panel.PauseButton, panel.MoveNumber, panel.MoveCount,
+                 panel.Period, panel.PeriodTime, panel.Bonus, panel.BonusTime},
+                panel.Panel);
         }
     }
 }

@@ -11,26 +11,26 @@ namespace {
 constexpr int32_t Most = std::numeric_limits<int32_t>::max();
 
 struct RecordingHost : modClock::ClockHost {
-    int32_t handleToGive = 32767;
-    int32_t killResult = 1;
-    std::vector<Side> fallen;
-    int timers = 0;
+    int32_t HandleToGive = 32767;
+    int32_t KillResult = 1;
+    std::vector<Side> Fallen;
+    int Timers = 0;
 
     int32_t SetTimer() override {
-        if (handleToGive > 0) ++timers;
-        return handleToGive;
+        if (HandleToGive > 0) ++Timers;
+        return HandleToGive;
     }
     int32_t KillTimer(int32_t) override {
-        --timers;
-        return killResult;
+        --Timers;
+        return KillResult;
     }
     void FaceChanged(Side) override {}
     void MoveNumbersChanged() override {}
-    void FlagFell(Side side) override { fallen.push_back(side); }
+    void FlagFell(Side side) override { Fallen.push_back(side); }
 };
 
-modClock::TimeControl Control(bool down, int32_t limit, int32_t second = 0, int32_t bonus = 0, int32_t moves = 40) {
-    modClock::TimeControl control;
+TimeControl Control(bool down, int32_t limit, int32_t second = 0, int32_t bonus = 0, int32_t moves = 40) {
+    TimeControl control;
     control.CountTimeDown = down;
     control.PeriodLimit.fill(limit);
     control.SecondPeriodTime.fill(second);
@@ -46,9 +46,9 @@ class ClockTest : public testing::Test {
     modClock::Clock clock{host};
 
     // Begins anew with that control.
-    void Set(const modClock::TimeControl& control) {
+    void Set(const TimeControl& control) {
         clock.AbandonGame();
-        host.fallen.clear();
+        host.Fallen.clear();
         clock.SetTimeControl(control);
         clock.InitialiseClock();
     }
@@ -80,15 +80,15 @@ TEST_F(ClockTest, FirstPressStartsSideZeroAndLaterOnesAlternate) {
     Move();
     EXPECT_EQ(State().MoveCount, (std::array{2, 1}));
     EXPECT_EQ(State().PlayerTime, (std::array{297, 298}));
-    EXPECT_EQ(host.timers, 1);
+    EXPECT_EQ(host.Timers, 1);
 }
 
 TEST_F(ClockTest, FlagFallsOnTheTickThatUsesTheTimeUp) {
     struct Row {
-        const char* name;
-        modClock::TimeControl control;
-        int ticks;
-        const char *idle, *face;
+        const char* Name;
+        TimeControl Control;
+        int Ticks;
+        const char *Idle, *Face;
     };
     const Row rows[] = {
         {"down", Control(true, 60), 60, "00:01:00", "00:00:00"},
@@ -96,19 +96,19 @@ TEST_F(ClockTest, FlagFallsOnTheTickThatUsesTheTimeUp) {
         {"up: the bonus counts as used", Control(false, 60, 0, 5), 56, "00:00:00", "00:00:56"},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        Set(row.control);
-        EXPECT_EQ(clock.Face(White), row.idle);
+        SCOPED_TRACE(row.Name);
+        Set(row.Control);
+        EXPECT_EQ(clock.Face(White), row.Idle);
         Begin();
-        Tick(row.ticks - 1);
-        EXPECT_TRUE(host.fallen.empty());
+        Tick(row.Ticks - 1);
+        EXPECT_TRUE(host.Fallen.empty());
         Tick();
-        EXPECT_EQ(host.fallen, std::vector{White});
-        EXPECT_EQ(clock.Face(White), row.face);
+        EXPECT_EQ(host.Fallen, std::vector{White});
+        EXPECT_EQ(clock.Face(White), row.Face);
         EXPECT_EQ(State().TimerHandle, 1);
         EXPECT_FALSE(State().TimerRunning || State().GameStarted || State().TurnFlag);
     }
-    EXPECT_EQ(host.timers, 0);
+    EXPECT_EQ(host.Timers, 0);
 }
 
 TEST_F(ClockTest, EarnedSecondPeriodIsLoadedOnceInPlaceOfTheFlagFall) {
@@ -120,24 +120,24 @@ TEST_F(ClockTest, EarnedSecondPeriodIsLoadedOnceInPlaceOfTheFlagFall) {
         EXPECT_TRUE(State().SecondPeriodDue[Black]);
         Tick(60);
         if (!down) Tick();
-        EXPECT_TRUE(host.fallen.empty());
+        EXPECT_TRUE(host.Fallen.empty());
         EXPECT_FALSE(State().SecondPeriodDue[Black]);
-        EXPECT_EQ(down ? State().PlayerTime[Black] : State().PeriodLimit[Black], down ? 120 : 180);
+        EXPECT_EQ(down ? State().PlayerTime[Black] : State().Control.PeriodLimit[Black], down ? 120 : 180);
         Tick(120);
-        EXPECT_EQ(host.fallen, std::vector{Black});
+        EXPECT_EQ(host.Fallen, std::vector{Black});
     }
 }
 
 TEST_F(ClockTest, SecondPeriodOfNoTimeIsNone) {
     Set(Control(true, 60));
     Change([](modClock::ClockState& state) {
-        state.SecondPeriodEnabled = true;
+        state.Control.SecondPeriodEnabled = true;
         state.SecondPeriodArmed.fill(true);
     });
     Begin();
     EXPECT_TRUE(State().SecondPeriodDue[White]) << "more than no time is left";
     Tick(60);
-    EXPECT_EQ(host.fallen, std::vector{White});
+    EXPECT_EQ(host.Fallen, std::vector{White});
     EXPECT_EQ(State().PlayerTime[White], 0);
 }
 
@@ -200,11 +200,11 @@ TEST_F(ClockTest, PauseAndResumeKeepTimesAndAskDifferentHandles) {
     Tick(7);
     clock.PauseClock();
     EXPECT_EQ(State().TimerHandle, 1);
-    EXPECT_EQ(host.timers, 0);
-    host.handleToGive = 0;
+    EXPECT_EQ(host.Timers, 0);
+    host.HandleToGive = 0;
     EXPECT_FALSE(clock.ResumeClock());
     EXPECT_FALSE(State().TimerRunning);
-    host.handleToGive = 1;
+    host.HandleToGive = 1;
     EXPECT_TRUE(clock.ResumeClock()) << "a resume takes any handle";
     EXPECT_EQ(clock.Face(White), "00:00:53");
 
@@ -214,7 +214,7 @@ TEST_F(ClockTest, PauseAndResumeKeepTimesAndAskDifferentHandles) {
     EXPECT_FALSE(State().TurnFlag);
     EXPECT_EQ(State().PlayerTime[White], 0);
     EXPECT_EQ(State().TimerHandle, 0);
-    host.handleToGive = 2;
+    host.HandleToGive = 2;
     EXPECT_EQ(clock.PressClock(Black), modClock::PressOutcome::Counted);
 }
 
@@ -234,11 +234,11 @@ TEST_F(ClockTest, OverflowIsAnErrorThatChangesNothing) {
     EXPECT_THROW(Move(), RunTimeError) << "move count";
 
     Change([](modClock::ClockState& state) {
-        state.CountTimeDown = false;
+        state.Control.CountTimeDown = false;
         state.MoveCount = {1, 0};
         state.TurnFlag = true;
         state.PlayerTime[White] = Most - 3;
-        state.PeriodLimit.fill(Most);
+        state.Control.PeriodLimit.fill(Most);
     });
     EXPECT_THROW(Tick(), RunTimeError) << "used time with the bonus";
     EXPECT_EQ(State().PlayerTime[White], Most - 3);

@@ -102,7 +102,7 @@ TEST_F(FilesTest, GameGoesOnAfterAFreshStart) {
     Settings settings = QuietSettings();
     settings.PlayerNames = {"Team 1. Anna", "Ren\xE9"};
     settings.SetClockType(2);
-    settings.MoveBonus = {5, 7};
+    settings.Control.MoveBonus = {5, 7};
     settings.WritePgn = true;
     StartAndMove(settings);
     // 1... d5 2.exd5 Qxd5, a press after each.
@@ -229,9 +229,9 @@ TEST_F(FilesTest, DamagedFilesAreNamedAndNothingIsTouched) {
     StartAndMove(settings);
     Save("good");
     struct Damage {
-        const char* extension;
-        std::string bytes;
-        std::wstring reason;
+        const char* Extension;
+        std::string Bytes;
+        std::wstring Reason;
     };
     const std::string record = ReadFileText(PathOf("good.bin")), moves = ReadFileText(PathOf("good.cgn"));
     const Damage damages[] = {
@@ -241,18 +241,18 @@ TEST_F(FilesTest, DamagedFilesAreNamedAndNothingIsTouched) {
         {".pgn", "[Event \"\"]\r\n", L"the head of the game has not ended by byte"},
     };
     for (const Damage& damage : damages) {
-        SCOPED_TRACE(damage.bytes.substr(0, 20));
-        const std::wstring path = PathOf(std::string("good") + damage.extension);
+        SCOPED_TRACE(damage.Bytes.substr(0, 20));
+        const std::wstring path = PathOf(std::string("good") + damage.Extension);
         const std::string good = ReadFileText(path);
-        WriteFileText(path, damage.bytes);
+        WriteFileText(path, damage.Bytes);
         OpenFiles(LoadEntry);
         Paste(L"good");
         Expect(L"Game good will be loaded.", IDYES);
-        const std::wstring start = L"The game could not be loaded. The file " + path + L" is damaged: " + damage.reason;
+        const std::wstring start = L"The game could not be loaded. The file " + path + L" is damaged: " + damage.Reason;
         EXPECT_EQ(run->MessageText().substr(0, start.size()), start);
         run->Answer(IDOK);
         EXPECT_TRUE(IsWindowVisible(files)) << "the dialog stays";
-        EXPECT_EQ(ReadFileText(path), damage.bytes) << "the file stays";
+        EXPECT_EQ(ReadFileText(path), damage.Bytes) << "the file stays";
         CancelFiles();
         WriteFileText(path, good);
     }

@@ -6,7 +6,7 @@ TEST(FlagFallTest, RealFlagFallAfterOneMinuteIsSeenAndHeard) {
     const TestFolder folder;
     Settings settings;
     settings.SetClockType(0);
-    settings.PeriodLimit.fill(60);
+    settings.Control.PeriodLimit.fill(60);
     settings.SetButtonSound(0);
     settings.SetFlagSound(2);
     ProgramRun run(folder, settings);

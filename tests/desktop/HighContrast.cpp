@@ -28,13 +28,13 @@ bool OfTheSystem(COLORREF colour) { return std::find(Strange.begin(), Strange.en
 
 // A memory bitmap to draw on.
 struct Paper {
-    LONG width, height;
-    UniqueDc dc{CreateCompatibleDC(nullptr)};
-    UniqueBitmap bitmap;
-    Selection selection;
+    LONG Width, Height;
+    UniqueDc Dc{CreateCompatibleDC(nullptr)};
+    UniqueBitmap Bitmap;
+    Selection Selection;
 
     explicit Paper(const RECT& area)
-        : width(area.right), height(area.bottom), bitmap(Make(width, height)), selection(dc.get(), bitmap.get()) {}
+        : Width(area.right), Height(area.bottom), Bitmap(Make(Width, Height)), Selection(Dc.get(), Bitmap.get()) {}
 
     static HBITMAP Make(LONG width, LONG height) {
         BITMAPINFO info{};
@@ -49,8 +49,8 @@ struct Paper {
 
     COLORREF MostUsed() const {
         std::map<COLORREF, int> counts;
-        for (LONG y = 0; y < height; y += 2) {
-            for (LONG x = 0; x < width; x += 2) ++counts[GetPixel(dc.get(), x, y)];
+        for (LONG y = 0; y < Height; y += 2) {
+            for (LONG x = 0; x < Width; x += 2) ++counts[GetPixel(Dc.get(), x, y)];
         }
         const auto less = [](const auto& one, const auto& other) {
             return one.second < other.second;
@@ -91,25 +91,25 @@ void ExpectSystemColours(HWND form) {
         if (area.right == 0 || area.bottom == 0) continue;
         const Paper paper(area);
         const int id = GetDlgCtrlID(control);
-        const auto dc = reinterpret_cast<WPARAM>(paper.dc.get());
+        const auto dc = reinterpret_cast<WPARAM>(paper.Dc.get());
         if (drawn) {
             DRAWITEMSTRUCT item{};
             item.CtlType = isButton ? ODT_BUTTON : ODT_STATIC;
             item.CtlID = static_cast<UINT>(id);
             item.hwndItem = control;
-            item.hDC = paper.dc.get();
+            item.hDC = paper.Dc.get();
             item.rcItem = area;
             item.itemState = IsWindowEnabled(control) ? 0 : ODS_DISABLED;
             SendMessageW(form, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
             // A picture may be larger than the ground that it leaves.
-            EXPECT_TRUE(OfTheSystem(paper.MostUsed()) || OfTheSystem(GetPixel(paper.dc.get(), 0, 0)))
+            EXPECT_TRUE(OfTheSystem(paper.MostUsed()) || OfTheSystem(GetPixel(paper.Dc.get(), 0, 0)))
                 << id << std::hex << ": " << paper.MostUsed();
         } else if (isStatic) {
             const auto brush =
                 reinterpret_cast<HBRUSH>(SendMessageW(form, WM_CTLCOLORSTATIC, dc, reinterpret_cast<LPARAM>(control)));
-            FillRect(paper.dc.get(), &area, brush);
+            FillRect(paper.Dc.get(), &area, brush);
             EXPECT_TRUE(OfTheSystem(paper.MostUsed())) << id << std::hex << ": " << paper.MostUsed();
-            EXPECT_TRUE(OfTheSystem(GetTextColor(paper.dc.get()))) << id << std::hex << GetTextColor(paper.dc.get());
+            EXPECT_TRUE(OfTheSystem(GetTextColor(paper.Dc.get()))) << id << std::hex << GetTextColor(paper.Dc.get());
         }
     }
     // Changed while the window is open: all of it is to be drawn anew.

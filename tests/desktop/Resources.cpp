@@ -14,20 +14,20 @@ namespace {
 
 // Structures and classes of the native system calls that no header of the compiler has.
 struct ProcessInformation {
-    uintptr_t exitStatus, environmentBlock, affinity, priority, id, parentId;
+    uintptr_t ExitStatus, EnvironmentBlock, Affinity, Priority, Id, ParentId;
 };
 struct SystemHandle {
-    uintptr_t object, processId, value;
-    uint32_t access;
-    uint16_t creatorIndex, type;
-    uint32_t attributes, reserved;
+    uintptr_t Object, ProcessId, Value;
+    uint32_t Access;
+    uint16_t CreatorIndex, Type;
+    uint32_t Attributes, Reserved;
 };
 struct GdiEntry {
-    uint64_t object;
-    uint32_t owner;
-    uint16_t unique;
-    uint8_t type, flags;
-    uint64_t userPointer;
+    uint64_t Object;
+    uint32_t Owner;
+    uint16_t Unique;
+    uint8_t Type, Flags;
+    uint64_t UserPointer;
 };
 constexpr ULONG ProcessBasicInformation = 0, SystemExtendedHandleInformation = 64;
 constexpr LONG InfoLengthMismatch = static_cast<LONG>(0xC0000004);
@@ -46,13 +46,13 @@ size_t GdiObjects(HANDLE process) {
     uintptr_t table = 0;
     std::vector<GdiEntry> entries(GdiTableEntries);
     const bool read = query(process, ProcessBasicInformation, &information, sizeof(information), nullptr) >= 0 &&
-                      ReadProcessMemory(process, reinterpret_cast<void*>(information.environmentBlock + GdiTableOffset),
+                      ReadProcessMemory(process, reinterpret_cast<void*>(information.EnvironmentBlock + GdiTableOffset),
                                         &table, sizeof(table), nullptr) &&
                       ReadProcessMemory(process, reinterpret_cast<void*>(table), entries.data(),
                                         entries.size() * sizeof(GdiEntry), nullptr);
     EXPECT_TRUE(read) << "the table of GDI objects cannot be read";
     return static_cast<size_t>(
-        std::count_if(entries.begin(), entries.end(), [](const GdiEntry& entry) { return entry.type != 0; }));
+        std::count_if(entries.begin(), entries.end(), [](const GdiEntry& entry) { return entry.Type != 0; }));
 }
 
 // New objects fill the gaps of the table before one lands behind all others, which its generation tells: the high word,
@@ -85,7 +85,7 @@ size_t Handles(HANDLE process) {
     const auto* list = reinterpret_cast<const SystemHandle*>(buffer.data() + 2);
     const DWORD id = GetProcessId(process);
     return static_cast<size_t>(
-        std::count_if(list, list + buffer[0], [&](const SystemHandle& handle) { return handle.processId == id; }));
+        std::count_if(list, list + buffer[0], [&](const SystemHandle& handle) { return handle.ProcessId == id; }));
 }
 
 size_t PrivateBytes(HANDLE process) {
@@ -104,8 +104,8 @@ size_t TemporaryFiles() {
 }  // namespace
 
 std::string Resources::Text() const {
-    return std::to_string(gdi) + " GDI, " + std::to_string(user) + " USER, " + std::to_string(handles) + " handles, " +
-           std::to_string(privateBytes / 1024) + " KiB, " + std::to_string(temporaryFiles) + " temporary files";
+    return std::to_string(Gdi) + " GDI, " + std::to_string(User) + " USER, " + std::to_string(Handles) + " handles, " +
+           std::to_string(PrivateBytes / 1024) + " KiB, " + std::to_string(TemporaryFiles) + " temporary files";
 }
 
 Resources CountResources(HANDLE process) {

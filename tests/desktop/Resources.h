@@ -9,9 +9,9 @@
 // the process, handles in the server's list, and USER objects by the numbers that new ones get, which counts those of
 // all programs of the prefix together.
 struct Resources {
-    size_t gdi = 0, user = 0, handles = 0;
-    size_t privateBytes = 0;
-    size_t temporaryFiles = 0;  // entries of the folder for temporary files, of whatever program
+    size_t Gdi = 0, User = 0, Handles = 0;
+    size_t PrivateBytes = 0;
+    size_t TemporaryFiles = 0;  // entries of the folder for temporary files, of whatever program
 
     std::string Text() const;
 };

@@ -71,8 +71,8 @@ class SetupTest : public testing::Test {
 
 TEST_F(SetupTest, ClockTypesEnableAndNameInEachLanguage) {
     struct Language {
-        int32_t index;
-        const wchar_t *whole, *first, *second, *bonus;
+        int32_t Index;
+        const wchar_t *Whole, *First, *Second, *Bonus;
     };
     const Language languages[] = {
         {Turkish, L"Tüm oyunun süresi", L"İlk 40 hamlenin süresi", L"Oyunun 40. hamleden sonraki süresi",
@@ -83,20 +83,20 @@ TEST_F(SetupTest, ClockTypesEnableAndNameInEachLanguage) {
          L"Incrément par coup"},
     };
     for (const Language& language : languages) {
-        SCOPED_TRACE(language.index);
+        SCOPED_TRACE(language.Index);
         Settings settings = QuietSettings();
-        settings.LanguageIndex = language.index;
+        settings.LanguageIndex = language.Index;
         settings.SetClockType(2);
-        settings.MoveBonus = {5, 6};
-        settings.CountTimeDown = false;
+        settings.Control.MoveBonus = {5, 6};
+        settings.Control.CountTimeDown = false;
         Start(settings);
         for (const int type : {2, 1, 3, 0}) {
             SCOPED_TRACE(type);
             Choose(cmbClockType, type);
             const bool second = type == 1 || type == 2, bonus = type == 2;
-            EXPECT_TRUE(Becomes(lblFirstCaption, second ? language.first : language.whole));
-            EXPECT_TRUE(Becomes(lblSecondCaption, second ? language.second : L""));
-            EXPECT_TRUE(Becomes(lblBonusCaption, bonus ? language.bonus : L""));
+            EXPECT_TRUE(Becomes(lblFirstCaption, second ? language.First : language.Whole));
+            EXPECT_TRUE(Becomes(lblSecondCaption, second ? language.Second : L""));
+            EXPECT_TRUE(Becomes(lblBonusCaption, bonus ? language.Bonus : L""));
             for (Side side : BothSides) {
                 EXPECT_TRUE(EnabledIs(ControlOf(hsbFirstPeriod, side), true));
                 EXPECT_TRUE(EnabledIs(ControlOf(hsbSecondPeriod, side), second));
@@ -126,7 +126,7 @@ TEST_F(SetupTest, PresetsTwiceInARow) {
     Settings settings = QuietSettings();
     settings.PlayerNames = {"Anna", "Carl"};
     settings.SetClockType(2);
-    settings.MoveBonus = {7, 8};
+    settings.Control.MoveBonus = {7, 8};
     settings.WritePgn = true;
     settings.SetFlagSound(4);
     Start(settings);
@@ -230,13 +230,14 @@ TEST_F(SetupTest, EveryControlGoesThroughOkTheFileAndAFreshStart) {
     ASSERT_EQ(file.Load(saved, texts), L"");
     EXPECT_EQ(file.LoadLanguage(), French);
     EXPECT_EQ(saved.PlayerNames, (std::array<std::string, 2>{names[0], names[1]}));
-    EXPECT_EQ(saved.PeriodLimit, (std::array<int32_t, 2>{180, 240}));
-    EXPECT_EQ(saved.SecondPeriodTime, (std::array<int32_t, 2>{179 * 60, 179 * 60}));
-    EXPECT_EQ(saved.MoveBonus, (std::array<int32_t, 2>{0, 4}));
-    const std::array chosen{saved.ClockType, saved.MovesFirstPeriod, saved.ButtonSoundIndex, saved.FlagSoundIndex};
+    EXPECT_EQ(saved.Control.PeriodLimit, (std::array<int32_t, 2>{180, 240}));
+    EXPECT_EQ(saved.Control.SecondPeriodTime, (std::array<int32_t, 2>{179 * 60, 179 * 60}));
+    EXPECT_EQ(saved.Control.MoveBonus, (std::array<int32_t, 2>{0, 4}));
+    const std::array chosen{saved.ClockType, saved.Control.MovesFirstPeriod, saved.ButtonSoundIndex,
+                            saved.FlagSoundIndex};
     EXPECT_EQ(chosen, (std::array{2, 3, 3, 5}));
     EXPECT_TRUE(saved.OpenScorletAtStart && saved.WritePgn && saved.TurnClock);
-    EXPECT_FALSE(saved.ShowMoveNumber || saved.CountTimeDown);
+    EXPECT_FALSE(saved.ShowMoveNumber || saved.Control.CountTimeDown);
 
     ASSERT_TRUE(run->Close());
     run.emplace(folder);

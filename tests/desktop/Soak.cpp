@@ -16,7 +16,7 @@
 namespace {
 
 struct Done {
-    int presses = 0, moves = 0, edits = 0, saves = 0, loads = 0, windows = 0;
+    int Presses = 0, Moves = 0, Edits = 0, Saves = 0, Loads = 0, Windows = 0;
 };
 
 class SoakTest : public testing::Test {
@@ -64,7 +64,7 @@ class SoakTest : public testing::Test {
         ASSERT_TRUE(Soon([&] { return !IsWindow(box); }));
     }
     void EndOf(HWND window) {
-        ++done.windows;
+        ++done.Windows;
         ASSERT_TRUE(Soon([&] { return !IsWindow(window) && IsWindowEnabled(clock); }));
     }
 
@@ -82,7 +82,7 @@ class SoakTest : public testing::Test {
         PostMessageW(run->Control(ControlOf(cmdClock, halfMoves == 0 ? Black : Turn())), WM_LBUTTONDOWN, MK_LBUTTON,
                      MAKELPARAM(5, 5));
         ++halfMoves;
-        ++done.presses;
+        ++done.Presses;
     }
 
     // Most of the time of a press goes into the painting of the window.
@@ -118,7 +118,7 @@ class SoakTest : public testing::Test {
         ClickSquare(from);
         ClickSquare(to);
         game.Play(from, to);
-        ++done.moves;
+        ++done.Moves;
     }
     void ExpectBoard() {
         for (int square = 11; square <= 88; ++square) {
@@ -161,7 +161,7 @@ class SoakTest : public testing::Test {
             const wchar_t* const texts[] = {L"nf3", L"qxd5+", L"o-o"};
             SendMessageW(GetDlgItem(scorlet, txtMove), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(texts[i % 3]));
             SendMessageW(scorlet, WM_COMMAND, cmdOK, 0);
-            ++done.edits;
+            ++done.Edits;
         }
         SendMessageW(scorlet, WM_COMMAND, mnuDeleteLastMove, 0);
         SendMessageW(GetDlgItem(scorlet, cmbSay), CB_SETCURSEL, 0, 0);
@@ -194,11 +194,11 @@ class SoakTest : public testing::Test {
     }
     void Save(const std::wstring& name) {
         Files(mnuSave, cmdSave, name);
-        ++done.saves;
+        ++done.Saves;
     }
     void Load(const std::wstring& name) {
         Files(mnuLoad, cmdLoad, name);
-        ++done.loads;
+        ++done.Loads;
         scorlet = SoonWindow(L"frmScorlet");
         FindCells();
     }
@@ -266,7 +266,7 @@ class SoakTest : public testing::Test {
             else
                 run->Key(VK_SPACE);
             ++halfMoves;
-            ++done.presses;
+            ++done.Presses;
             ExpectCounts();
         }
     }
@@ -280,7 +280,7 @@ class SoakTest : public testing::Test {
         const UniqueFile handle(OpenProcess(SYNCHRONIZE, FALSE, process));
         PostMessageW(viewer, WM_CLOSE, 0, 0);
         EXPECT_EQ(WaitForSingleObject(handle.get(), 20000), WAIT_OBJECT_0);
-        ++done.windows;
+        ++done.Windows;
     }
 
     // Begins and ends with an idle clock, in English, without the Scorlet.
@@ -359,16 +359,16 @@ TEST_F(SoakTest, HoldsAtTheEndWhatItHeldOnceAllWasUsed) {
     }
     const Resources after = Count();
     std::cout << elapsed() << " s: " << after.Text() << "\n"
-              << cycles << " cycles, " << done.presses << " presses, " << done.moves << " moves, " << done.edits
-              << " edits, " << done.saves << " saves, " << done.loads << " loads, " << done.windows << " windows"
+              << cycles << " cycles, " << done.Presses << " presses, " << done.Moves << " moves, " << done.Edits
+              << " edits, " << done.Saves << " saves, " << done.Loads << " loads, " << done.Windows << " windows"
               << std::endl;
     const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    EXPECT_LE(after.gdi, before.gdi + LateObjects);
-    EXPECT_LE(after.user, before.user + LateObjects);
-    EXPECT_LE(after.handles, before.handles + LateObjects);
-    EXPECT_LE(after.privateBytes,
-              before.privateBytes + HeapSlack + (wine ? static_cast<size_t>(cycles) * KeptByWine : 0));
-    EXPECT_LE(after.temporaryFiles, before.temporaryFiles);
+    EXPECT_LE(after.Gdi, before.Gdi + LateObjects);
+    EXPECT_LE(after.User, before.User + LateObjects);
+    EXPECT_LE(after.Handles, before.Handles + LateObjects);
+    EXPECT_LE(after.PrivateBytes,
+              before.PrivateBytes + HeapSlack + (wine ? static_cast<size_t>(cycles) * KeptByWine : 0));
+    EXPECT_LE(after.TemporaryFiles, before.TemporaryFiles);
 
     OpenScorlet();
     MoveAndPress(60);

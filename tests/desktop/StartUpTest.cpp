@@ -53,12 +53,12 @@ TEST(StartUpTest, MissingFoldersAreMadeAndTheLogIsKept) {
 
 TEST(StartUpTest, DamagedSettingsAreToldAndLeftUntouched) {
     struct Row {
-        const char* name;
-        size_t at;  // byte to change
-        char to;
-        size_t length;
-        const wchar_t* reason;
-        const wchar_t* face;
+        const char* Name;
+        size_t At;  // byte to change
+        char To;
+        size_t Length;
+        const wchar_t* Reason;
+        const wchar_t* Face;
     };
     // Slots 0 and 1 hold the lengths of two empty names; each slot in use takes six bytes.
     const Row rows[] = {
@@ -67,23 +67,23 @@ TEST(StartUpTest, DamagedSettingsAreToldAndLeftUntouched) {
         {"flag sound", 15 * 6 + 2, 6, 5000, L"the value in slot 15 is out of its range", L"00:45:00"},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         const TestFolder folder;
         Settings settings;
-        settings.PeriodLimit.fill(2700);
+        settings.Control.PeriodLimit.fill(2700);
         const std::wstring file = folder.Path() + L"Data\\TORVANIX.set";
         WriteSettingsFile(folder.Path(), settings);
         std::string bytes = ReadFileText(file);
-        bytes[row.at] = row.to;
-        bytes.resize(std::min(bytes.size(), row.length));
+        bytes[row.At] = row.To;
+        bytes.resize(std::min(bytes.size(), row.Length));
         WriteFileText(file, bytes);
 
         ProgramRun run(folder);
         const std::wstring text = run.MessageText();
         EXPECT_NE(text.find(file), std::wstring::npos) << ToAnsi(text);
-        EXPECT_NE(text.find(row.reason), std::wstring::npos) << ToAnsi(text);
+        EXPECT_NE(text.find(row.Reason), std::wstring::npos) << ToAnsi(text);
         run.Answer(IDOK);
-        EXPECT_EQ(run.Text(lblFace), row.face) << "what was read before it counts";
+        EXPECT_EQ(run.Text(lblFace), row.Face) << "what was read before it counts";
         run.Click(ControlOf(cmdClock, White));
         EXPECT_TRUE(run.Becomes(lblMoveCount, L"1.")) << "the program runs";
         EXPECT_TRUE(run.Close());

@@ -34,8 +34,8 @@ MoveLists Lists(const std::string& text) {
 
 TEST(CgnTest, MovetextIsWrittenAsItStandsInTheLists) {
     struct Row {
-        const char* name;
-        std::string lists, movetext, result;
+        const char* Name;
+        std::string Lists, Movetext, Result;
     };
     const Row rows[] = {
         {"no result", "e2-e4 g1-f3 / e7-e5", "1. e2-e4 1... e7-e5 2. g1-f3 *", "*"},
@@ -47,17 +47,17 @@ TEST(CgnTest, MovetextIsWrittenAsItStandsInTheLists) {
         {"a move that reads like a result", "1-0 d4 / e5", "1. 1-0 1... e5 2. d4 *", "*"},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(EncodeCgn(Head, Lists(row.lists)), File(row.movetext, row.result));
+        SCOPED_TRACE(row.Name);
+        EXPECT_EQ(EncodeCgn(Head, Lists(row.Lists)), File(row.Movetext, row.Result));
     }
 }
 
 TEST(CgnTest, ListsAndResultComeBack) {
     struct Row {
-        const char* name;
-        std::string movetext;
-        Side toMove;
-        std::string lists;
+        const char* Name;
+        std::string Movetext;
+        Side ToMove;
+        std::string Lists;
     };
     const Row rows[] = {
         {"as written", "1. e2-e4 1... e7-e5 2. g1-f3 *", Black, "1. e2-e4|2. g1-f3 / e7-e5"},
@@ -72,45 +72,44 @@ TEST(CgnTest, ListsAndResultComeBack) {
         {"something before the moves", "{opening} 1. e4 *", Black, "1. e4 / "},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         MoveLists lists;
-        const std::string bytes = File(row.movetext);
-        const auto error = DecodeCgn(bytes, row.toMove, lists);
-        ASSERT_FALSE(error) << error->place;
-        EXPECT_EQ(ListText(lists), row.lists);
+        const std::string bytes = File(row.Movetext);
+        const auto error = DecodeCgn(bytes, row.ToMove, lists);
+        ASSERT_FALSE(error) << error->Place;
+        EXPECT_EQ(ListText(lists), row.Lists);
         MoveLists again;
-        ASSERT_FALSE(DecodeCgn(EncodeCgn(Head, lists), row.toMove, again));
-        EXPECT_EQ(ListText(again), row.lists);
+        ASSERT_FALSE(DecodeCgn(EncodeCgn(Head, lists), row.ToMove, again));
+        EXPECT_EQ(ListText(again), row.Lists);
     }
 }
 
 TEST(CgnTest, DamageIsNamedWithItsOffset) {
-    using Rule = GameFileError::Rule;
     struct Row {
-        const char* name;
-        std::string movetext;
-        Rule rule;
-        size_t offset;  // in the movetext
+        const char* Name;
+        std::string Movetext;
+        Damage What;
+        size_t Offset;  // in the movetext
     };
     const Row rows[] = {
-        {"cut behind a number", "1. e4 1...", Rule::EndsEarly, 10},
-        {"cut before the moves", "", Rule::EndsEarly, 0},
-        {"a word too many", "1. e4 e5 *", Rule::UnexpectedText, 6},
-        {"a number too large", "1. e4 99999999999999999999. e5 *", Rule::UnexpectedText, 6},
-        {"a number left out", "1. e4 3. e5 *", Rule::WrongNumber, 6},
-        {"Black's number twice", "1. e4 1... e5 1... e5 *", Rule::WrongNumber, 14},
-        {"moves behind the result", "1. e4 1-0 2. d4 *", Rule::UnexpectedText, 10},
+        {"cut behind a number", "1. e4 1...", Damage::EndsEarly, 10},
+        {"cut before the moves", "", Damage::EndsEarly, 0},
+        {"a word too many", "1. e4 e5 *", Damage::UnexpectedText, 6},
+        {"a number too large", "1. e4 99999999999999999999. e5 *", Damage::UnexpectedText, 6},
+        {"a number left out", "1. e4 3. e5 *", Damage::WrongNumber, 6},
+        {"Black's number twice", "1. e4 1... e5 1... e5 *", Damage::WrongNumber, 14},
+        {"moves behind the result", "1. e4 1-0 2. d4 *", Damage::UnexpectedText, 10},
     };
     const auto start = static_cast<int32_t>(File("").size());
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         MoveLists lists = Lists("kept /");
-        EXPECT_EQ(DecodeCgn(File(row.movetext), White, lists),
-                  (GameFileError{MovesFile, row.rule, start + static_cast<int32_t>(row.offset)}));
+        EXPECT_EQ(DecodeCgn(File(row.Movetext), White, lists),
+                  (GameFileError{MovesFile, row.What, start + static_cast<int32_t>(row.Offset)}));
         EXPECT_EQ(ListText(lists), "1. kept / ");
     }
     MoveLists lists;
-    EXPECT_EQ(DecodeCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Rule::NoHead, 7}));
+    EXPECT_EQ(DecodeCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Damage::NoHead, 7}));
 }
 
 TEST(CgnTest, NamesStayOnTheirLine) {

@@ -6,8 +6,6 @@
 
 namespace {
 
-using Rule = GameFileError::Rule;
-
 std::span<const uint8_t> Bytes(const std::string& text) {
     return {reinterpret_cast<const uint8_t*>(text.data()), text.size()};
 }
@@ -22,12 +20,12 @@ ClockRecord UnderWay() {
     saved.Options.SetButtonSound(3);
     saved.Options.SetFlagSound(5);
     saved.Options.WritePgn = true;
-    saved.Clock.PeriodLimit = {90, 1200};
-    saved.Clock.SecondPeriodTime = {0, 61};
-    saved.Clock.MoveBonus = {7, 0};
-    saved.Clock.CountTimeDown = true;
-    saved.Clock.SecondPeriodEnabled = true;
-    saved.Clock.MovesFirstPeriod = 30;
+    saved.Clock.Control.PeriodLimit = {90, 1200};
+    saved.Clock.Control.SecondPeriodTime = {0, 61};
+    saved.Clock.Control.MoveBonus = {7, 0};
+    saved.Clock.Control.CountTimeDown = true;
+    saved.Clock.Control.SecondPeriodEnabled = true;
+    saved.Clock.Control.MovesFirstPeriod = 30;
     saved.Clock.PlayerTime = {59, 1000};
     saved.Clock.SecondPeriodDue = {false, true};
     saved.Clock.SecondPeriodArmed = {true, false};
@@ -41,7 +39,7 @@ ClockRecord UnderWay() {
 
 constexpr size_t Base = 4;  // the first slot behind the names of UnderWay
 
-SlotRecord RecordOf(const ClockRecord& saved) { return DecodeRecord(Bytes(EncodeClockRecord(saved))).slots; }
+SlotRecord RecordOf(const ClockRecord& saved) { return DecodeRecord(Bytes(EncodeClockRecord(saved))).Slots; }
 
 std::optional<GameFileError> Read(const SlotRecord& record, ClockRecord& saved) {
     return DecodeClockRecord(Bytes(EncodeRecord(record)), Settings(), saved);
@@ -72,15 +70,15 @@ TEST(ClockRecordTest, RoundTripKeepsEverythingAndTheLanguageInUse) {
     const std::string bytes = EncodeClockRecord(UnderWay());
     ASSERT_FALSE(DecodeClockRecord(Bytes(bytes), present, read));
     EXPECT_EQ(EncodeClockRecord(read), bytes);
-    EXPECT_EQ(read.Options.PeriodLimit, (std::array{90, 1200})) << "settings and clock agree";
+    EXPECT_EQ(read.Options.Control.PeriodLimit, (std::array{90, 1200})) << "settings and clock agree";
     EXPECT_EQ(read.Options.LanguageIndex, French);
 
     // Every second comes back, whatever its minutes are as a fraction.
     ClockRecord saved;
     for (int32_t seconds = 60; seconds < 20000; seconds += 7) {
-        saved.Clock.PeriodLimit.fill(seconds);
+        saved.Clock.Control.PeriodLimit.fill(seconds);
         ASSERT_FALSE(DecodeClockRecord(Bytes(EncodeClockRecord(saved)), present, read));
-        ASSERT_EQ(read.Clock.PeriodLimit[Black], seconds);
+        ASSERT_EQ(read.Clock.Control.PeriodLimit[Black], seconds);
     }
 }
 
@@ -94,23 +92,23 @@ TEST(ClockRecordTest, LongNamesAreCut) {
 
 TEST(ClockRecordTest, ProgressFollowsFromTheRestInAnEarlierForm) {
     struct Row {
-        const char* name;
-        std::array<int32_t, 2> counts;
-        int32_t runningTime;
-        bool started, turnFlag;
+        const char* Name;
+        std::array<int32_t, 2> Counts;
+        int32_t RunningTime;
+        bool Started, TurnFlag;
     };
     for (const Row& row : {Row{"never started", {0, 0}, 0, false, false}, Row{"White runs", {1, 0}, 60, true, true},
                            Row{"Black runs", {1, 1}, 60, true, false}, Row{"flag fallen", {3, 2}, 0, false, false}}) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         ClockRecord saved = UnderWay();
-        saved.Clock.MoveCount = row.counts;
-        saved.Clock.PlayerTime[saved.Clock.SideByCounts()] = row.runningTime;
+        saved.Clock.MoveCount = row.Counts;
+        saved.Clock.PlayerTime[saved.Clock.SideByCounts()] = row.RunningTime;
         SlotRecord record = RecordOf(saved);
         for (size_t slot = Base + 22; slot <= Base + 26; ++slot) record[slot] = SlotValue();
         ClockRecord read;
         ASSERT_FALSE(Read(record, read));
-        EXPECT_EQ(read.Clock.GameStarted, row.started);
-        EXPECT_EQ(read.Clock.TurnFlag, row.turnFlag);
+        EXPECT_EQ(read.Clock.GameStarted, row.Started);
+        EXPECT_EQ(read.Clock.TurnFlag, row.TurnFlag);
         EXPECT_TRUE(read.Clock.SecondPeriodArmed[White]);
         EXPECT_FALSE(read.Clock.SecondPeriodArmed[Black]) << "it is due";
         EXPECT_TRUE(read.ScorletLoaded);
@@ -119,58 +117,58 @@ TEST(ClockRecordTest, ProgressFollowsFromTheRestInAnEarlierForm) {
 
 TEST(ClockRecordTest, DamageIsNamedWithItsSlot) {
     struct Row {
-        const char* name;
-        size_t field;
-        SlotValue value;
-        Rule rule;
-        size_t named = 0;  // where another slot than the field is to blame
+        const char* Name;
+        size_t Field;
+        SlotValue Value;
+        Damage What;
+        size_t Named = 0;  // where another slot than the field is to blame
     };
     const Row rows[] = {
-        {"name too long", 0, int32_t{129}, Rule::OutOfRange},
-        {"name without end", 3, int32_t{5000}, Rule::OutOfRange},
-        {"no character", 1, 256.0, Rule::OutOfRange},
-        {"first period under a minute", Base, 59 / 60.0, Rule::OutOfRange},
-        {"time that is no number", Base + 1, std::numeric_limits<double>::quiet_NaN(), Rule::Overflow},
-        {"time past 32 bits", Base + 2, 1e9, Rule::Overflow},
-        {"negative second period", Base + 3, -1.0, Rule::OutOfRange},
-        {"negative bonus", Base + 4, int32_t{-1}, Rule::OutOfRange},
-        {"move amount below 1", Base + 11, int32_t{-1}, Rule::OutOfRange},
-        {"button sound", Base + 12, int32_t{5}, Rule::OutOfRange},
-        {"flag sound", Base + 13, int32_t{6}, Rule::OutOfRange},
-        {"negative time", Base + 15, int32_t{-1}, Rule::OutOfRange},
-        {"running side without time", Base + 14, int32_t{0}, Rule::NoTimeLeft},
-        {"negative count", Base + 18, int32_t{-1}, Rule::OutOfRange},
-        {"more moves than lines", Base + 18, int32_t{MostSavedMoves + 1}, Rule::OutOfRange},
-        {"counts out of step", Base + 19, int32_t{3}, Rule::CountsOutOfStep},
-        {"turn against the counts", Base + 22, false, Rule::TurnAgainstCounts},
-        {"turn against equal counts", Base + 19, int32_t{2}, Rule::TurnAgainstCounts, Base + 22},
+        {"name too long", 0, int32_t{129}, Damage::OutOfRange},
+        {"name without end", 3, int32_t{5000}, Damage::OutOfRange},
+        {"no character", 1, 256.0, Damage::OutOfRange},
+        {"first period under a minute", Base, 59 / 60.0, Damage::OutOfRange},
+        {"time that is no number", Base + 1, std::numeric_limits<double>::quiet_NaN(), Damage::Overflow},
+        {"time past 32 bits", Base + 2, 1e9, Damage::Overflow},
+        {"negative second period", Base + 3, -1.0, Damage::OutOfRange},
+        {"negative bonus", Base + 4, int32_t{-1}, Damage::OutOfRange},
+        {"move amount below 1", Base + 11, int32_t{-1}, Damage::OutOfRange},
+        {"button sound", Base + 12, int32_t{5}, Damage::OutOfRange},
+        {"flag sound", Base + 13, int32_t{6}, Damage::OutOfRange},
+        {"negative time", Base + 15, int32_t{-1}, Damage::OutOfRange},
+        {"running side without time", Base + 14, int32_t{0}, Damage::NoTimeLeft},
+        {"negative count", Base + 18, int32_t{-1}, Damage::OutOfRange},
+        {"more moves than lines", Base + 18, int32_t{MostSavedMoves + 1}, Damage::OutOfRange},
+        {"counts out of step", Base + 19, int32_t{3}, Damage::CountsOutOfStep},
+        {"turn against the counts", Base + 22, false, Damage::TurnAgainstCounts},
+        {"turn against equal counts", Base + 19, int32_t{2}, Damage::TurnAgainstCounts, Base + 22},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         SlotRecord record = RecordOf(UnderWay());
-        record[row.field] = row.value;
+        record[row.Field] = row.Value;
         ClockRecord read;
         const auto error = Read(record, read);
-        const auto slot = static_cast<int32_t>(row.named > 0 ? row.named : row.field);
-        EXPECT_EQ(error, (GameFileError{ClockFile, row.rule, slot}));
+        const auto slot = static_cast<int32_t>(row.Named > 0 ? row.Named : row.Field);
+        EXPECT_EQ(error, (GameFileError{ClockFile, row.What, slot}));
         EXPECT_EQ(read.Options.TurnClock, false) << "nothing is taken";
     }
 
     ClockRecord read;
     const std::string bytes = EncodeClockRecord(UnderWay());
     EXPECT_EQ(DecodeClockRecord(Bytes(bytes).first(bytes.size() - 1), Settings(), read),
-              (GameFileError{ClockFile, Rule::ShortRecord, 999}));
-    EXPECT_EQ(DecodeClockRecord(Bytes("PK\3\4"), Settings(), read), (GameFileError{ClockFile, Rule::UnknownTag, 0}));
+              (GameFileError{ClockFile, Damage::ShortFile, 999}));
+    EXPECT_EQ(DecodeClockRecord(Bytes("PK\3\4"), Settings(), read), (GameFileError{ClockFile, Damage::UnknownTag, 0}));
 }
 
 TEST(ClockRecordTest, CountingUpTheTimeUsedMayPassTheLimitByABonusOnly) {
     ClockRecord saved = UnderWay(), read;
-    saved.Clock.CountTimeDown = false;
+    saved.Clock.Control.CountTimeDown = false;
     saved.Clock.PlayerTime[White] = 95;
     EXPECT_FALSE(Read(RecordOf(saved), read)) << "a bonus was added, and no second has passed since";
-    saved.Clock.MoveBonus[White] = 0;
-    saved.Clock.SecondPeriodTime[White] = 60;
-    EXPECT_EQ(Read(RecordOf(saved), read)->rule, Rule::NoTimeLeft);
+    saved.Clock.Control.MoveBonus[White] = 0;
+    saved.Clock.Control.SecondPeriodTime[White] = 60;
+    EXPECT_EQ(Read(RecordOf(saved), read)->What, Damage::NoTimeLeft);
     saved.Clock.SecondPeriodDue[White] = true;
     EXPECT_FALSE(Read(RecordOf(saved), read)) << "the second period has been earned";
 }

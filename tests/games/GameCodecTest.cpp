@@ -4,18 +4,16 @@
 
 namespace {
 
-using Rule = GameFileError::Rule;
-
 // Files in memory, with the order in which they were asked for.
 struct Store {
-    GameFiles files;
-    std::string asked;
+    GameFiles Files;
+    std::string Asked;
 
     std::optional<GameFileError> Load(SavedGame& game) {
         const auto read = [&](GameFile file, size_t limit) -> std::optional<std::vector<uint8_t>> {
-            asked += ExtensionOf(file);
-            if (!files[file]) return std::nullopt;
-            const std::string bytes = files[file]->substr(0, limit);
+            Asked += ExtensionOf(file);
+            if (!Files[file]) return std::nullopt;
+            const std::string bytes = Files[file]->substr(0, limit);
             return std::vector<uint8_t>(bytes.begin(), bytes.end());
         };
         return DecodeGame(read, Settings(), game);
@@ -27,7 +25,7 @@ Store Saved(const Recorder* recorder, bool writePgn = true) {
     Settings settings;
     settings.WritePgn = writePgn;
     modClock::ClockState clock;
-    clock.PeriodLimit.fill(600);
+    clock.Control.PeriodLimit.fill(600);
     clock.PlayerTime = {300, 200};
     clock.MoveCount = {2, 1};
     clock.GameStarted = clock.TurnFlag = true;
@@ -53,11 +51,11 @@ Recorder Loaded(Store store) {
 
 TEST(GameCodecTest, PlayGoesOnAsIfTheGameHadNotBeenSaved) {
     for (const RealGame& real : RealGames()) {
-        SCOPED_TRACE(real.name);
+        SCOPED_TRACE(real.Name);
         Recorder played, reloaded;
-        for (size_t half = 0; half < real.moves.size(); ++half) {
-            Enter(played, real.moves[half]);
-            Enter(reloaded, real.moves[half]);
+        for (size_t half = 0; half < real.Moves.size(); ++half) {
+            Enter(played, real.Moves[half]);
+            Enter(reloaded, real.Moves[half]);
             if (half % 7 == 3) played.Declare(Declaration::Check, {}), reloaded.Declare(Declaration::Check, {});
             reloaded = Loaded(Saved(&reloaded, half % 2 == 0));
             ASSERT_EQ(StateText(reloaded), StateText(played)) << half;
@@ -95,16 +93,16 @@ TEST(GameCodecTest, FilesOfAnEarlierGameAreLeftAlone) {
     const Recorder recorder = Played("e2e4 e7e5 g1f3");
     SavedGame game;
     Store closed = Saved(nullptr);
-    EXPECT_FALSE(closed.files[DiagramFile] || closed.files[MovesFile] || closed.files[PgnFile]);
-    for (const GameFile file : {DiagramFile, MovesFile, PgnFile}) closed.files[file] = "of an earlier game";
+    EXPECT_FALSE(closed.Files[DiagramFile] || closed.Files[MovesFile] || closed.Files[PgnFile]);
+    for (const GameFile file : {DiagramFile, MovesFile, PgnFile}) closed.Files[file] = "of an earlier game";
     EXPECT_FALSE(closed.Load(game));
-    EXPECT_EQ(closed.asked, ".bin");
+    EXPECT_EQ(closed.Asked, ".bin");
     EXPECT_EQ(game.Clock.PlayerTime, (std::array{300, 200}));
     EXPECT_FALSE(game.Scorlet.MovesWritten());
 
     Store withoutPgn = Saved(&recorder, false);
-    EXPECT_FALSE(withoutPgn.files[PgnFile]);
-    withoutPgn.files[PgnFile] = "of an earlier game";
+    EXPECT_FALSE(withoutPgn.Files[PgnFile]);
+    withoutPgn.Files[PgnFile] = "of an earlier game";
     EXPECT_FALSE(withoutPgn.Load(game));
     EXPECT_EQ(game.Scorlet.RunningText() + game.Scorlet.PendingText(), "1. e4 e5 2. Nf3 ");
 }
@@ -113,7 +111,7 @@ TEST(GameCodecTest, EachCompanionMayBeMissing) {
     const Recorder recorder = Played("e2e4 e7e5 g1f3");
     const auto without = [&](std::initializer_list<GameFile> missing) {
         Store store = Saved(&recorder);
-        for (const GameFile file : missing) store.files[file].reset();
+        for (const GameFile file : missing) store.Files[file].reset();
         return StateText(Loaded(store));
     };
     EXPECT_EQ(without({PgnFile}), StateText(recorder));
@@ -125,29 +123,29 @@ TEST(GameCodecTest, EachCompanionMayBeMissing) {
 TEST(GameCodecTest, DamageIsNamedWithItsFileAndChangesNothing) {
     const Recorder recorder = Played("e2e4 e7e5 g1f3");
     struct Row {
-        const char* name;
-        GameFile file;
-        std::optional<std::string> bytes;
-        Rule rule;
+        const char* Name;
+        GameFile File;
+        std::optional<std::string> Bytes;
+        Damage What;
     };
     const Row rows[] = {
-        {"no clock", ClockFile, std::nullopt, Rule::ShortRecord},
-        {"long diagram", DiagramFile, std::string(300, ' '), Rule::TooLong},
-        {"empty moves", MovesFile, "", Rule::NoHead},
-        {"long moves", MovesFile, std::string(5 << 20, ' '), Rule::TooLong},
-        {"cut PGN", PgnFile, "[Event \"\"]\r\n", Rule::NoHead},
-        {"long PGN", PgnFile, std::string(5 << 20, ' '), Rule::TooLong},
+        {"no clock", ClockFile, std::nullopt, Damage::ShortFile},
+        {"long diagram", DiagramFile, std::string(300, ' '), Damage::TooLong},
+        {"empty moves", MovesFile, "", Damage::NoHead},
+        {"long moves", MovesFile, std::string(5 << 20, ' '), Damage::TooLong},
+        {"cut PGN", PgnFile, "[Event \"\"]\r\n", Damage::NoHead},
+        {"long PGN", PgnFile, std::string(5 << 20, ' '), Damage::TooLong},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         Store store = Saved(&recorder);
-        store.files[row.file] = row.bytes;
+        store.Files[row.File] = row.Bytes;
         SavedGame game;
         game.Scorlet = Played("d2d4");
         const auto error = store.Load(game);
         ASSERT_TRUE(error);
-        EXPECT_EQ(error->file, row.file);
-        EXPECT_EQ(error->rule, row.rule);
+        EXPECT_EQ(error->File, row.File);
+        EXPECT_EQ(error->What, row.What);
         EXPECT_EQ(game.Clock.MoveCount, (std::array{0, 0}));
         EXPECT_EQ(ListText(game.Scorlet.Lists()), "1. d4 / ");
     }

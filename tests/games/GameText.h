@@ -62,9 +62,9 @@ inline Recorder Played(const std::string& moves) {
 
 // The real games in tests/data, each as its moves without the result.
 struct RealGame {
-    std::string name;
-    std::vector<std::string> moves;
-    std::string result;
+    std::string Name;
+    std::vector<std::string> Moves;
+    std::string Result;
 };
 
 inline std::vector<RealGame> RealGames() {
@@ -75,9 +75,9 @@ inline std::vector<RealGame> RealGames() {
         for (std::string line; std::getline(file, line);) {
             std::istringstream stream(line);
             RealGame game{std::string(name) + " " + std::to_string(number++), {}, {}};
-            for (std::string word; stream >> word;) game.moves.push_back(word);
-            game.result = game.moves.back();
-            game.moves.pop_back();
+            for (std::string word; stream >> word;) game.Moves.push_back(word);
+            game.Result = game.Moves.back();
+            game.Moves.pop_back();
             games.push_back(game);
         }
     }

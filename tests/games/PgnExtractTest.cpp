@@ -17,8 +17,8 @@ std::string Contents(const std::string& path) {
 }
 
 struct Reading {
-    std::string moves;  // origin, destination and promotion letter, with the result at the end
-    std::string errors;
+    std::string Moves;  // origin, destination and promotion letter, with the result at the end
+    std::string Errors;
 };
 
 Reading ReadByExtract(const Recorder& recorder) {
@@ -35,7 +35,7 @@ Reading ReadByExtract(const Recorder& recorder) {
     Reading reading{{}, Contents(path + ".err")};
     for (std::string word; words >> word;) {
         std::ranges::transform(word, word.begin(), [](unsigned char letter) { return std::tolower(letter); });
-        reading.moves += word + " ";
+        reading.Moves += word + " ";
     }
     return reading;
 }
@@ -47,8 +47,8 @@ void EndWith(Recorder& recorder, const std::string& result) {
 }
 
 struct Intended {
-    const char* written;
-    const char* unambiguous;
+    const char* Written;
+    const char* Unambiguous;
 };
 
 }  // namespace
@@ -69,25 +69,25 @@ TEST(PgnExtractTest, EveryGameIsReadAsItWasPlayed) {
                      "0-1"});
     games.push_back({"under way", {"e2e4", "e7e5", "g1f3"}, "*"});
     for (const RealGame& game : games) {
-        SCOPED_TRACE(game.name);
+        SCOPED_TRACE(game.Name);
         Recorder recorder;
         std::string wanted;
-        for (const std::string& move : game.moves) {
+        for (const std::string& move : game.Moves) {
             Enter(recorder, move);
             wanted += move + " ";
         }
-        wanted += game.result + " ";
-        EndWith(recorder, game.result);
-        if (const auto exception = ambiguous.find(game.name); exception != ambiguous.end()) {
+        wanted += game.Result + " ";
+        EndWith(recorder, game.Result);
+        if (const auto exception = ambiguous.find(game.Name); exception != ambiguous.end()) {
             const auto& [half, texts] = exception->second;
             const Side side = half % 2 == 0 ? White : Black;
-            ASSERT_EQ(recorder.List(side).Entries()[half / 2].text, texts.written);
+            ASSERT_EQ(recorder.List(side).Entries()[half / 2].Text, texts.Written);
             const Reading reading = ReadByExtract(recorder);
-            EXPECT_TRUE(reading.moves != wanted || !reading.errors.empty()) << "no exception any more";
-            recorder.Edit(side, half / 2, texts.unambiguous);
+            EXPECT_TRUE(reading.Moves != wanted || !reading.Errors.empty()) << "no exception any more";
+            recorder.Edit(side, half / 2, texts.Unambiguous);
         }
         const Reading reading = ReadByExtract(recorder);
-        EXPECT_EQ(reading.moves, wanted);
-        EXPECT_EQ(reading.errors, "");
+        EXPECT_EQ(reading.Moves, wanted);
+        EXPECT_EQ(reading.Errors, "");
     }
 }

@@ -34,13 +34,12 @@ TEST(PgnTest, TextAndResultAreWrittenAndComeBack) {
 }
 
 TEST(PgnTest, DamagedFilesAreRefused) {
-    using Rule = GameFileError::Rule;
     const std::string whole = File("1. e4 *", "*");
     std::string text = "kept";
-    for (const auto& [bytes, rule] : {std::pair{std::string(), Rule::NoHead},
-                                      {Lines, Rule::NoHead},
-                                      {whole.substr(0, whole.size() - 1), Rule::EndsEarly},
-                                      {whole.substr(0, whole.size() - 9), Rule::EndsEarly}}) {
+    for (const auto& [bytes, rule] : {std::pair{std::string(), Damage::NoHead},
+                                      {Lines, Damage::NoHead},
+                                      {whole.substr(0, whole.size() - 1), Damage::EndsEarly},
+                                      {whole.substr(0, whole.size() - 9), Damage::EndsEarly}}) {
         EXPECT_EQ(DecodePgn(bytes, text), (GameFileError{PgnFile, rule, static_cast<int32_t>(bytes.size())}));
         EXPECT_EQ(text, "kept");
     }

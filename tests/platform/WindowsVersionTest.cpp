@@ -4,8 +4,8 @@
 
 TEST(WindowsVersionTest, NamesByPlatformAndNumbers) {
     struct Row {
-        uint32_t platform, major, minor;
-        const char* osName;
+        uint32_t Platform, Major, Minor;
+        const char* OsName;
     };
     const Row rows[] = {
         {0, 9, 9, "WIN32S"},         {1, 4, 0, "WINDOWS95"},    {1, 4, 9, "WINDOWS95"},   {1, 4, 10, "WINDOWS98"},
@@ -15,7 +15,7 @@ TEST(WindowsVersionTest, NamesByPlatformAndNumbers) {
         {3, 5, 1, "NONE"},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.platform << ' ' << row.major << '.' << row.minor);
-        EXPECT_EQ(OsNameOf(WindowsVersionName(row.platform, row.major, row.minor)), row.osName);
+        SCOPED_TRACE(testing::Message() << row.Platform << ' ' << row.Major << '.' << row.Minor);
+        EXPECT_EQ(OsNameOf(WindowsVersionName(row.Platform, row.Major, row.Minor)), row.OsName);
     }
 }

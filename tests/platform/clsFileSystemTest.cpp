@@ -23,23 +23,23 @@ class clsFileSystemTest : public testing::Test {
 
 TEST_F(clsFileSystemTest, FoldersAndFiles) {
     const std::wstring sub = folder.Path() + L"sub";
-    EXPECT_FALSE(fileSystem.FolderExists(sub).result);
+    EXPECT_FALSE(fileSystem.FolderExists(sub).Result);
     EXPECT_EQ(fileSystem.CreateFolder(sub), S_OK);
-    EXPECT_TRUE(fileSystem.FolderExists(sub).result);
+    EXPECT_TRUE(fileSystem.FolderExists(sub).Result);
     EXPECT_TRUE(FAILED(fileSystem.CreateFolder(sub))) << "there already";
     WriteFileText(folder.Path() + L"b.txt", "x");
     WriteFileText(folder.Path() + L"a.txt", "x");
-    EXPECT_TRUE(fileSystem.FileExists(folder.Path() + L"a.txt").result);
-    EXPECT_FALSE(fileSystem.FileExists(sub).result) << "a folder is no file";
+    EXPECT_TRUE(fileSystem.FileExists(folder.Path() + L"a.txt").Result);
+    EXPECT_FALSE(fileSystem.FileExists(sub).Result) << "a folder is no file";
     auto files = fileSystem.FileNames(folder.Path());
-    std::sort(files.result.begin(), files.result.end());
-    EXPECT_EQ(files.result, (std::vector<std::wstring>{L"a.txt", L"b.txt"}));
-    EXPECT_EQ(fileSystem.SubfolderNames(folder.Path()).result, std::vector<std::wstring>{L"sub"});
-    EXPECT_TRUE(FAILED(fileSystem.FileNames(folder.Path() + L"none").status));
+    std::sort(files.Result.begin(), files.Result.end());
+    EXPECT_EQ(files.Result, (std::vector<std::wstring>{L"a.txt", L"b.txt"}));
+    EXPECT_EQ(fileSystem.SubfolderNames(folder.Path()).Result, std::vector<std::wstring>{L"sub"});
+    EXPECT_TRUE(FAILED(fileSystem.FileNames(folder.Path() + L"none").Status));
     EXPECT_EQ(fileSystem.DeleteFolder(sub), S_OK);
     EXPECT_FALSE(Exists(sub));
-    EXPECT_TRUE(fileSystem.DriveExists(L"C:").result);
-    EXPECT_FALSE(fileSystem.DriveExists(L"Q:").result);
+    EXPECT_TRUE(fileSystem.DriveExists(L"C:").Result);
+    EXPECT_FALSE(fileSystem.DriveExists(L"Q:").Result);
 }
 
 TEST_F(clsFileSystemTest, DatesOrTheReasonWhyThereIsNone) {
@@ -49,12 +49,12 @@ TEST_F(clsFileSystemTest, DatesOrTheReasonWhyThereIsNone) {
     DATE today = 0;
     SystemTimeToVariantTime(&now, &today);
     const auto date = fileSystem.FileDate(folder.Path() + L"a.txt", clsFileSystem::DateKind::LastModified);
-    ASSERT_EQ(date.status, S_OK);
-    EXPECT_NEAR(date.result, today, 1.1) << "days";
-    EXPECT_TRUE(FAILED(fileSystem.FileDate(folder.Path() + L"none", clsFileSystem::DateKind::Created).status));
+    ASSERT_EQ(date.Status, S_OK);
+    EXPECT_NEAR(date.Result, today, 1.1) << "days";
+    EXPECT_TRUE(FAILED(fileSystem.FileDate(folder.Path() + L"none", clsFileSystem::DateKind::Created).Status));
     // Not every system's object knows the dates of folders; what it cannot tell it says in the status.
     const auto folderDate = fileSystem.FolderDate(folder.Path(), clsFileSystem::DateKind::Created);
-    EXPECT_TRUE(FAILED(folderDate.status) || folderDate.result > today - 1.1);
+    EXPECT_TRUE(FAILED(folderDate.Status) || folderDate.Result > today - 1.1);
 }
 
 TEST_F(clsFileSystemTest, LogTakesItsStatusAndTextAndStaysSilentWithoutItsFolder) {

@@ -19,8 +19,8 @@ std::string Codes(const Board& board, const std::vector<std::string>& squares) {
 
 TEST(BoardTest, KindsOfMovesAreToldByTheSquaresAlone) {
     struct Row {
-        const char *name, *pieces, *origin, *destination;
-        MoveKind kind;
+        const char *Name, *Pieces, *Origin, *Destination;
+        MoveKind Kind;
     };
     const Row rows[] = {
         {"own piece", "WPe4 WPd5", "e4", "d5", MoveKind::Capture},
@@ -43,8 +43,8 @@ TEST(BoardTest, KindsOfMovesAreToldByTheSquaresAlone) {
         {"queen on the king's squares", "WQe1 WRh1", "e1", "g1", MoveKind::Ordinary},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(Position(row.pieces).Classify(At(row.origin), At(row.destination)).kind, row.kind);
+        SCOPED_TRACE(row.Name);
+        EXPECT_EQ(Position(row.Pieces).Classify(At(row.Origin), At(row.Destination)).Kind, row.Kind);
     }
 }
 

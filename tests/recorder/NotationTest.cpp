@@ -16,7 +16,7 @@ std::string Written(const char* pieces, const char* origin, const char* destinat
 
 TEST(NotationTest, MovesInShortAndLongForm) {
     struct Row {
-        const char *pieces, *origin, *destination, *shortForm, *longForm;
+        const char *Pieces, *Origin, *Destination, *ShortForm, *LongForm;
     };
     const Row rows[] = {
         {"WPe2", "e2", "e4", "e4", "e2-e4"},
@@ -28,14 +28,14 @@ TEST(NotationTest, MovesInShortAndLongForm) {
         {"BKe8 BRa8", "e8", "c8", "O-O-O", "O-O-O"},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(Written(row.pieces, row.origin, row.destination), row.shortForm);
-        EXPECT_EQ(Written(row.pieces, row.origin, row.destination, true), row.longForm);
+        EXPECT_EQ(Written(row.Pieces, row.Origin, row.Destination), row.ShortForm);
+        EXPECT_EQ(Written(row.Pieces, row.Origin, row.Destination, true), row.LongForm);
     }
 }
 
 TEST(NotationTest, DisambiguationIsTheFileOfTheOrigin) {
     struct Row {
-        const char *name, *pieces, *origin, *destination, *written;
+        const char *Name, *Pieces, *Origin, *Destination, *Written;
     };
     const Row rows[] = {
         {"two rooks on a rank", "WRa1 WRh1", "a1", "d1", "Rad1"},
@@ -55,12 +55,12 @@ TEST(NotationTest, DisambiguationIsTheFileOfTheOrigin) {
         {"never the mover itself there", "WNa2 WNe3", "e3", "c4", "Nec4"},
         {"kings and pawns never", "WKe1 WKg1", "e1", "f1", "Kf1"},
     };
-    for (const Row& row : rows) EXPECT_EQ(Written(row.pieces, row.origin, row.destination), row.written) << row.name;
+    for (const Row& row : rows) EXPECT_EQ(Written(row.Pieces, row.Origin, row.Destination), row.Written) << row.Name;
 }
 
 TEST(NotationTest, TypedMovesArePutRight) {
     struct Row {
-        const char *typed, *normal;
+        const char *Typed, *Normal;
     };
     const Row rows[] = {
         {"", "\?\?-\?\?"}, {"   ", "\?\?-\?\?"}, {" nf3 ", "Nf3"},     {"qxd5+", "Qxd5+"},
@@ -68,5 +68,5 @@ TEST(NotationTest, TypedMovesArePutRight) {
         {"B4", "b4"},      {"bc4", "Bc4"},       {"Bxc6", "Bxc6"},     {"bb4", "Bb4"},
         {"NBd2", "Nbd2"},  {"axb8=b", "axb8=B"}, {"e4!?", "e4!?"},     {"Qa1xb2+xx", "Qa1xb2+x"},
     };
-    for (const Row& row : rows) EXPECT_EQ(NormaliseMove(row.typed), row.normal) << row.typed;
+    for (const Row& row : rows) EXPECT_EQ(NormaliseMove(row.Typed), row.Normal) << row.Typed;
 }

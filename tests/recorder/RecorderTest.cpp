@@ -38,7 +38,7 @@ TEST_F(RecorderTest, PressesAddTheLineOfTheMoveThatBegins) {
     EXPECT_FALSE(recorder.AddLineForPress(false, Black)) << "the line is there";
     EXPECT_EQ(Lists(), "1. e4 / 1. " + Waiting);
     Play("e7e5");
-    EXPECT_EQ(recorder.AddLineForPress(false, White)->index, 1u);
+    EXPECT_EQ(recorder.AddLineForPress(false, White)->Index, 1u);
     EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + " / e5");
     EXPECT_EQ(Text(), "1. e4 <e5 >");
     Declare(Declaration::Draw);
@@ -95,7 +95,7 @@ TEST_F(RecorderTest, PromotionCanBeChosenAgainUntilTheNextMove) {
     Declare(Declaration::Check);
     recorder.Promote(PieceKind::Queen);
     recorder.Promote(PieceKind::Knight);
-    EXPECT_EQ(recorder.List(White).Entries().back().text, "bxa8=N+");
+    EXPECT_EQ(recorder.List(White).Entries().back().Text, "bxa8=N+");
     EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WN");
     EXPECT_EQ(recorder.PendingText(), "5. bxa8=N+ ");
     Declare(Declaration::Mate);

@@ -11,13 +11,13 @@ TEST(ScorletLayoutTest, NothingOverlapsOrLeavesTheWindowAtAnySize) {
     for (const auto& [width, height, dpi] : sizes) {
         SCOPED_TRACE(testing::Message() << width << " x " << height << ", " << dpi << " dpi");
         const ScorletLayout layout = LayOutScorlet(width, height, dpi);
-        std::vector<Box> boxes{layout.board, layout.capturedTitle, layout.sayLabel,      layout.say,
-                               layout.edit,  layout.editOk,        layout.promotionTitle};
-        for (const auto* pair : {&layout.capturedRows, &layout.lists})
+        std::vector<Box> boxes{layout.Board, layout.CapturedTitle, layout.SayLabel,      layout.Say,
+                               layout.Edit,  layout.EditOk,        layout.PromotionTitle};
+        for (const auto* pair : {&layout.CapturedRows, &layout.Lists})
             boxes.insert(boxes.end(), pair->begin(), pair->end());
-        boxes.insert(boxes.end(), layout.promotion.begin(), layout.promotion.end());
+        boxes.insert(boxes.end(), layout.Promotion.begin(), layout.Promotion.end());
         ExpectApartInside(boxes, {0, 0, width, height});
-        EXPECT_LE(layout.Cell(8, 1).Right(), layout.board.Right());
-        EXPECT_LE(layout.slot * 15, layout.board.width);
+        EXPECT_LE(layout.Cell(8, 1).Right(), layout.Board.Right());
+        EXPECT_LE(layout.Slot * 15, layout.Board.Width);
     }
 }

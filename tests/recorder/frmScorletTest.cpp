@@ -41,7 +41,7 @@ class frmScorletTest : public testing::TestWithParam<int32_t> {
 };
 
 struct Names {
-    const wchar_t *empty, *list, *picked, *moved, *captured, *board;
+    const wchar_t *Empty, *List, *Picked, *Moved, *Captured, *Board;
 };
 const Names rows[] = {
     {L"e5, boş", L"Siyah, hamleler", L"e2, beyaz piyon, seçili", L"e7, beyaz piyon, son hamle", L"siyah piyon",
@@ -73,16 +73,16 @@ TEST_P(frmScorletTest, ScreenReadersNameEveryControlInReadingOrder) {
         ExpectReadingOrder(form.Window());
     };
     expectAll();
-    EXPECT_EQ(Name(picBoard + 55), names.empty);
-    EXPECT_EQ(Name(lstMoves + 1), names.list);
+    EXPECT_EQ(Name(picBoard + 55), names.Empty);
+    EXPECT_EQ(Name(lstMoves + 1), names.List);
     Key(VK_RETURN);
-    EXPECT_EQ(Name(picBoard + 52), names.picked);
+    EXPECT_EQ(Name(picBoard + 52), names.Picked);
     for (int i = 0; i < 5; ++i) Key(VK_UP);
     Key(VK_RETURN);
-    EXPECT_EQ(Name(picBoard + 57), names.moved);
-    EXPECT_EQ(Name(imgCapturedBP), names.captured);
+    EXPECT_EQ(Name(picBoard + 57), names.Moved);
+    EXPECT_EQ(Name(imgCapturedBP), names.Captured);
     Key(VK_INSERT);
-    EXPECT_EQ(Name(picBoard), names.board);
+    EXPECT_EQ(Name(picBoard), names.Board);
     form.Record().Play(SquareAt(5, 7), SquareAt(5, 8));
     form.ShowRecord();
     for (const int id : {int{txtMove}, int{cmdOK}}) form.SetVisible(id, true);

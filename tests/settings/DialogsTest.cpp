@@ -46,7 +46,7 @@ TEST_P(DialogsTest, SetupTextsFitInEveryClockType) {
     for (int32_t type = 0; type < 4; ++type) {
         SCOPED_TRACE(type);
         settings.SetClockType(type);
-        settings.MovesFirstPeriod = 100;
+        settings.Control.MovesFirstPeriod = 100;
         frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});
         setup.Open(nullptr);
         ExpectWellMade(setup.Window());
@@ -68,10 +68,10 @@ TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
     struct : GameHost {
         GameFiles FilesOfGame() override { return {}; }
         void GameSaved() override {}
-        const Settings& PresentSettings() const override { return settings; }
+        const Settings& PresentSettings() const override { return Settings; }
         void TakeGame(const std::wstring&, SavedGame&) override {}
         void OpenHelp(HWND) override {}
-        Settings settings;
+        Settings Settings;
     } host;
     const GameStore games(folder.Path());
     for (FilesMode mode : {FilesMode::Load, FilesMode::Save, FilesMode::Delete}) {
@@ -83,7 +83,7 @@ TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
 
 TEST_P(DialogsTest, SetupNamesItsBarsByWhatTheySet) {
     struct Names {
-        const wchar_t *first, *bonus, *language, *preview;
+        const wchar_t *First, *Bonus, *Language, *Preview;
     };
     const Names rows[] = {
         {L"İlk 40 hamlenin süresi, Beyaz, 20 dakika", L"Hamle başına ek süre, Siyah, 7 saniye", L"DİL",
@@ -95,13 +95,13 @@ TEST_P(DialogsTest, SetupNamesItsBarsByWhatTheySet) {
     };
     const Names& names = rows[GetParam() - 1];
     settings.SetClockType(2);
-    settings.MoveBonus = {7, 7};
+    settings.Control.MoveBonus = {7, 7};
     frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});
     setup.Open(nullptr);
-    EXPECT_EQ(SpokenName(setup.Control(hsbFirstPeriod)), names.first);
-    EXPECT_EQ(SpokenName(setup.Control(hsbBonus + 1)), names.bonus);
-    EXPECT_EQ(SpokenName(setup.Control(cmbLanguage)), names.language);
-    EXPECT_EQ(SpokenName(setup.Control(cmdPreviewFlag)), names.preview);
+    EXPECT_EQ(SpokenName(setup.Control(hsbFirstPeriod)), names.First);
+    EXPECT_EQ(SpokenName(setup.Control(hsbBonus + 1)), names.Bonus);
+    EXPECT_EQ(SpokenName(setup.Control(cmbLanguage)), names.Language);
+    EXPECT_EQ(SpokenName(setup.Control(cmdPreviewFlag)), names.Preview);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DialogsTest, testing::Values(Turkish, English, French));

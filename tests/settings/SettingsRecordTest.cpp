@@ -13,15 +13,15 @@ namespace {
 Settings Unusual() {
     Settings settings;
     settings.PlayerNames = {"Ana\xF1", ""};
-    settings.PeriodLimit = {60, 10800};
-    settings.SecondPeriodTime = {0, 600};
-    settings.MoveBonus = {3599, 7};
-    settings.CountTimeDown = false;
+    settings.Control.PeriodLimit = {60, 10800};
+    settings.Control.SecondPeriodTime = {0, 600};
+    settings.Control.MoveBonus = {3599, 7};
+    settings.Control.CountTimeDown = false;
     settings.TurnClock = true;
     settings.ShowMoveNumber = false;
     settings.SetClockType(2);
     settings.OpenScorletAtStart = false;
-    settings.MovesFirstPeriod = 1;
+    settings.Control.MovesFirstPeriod = 1;
     settings.SetButtonSound(4);
     settings.SetFlagSound(5);
     settings.WritePgn = true;
@@ -39,9 +39,9 @@ TEST(SettingsRecordTest, RoundTripKeepsEverything) {
     EXPECT_FALSE(DecodeSettings({record, {}}, read));
     read.LanguageIndex = DecodeLanguage(record);
     EXPECT_EQ(EncodeSettings(read), record);
-    EXPECT_EQ(read.PeriodLimit, (std::array{60, 10800}));
-    EXPECT_TRUE(read.SecondPeriodEnabled && read.TurnClock && read.WritePgn);
-    EXPECT_FALSE(read.CountTimeDown || read.ShowMoveNumber || read.OpenScorletAtStart);
+    EXPECT_EQ(read.Control.PeriodLimit, (std::array{60, 10800}));
+    EXPECT_TRUE(read.Control.SecondPeriodEnabled && read.TurnClock && read.WritePgn);
+    EXPECT_FALSE(read.Control.CountTimeDown || read.ShowMoveNumber || read.OpenScorletAtStart);
 }
 
 TEST(SettingsRecordTest, FieldsFollowTheNames) {
@@ -63,10 +63,10 @@ TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
     record[11] = SlotValue();  // clock type 0
     Settings read;
     EXPECT_FALSE(DecodeSettings({record, {}}, read));
-    EXPECT_EQ(read.PeriodLimit[White], 1800);
-    EXPECT_TRUE(read.CountTimeDown);
+    EXPECT_EQ(read.Control.PeriodLimit[White], 1800);
+    EXPECT_TRUE(read.Control.CountTimeDown);
     EXPECT_EQ(read.ClockType, 0);
-    EXPECT_FALSE(read.SecondPeriodEnabled);
+    EXPECT_FALSE(read.Control.SecondPeriodEnabled);
     record[300] = SlotValue();
     EXPECT_EQ(DecodeLanguage(record), English);
     record[300] = 3.0;
@@ -74,44 +74,43 @@ TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
 }
 
 TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
-    using Rule = RecordError::Rule;
     struct Row {
-        const char* name;
-        int32_t slot;
-        SlotValue value;
-        Rule rule;
+        const char* Name;
+        int32_t Slot;
+        SlotValue Value;
+        Damage What;
     };
     const Row rows[] = {
-        {"negative name length", 0, int32_t{-1}, Rule::OutOfRange},
-        {"name into the language's slot", 0, int32_t{285}, Rule::OutOfRange},
-        {"first period of no minute", 2, int32_t{0}, Rule::OutOfRange},
-        {"first period too long for seconds", 3, int32_t{Most / 60 + 1}, Rule::Overflow},
-        {"negative second period", 4, int32_t{-1}, Rule::OutOfRange},
-        {"negative bonus", 7, int32_t{-1}, Rule::OutOfRange},
-        {"bonus that is no 32-bit number", 7, 1e10, Rule::Overflow},
-        {"bonus that is no number", 7, std::nan(""), Rule::Overflow},
-        {"move amount below 1", 13, int32_t{-1}, Rule::OutOfRange},
-        {"move amount that cannot grow", 13, Most, Rule::OutOfRange},
-        {"button sound", 14, int32_t{5}, Rule::OutOfRange},
-        {"flag sound", 15, int32_t{6}, Rule::OutOfRange},
+        {"negative name length", 0, int32_t{-1}, Damage::OutOfRange},
+        {"name into the language's slot", 0, int32_t{285}, Damage::OutOfRange},
+        {"first period of no minute", 2, int32_t{0}, Damage::OutOfRange},
+        {"first period too long for seconds", 3, int32_t{Most / 60 + 1}, Damage::Overflow},
+        {"negative second period", 4, int32_t{-1}, Damage::OutOfRange},
+        {"negative bonus", 7, int32_t{-1}, Damage::OutOfRange},
+        {"bonus that is no 32-bit number", 7, 1e10, Damage::Overflow},
+        {"bonus that is no number", 7, std::nan(""), Damage::Overflow},
+        {"move amount below 1", 13, int32_t{-1}, Damage::OutOfRange},
+        {"move amount that cannot grow", 13, Most, Damage::OutOfRange},
+        {"button sound", 14, int32_t{5}, Damage::OutOfRange},
+        {"flag sound", 15, int32_t{6}, Damage::OutOfRange},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.Name);
         SlotRecord record = EncodeSettings(Settings());
-        record[static_cast<size_t>(row.slot)] = row.value;
+        record[static_cast<size_t>(row.Slot)] = row.Value;
         Settings read;
         const auto error = DecodeSettings({record, {}}, read);
         ASSERT_TRUE(error);
-        EXPECT_EQ(error->slot, row.slot);
-        EXPECT_EQ(error->rule, row.rule);
+        EXPECT_EQ(error->Slot, row.Slot);
+        EXPECT_EQ(error->What, row.What);
     }
 
-    const RecordError cut{RecordError::Rule::ShortFile, 18};
+    const RecordError cut{Damage::ShortFile, 18};
     Settings readOfCut;
     const auto error = DecodeSettings({EncodeSettings(Unusual()), cut}, readOfCut);
     ASSERT_TRUE(error);
-    EXPECT_EQ(error->slot, 18);
-    EXPECT_EQ(readOfCut.MoveBonus, Unusual().MoveBonus) << "what was read before it stays";
+    EXPECT_EQ(error->Slot, 18);
+    EXPECT_EQ(readOfCut.Control.MoveBonus, Unusual().Control.MoveBonus) << "what was read before it stays";
     EXPECT_EQ(readOfCut.ButtonSoundIndex, 1) << "what comes behind it is as it was";
 }
 

@@ -31,19 +31,19 @@ TEST(SlotRecordTest, BytesAreLittleEndianTagsAndValues) {
 
     const std::string withTail = bytes + "an older, longer record's tail";
     const DecodedRecord read = DecodeRecord(Bytes(withTail));
-    EXPECT_FALSE(read.error);
-    EXPECT_EQ(read.slots, Mixed());
+    EXPECT_FALSE(read.Error);
+    EXPECT_EQ(read.Slots, Mixed());
 }
 
 TEST(SlotRecordTest, CutAtEveryLengthIsAnErrorAndKeepsTheSlotsBefore) {
     const std::string bytes = EncodeRecord(Mixed());
     for (size_t length = 0; length < bytes.size(); ++length) {
         const DecodedRecord read = DecodeRecord(Bytes(bytes).first(length));
-        ASSERT_TRUE(read.error) << length;
-        ASSERT_EQ(read.error->rule, RecordError::Rule::ShortFile) << length;
-        const auto good = static_cast<size_t>(read.error->slot);
+        ASSERT_TRUE(read.Error) << length;
+        ASSERT_EQ(read.Error->What, Damage::ShortFile) << length;
+        const auto good = static_cast<size_t>(read.Error->Slot);
         SlotRecord wanted = Mixed();
         std::fill(wanted.begin() + static_cast<std::ptrdiff_t>(good), wanted.end(), SlotValue());
-        ASSERT_EQ(read.slots, wanted) << length;
+        ASSERT_EQ(read.Slots, wanted) << length;
     }
 }

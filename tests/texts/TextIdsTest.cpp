@@ -9,9 +9,9 @@
 namespace {
 
 struct Row {
-    const char* name;
-    int32_t identifier;
-    std::string texts[3];
+    const char* Name;
+    int32_t Identifier;
+    std::string Texts[3];
 };
 
 const Row Rows[] = {
@@ -34,13 +34,13 @@ size_t Count(const std::string& text, const std::string& part) {
 
 TEST(TextIdsTest, EveryRowHasEveryLanguage) {
     for (const Row& row : Rows) {
-        for (const std::string& text : row.texts) {
-            EXPECT_FALSE(text.empty()) << row.name;
+        for (const std::string& text : row.Texts) {
+            EXPECT_FALSE(text.empty()) << row.Name;
             // Turkish puts the word before the name where the others put it behind: one blank stands in for it.
-            const bool mayBeBlank = row.identifier == static_cast<int32_t>(TextId::GameBefore) && &text == row.texts;
-            EXPECT_EQ(Blank(text), mayBeBlank) << row.name;
+            const bool mayBeBlank = row.Identifier == static_cast<int32_t>(TextId::GameBefore) && &text == row.Texts;
+            EXPECT_EQ(Blank(text), mayBeBlank) << row.Name;
             for (const char* part : {"%1", "%2", "&&", "::", "[Ctrl+"})
-                EXPECT_EQ(Count(text, part), Count(row.texts[English - 1], part)) << row.name << ": " << text;
+                EXPECT_EQ(Count(text, part), Count(row.Texts[English - 1], part)) << row.Name << ": " << text;
         }
     }
 }
@@ -49,8 +49,8 @@ TEST(TextIdsTest, IdentifiersAreTakenOnce) {
     std::map<int32_t, const char*> taken;
     for (const Row& row : Rows) {
         for (int32_t language = Turkish; language <= French; ++language) {
-            const auto [place, isNew] = taken.emplace(row.identifier + language, row.name);
-            EXPECT_TRUE(isNew) << row.name << " and " << place->second << ": " << row.identifier + language;
+            const auto [place, isNew] = taken.emplace(row.Identifier + language, row.Name);
+            EXPECT_TRUE(isNew) << row.Name << " and " << place->second << ": " << row.Identifier + language;
         }
     }
 }
