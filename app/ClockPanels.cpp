@@ -4,6 +4,7 @@
 #include "platform/Ansi.h"
 #include "platform/modResource.h"
 #include "resources/resource.h"
+#include "settings/ShownName.h"
 
 #include <array>
 
@@ -28,9 +29,7 @@ void ClockPanels::Create() {
             form.AddControl(kind, ControlOf(pair, side), style);
         };
         // The order is the reading and the tab order; a label comes before what it names.
-        const auto addMark = [&](int mark) {
-            form.AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW);
-        };
+        const auto addMark = [&](int mark) { form.AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW); };
         addMark(0);
         add(WC_STATICW, lblSide, text);
         add(WC_STATICW, lblBlink, text | SS_RIGHT);
@@ -94,7 +93,7 @@ void ClockPanels::ArrangePanel(Side side) {
         if (font) SendMessageW(form.Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         move(id, box);
     };
-    place(lblSide, panel.Name, painter.NameFont(side, NameOf(side), panel.Name.Width));
+    place(lblSide, panel.Name, painter.NameFont(side, ShownName(settings, texts, side), panel.Name.Width));
     place(lblBlink, panel.Blink, painter.BlinkFont());
     place(lblFace, panel.Face);
     place(imgFlagUp, panel.Flag);
@@ -120,11 +119,6 @@ void ClockPanels::ArrangePanel(Side side) {
     tip(lblBonusTime, panel.BonusTime, TextId::TipMinutesSeconds);
 }
 
-std::wstring ClockPanels::NameOf(Side side) const {
-    const std::string& name = settings.PlayerNames[side];
-    return name.empty() ? texts(side == White ? TextId::White : TextId::Black) : FromAnsi(name);
-}
-
 int32_t ClockPanels::PeriodTime(Side side) const {
     return settings.Control.SecondPeriodEnabled ? settings.Control.SecondPeriodTime[side]
                                                 : settings.Control.PeriodLimit[side];
@@ -138,7 +132,7 @@ void ClockPanels::ShowSettings() {
         second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime);
     for (Side side : BothSides) {
         const int32_t bonus = settings.Control.MoveBonus[side];
-        form.SetText(ControlOf(lblSide, side), NameOf(side));
+        form.SetText(ControlOf(lblSide, side), ShownName(settings, texts, side));
         form.SetText(ControlOf(lblPeriod, side), caption);
         form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side))));
         form.SetText(ControlOf(lblBonusTime, side), FromAnsi(MinutesSecondsText(bonus)));
@@ -157,13 +151,6 @@ void ClockPanels::ShowFace(Side side) {
     RedrawWindow(face, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
-void ClockPanels::ShowMoveNumbers() {
-    for (Side side : BothSides) {
-        const int32_t count = commands.Clock().State().MoveCount[side];
-        form.SetText(ControlOf(lblMoveCount, side), std::to_wstring(count) + L".");
-    }
-}
-
 void ClockPanels::ShowPhase() {
     for (Side side : BothSides) {
         for (int mark = 0; mark < TurnMarksPerSide; ++mark)
@@ -174,6 +161,8 @@ void ClockPanels::ShowPhase() {
         form.SetEnabled(ControlOf(cmdClock, side), commands.ClockButtonEnabled(side));
         form.SetEnabled(ControlOf(cmdPause, side), commands.PauseButtonEnabled(side));
         form.SetText(ControlOf(lblBlink, side), L"");
+        const int32_t moves = commands.Clock().State().MoveCount[side];
+        form.SetText(ControlOf(lblMoveCount, side), std::to_wstring(moves) + L".");
         // What says nothing should not be there for a screen reader.
         form.SetVisible(ControlOf(lblBlink, side), commands.BlinkingSide() == side);
     }
@@ -197,9 +186,7 @@ TextId ClockPanels::BlinkRow() const {
 std::wstring ClockPanels::SpokenName(int id) const {
     const auto [pair, side] = PlaceOf(id);
     const bool fallen = commands.FlagFallen(side);
-    const auto of = [&, side = side](const std::wstring& text) {
-        return texts.SideName(side) + L", " + text;
-    };
+    const auto of = [&, side = side](const std::wstring& text) { return texts.SideName(side) + L", " + text; };
     switch (pair) {
         case lblFace: {
             const modClock::ClockState& state = commands.Clock().State();

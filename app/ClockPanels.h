@@ -37,12 +37,8 @@ class ClockPanels {
     // The window has a size, perhaps another one than it had.
     void TakeSize();
 
-    // The name that the panel of a side shows.
-    std::wstring NameOf(Side side) const;
-
     void ShowSettings();
     void ShowFace(Side side);
-    void ShowMoveNumbers();
     void ShowPhase();
 
     // What screen readers say of a control, where it is not its text.

@@ -6,15 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-ClockScorlet::ClockScorlet(const Form& clock, ClockCommands& commands, const Texts& texts,
-                           const MessageBoxes& messageBoxes, std::function<void()> changed, std::function<void()> print)
-    : clock(clock),
-      commands(commands),
-      texts(texts),
-      messageBoxes(messageBoxes),
-      changed(std::move(changed)),
-      print(std::move(print)) {}
-
 void ClockScorlet::Show() {
     if (scorlet) {
         if (IsIconic(scorlet->Window())) ShowWindow(scorlet->Window(), SW_RESTORE);
@@ -22,17 +13,15 @@ void ClockScorlet::Show() {
         return;
     }
     const std::wstring problem = Open();
-    if (!problem.empty()) messageBoxes.Inform(scorlet->Window(), problem);
+    if (!problem.empty()) around.Boxes.Inform(scorlet->Window(), problem);
 }
 
 std::wstring ClockScorlet::Open() {
     if (scorlet) return {};
     const RECT place = PlaceBeside();
-    ScorletHost& host = *this;
-    auto opened = std::make_unique<frmScorlet>(host, texts, messageBoxes);
+    auto opened = std::make_unique<frmScorlet>(around, game, clock.Window());
     std::wstring problem = opened->Open(place);
     scorlet = std::move(opened);
-    changed();
     return problem;
 }
 
@@ -69,37 +58,13 @@ RECT ClockScorlet::PlaceBeside() const {
     return {left, top, left + width, top + height};
 }
 
-void ClockScorlet::CloseScorlet() {
+void ClockScorlet::Close() {
     if (!scorlet) return;
-    if (!messageBoxes.Ask(scorlet->Window(), texts(TextId::CloseScorletQuestion), true, TextId::CloseScorletTitle))
-        return;
+    const std::wstring question = around.Wording(TextId::CloseScorletQuestion);
+    if (!around.Boxes.Ask(scorlet->Window(), question, true, TextId::CloseScorletTitle)) return;
     if (scorlet) DestroyWindow(scorlet->Window());
-}
-
-void ClockScorlet::ScorletDestroyed() {
-    // The form is still in use up the stack; it is given up when this message is done.
-    PostMessageW(clock.Window(), WM_FORGETSCORLET, 0, 0);
 }
 
 void ClockScorlet::Forget() {
     if (scorlet && !scorlet->Window()) scorlet.reset();
-    changed();
-}
-
-void ClockScorlet::MoveBegun(bool firstPress, Side running) {
-    if (!scorlet) return;
-    if (const auto line = scorlet->Record().AddLineForPress(firstPress, running)) scorlet->ShowRecord(line);
-}
-
-void ClockScorlet::RecordFlagFall(Side side) {
-    if (!scorlet) return;
-    scorlet->Record().FlagFell(side);
-    scorlet->ShowRecord();
-}
-
-void ClockScorlet::PressEnabledClock() {
-    for (Side side : BothSides) {
-        if (commands.ClockButtonEnabled(side)) return commands.Press(side);
-    }
-    if (commands.CurrentPhase() == Phase::Fallen) commands.Press(White);
 }

@@ -1,5 +1,12 @@
 #include "app/EditorPrinter.h"
 
+#include "app/PrintedList.h"
+#include "platform/Ansi.h"
+#include "platform/Files.h"
+#include "platform/Today.h"
+#include "resources/resource.h"
+#include "settings/ShownName.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -7,6 +14,8 @@
 namespace {
 
 constexpr ULONGLONG EditorPatience = 5000, ClipboardPatience = 1000;  // milliseconds
+
+constexpr UINT Interval = 20;  // of Continue, in milliseconds
 
 constexpr wchar_t EditorClass[] = L"Notepad";
 
@@ -57,7 +66,10 @@ bool SendPasteKeys() {
 
 }  // namespace
 
-void EditorPrinter::Start(HWND owner, const std::wstring& editor, const std::wstring& printed) {
+void EditorPrinter::Print(HWND owner) {
+    if (step != Step::None || !game.Record()) return;
+    if (editor.empty() || !FileExists(editor)) return messageBoxes.Inform(owner, texts(TextId::EditorMissing));
+    game.TopUpMoveLists();
     earlier = EditorWindows();
     std::wstring commandLine = L"\"" + editor + L"\"";
     STARTUPINFOW startup{};
@@ -72,9 +84,22 @@ void EditorPrinter::Start(HWND owner, const std::wstring& editor, const std::wst
     }
     CloseHandle(started.hThread);
     CloseHandle(started.hProcess);
-    text = printed;
+    text = ListsOfGame();
     step = Step::Clipboard;
     deadline = GetTickCount64() + ClipboardPatience;
+    SetTimer(owner, PrintTimer, Interval, nullptr);
+}
+
+std::wstring EditorPrinter::ListsOfGame() const {
+    std::array<std::vector<std::wstring>, 2> columns;
+    std::array<std::wstring, 2> names;
+    for (Side side : BothSides) {
+        const MoveList& list = game.Record()->List(side);
+        for (size_t i = 0; i < list.Entries().size(); ++i) columns[side].push_back(FromAnsi(list.Line(i, side)));
+        names[side] = ShownName(game.Options(), texts, side);
+    }
+    const PrintedLabels labels{{texts(TextId::PrintedWhite), texts(TextId::PrintedBlack)}, texts(TextId::Date)};
+    return PrintedList(labels, names, Today(), columns);
 }
 
 void EditorPrinter::Continue(HWND owner) {
@@ -112,5 +137,6 @@ bool EditorPrinter::IsInFront() const {
 void EditorPrinter::End(HWND owner, const std::wstring& message) {
     step = Step::None;
     text.clear();
+    KillTimer(owner, PrintTimer);
     if (!message.empty()) messageBoxes.Inform(owner, message);
 }

@@ -28,7 +28,7 @@ const wchar_t* NameOf(HelpPage page) {
 std::wstring HelpWindow::AddressOf(HelpPage page) const {
     // The row begins with a backslash, the folder ends with one.
     const std::wstring name = texts(page == HelpPage::Contents ? TextId::HelpContents : TextId::HelpPages);
-    const std::wstring file = folder + (name.empty() ? name : name.substr(1));
+    const std::wstring file = environment.ProgramFolder + (name.empty() ? name : name.substr(1));
     return file + L"::/" + FolderOf(texts.LanguageIndex()) + L"/" + NameOf(page);
 }
 
@@ -47,6 +47,7 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
     }
     // A viewer that has been started and shows no window yet will.
     if (process && page == HelpPage::Contents && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
+    const std::wstring& viewer = environment.HelpViewerPath;
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
     const std::wstring file = address.substr(0, address.rfind(L"::"));
     const DWORD attributes = GetFileAttributesW(file.c_str());

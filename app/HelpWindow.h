@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Handles.h"
-#include "platform/MessageBoxes.h"
+#include "platform/Surroundings.h"
 
 #include <windows.h>
 
@@ -13,9 +13,8 @@ enum class HelpPage { Contents, Settings, SavedGames };
 // The help file in the system's help viewer: opened, followed and closed with the program.
 class HelpWindow {
   public:
-    // `viewer` is the viewer's path, empty when the system has none; `folder` the program's folder.
-    HelpWindow(const Texts& texts, const MessageBoxes& messageBoxes, std::wstring viewer, std::wstring folder)
-        : texts(texts), messageBoxes(messageBoxes), viewer(std::move(viewer)), folder(std::move(folder)) {}
+    explicit HelpWindow(const Surroundings& around)
+        : texts(around.Wording), messageBoxes(around.Boxes), environment(around.System) {}
 
     // Opens a page in the language of the program. The contents bring a viewer that is open to the front instead. A
     // missing viewer or file is told in a message.
@@ -32,8 +31,7 @@ class HelpWindow {
 
     const Texts& texts;
     const MessageBoxes& messageBoxes;
-    std::wstring viewer;
-    std::wstring folder;
+    const Environment& environment;
     UniqueFile process;  // of the viewer last started
     HWND held = nullptr;
 };

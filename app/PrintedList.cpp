@@ -23,9 +23,7 @@ std::wstring PrintedList(const PrintedLabels& labels, const std::array<std::wstr
     text += labels.Date + L": " + day + L"\r\n";
     text += Row(labels.Sides[White], labels.Sides[Black]);
     for (size_t row = 0; row < std::max(columns[White].size(), columns[Black].size()); ++row) {
-        const auto entry = [&](Side side) {
-            return row < columns[side].size() ? columns[side][row] : std::wstring();
-        };
+        const auto entry = [&](Side side) { return row < columns[side].size() ? columns[side][row] : std::wstring(); };
         text += Row(entry(White), entry(Black));
     }
     return text;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "games/GameHead.h"
+#include "base/CalendarDate.h"
+#include "base/Side.h"
 
 #include <array>
 #include <string>

@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include "app/frmClock.h"
+#include "app/modEnvironment.h"
 #include "platform/SystemError.h"
 
 #include <commctrl.h>
@@ -56,7 +57,7 @@ int RunProgram() {
     const Texts texts(settings.LanguageIndex);
     const MessageBoxes messageBoxes(texts);
     clsFileSystem fileSystem;
-    const modEnvironment::Environment environment = modEnvironment::Establish(fileSystem, texts);
+    const Environment environment = modEnvironment::Establish(fileSystem, texts);
     const SettingsFile settingsFile(environment.DataFolder);
     settings.LanguageIndex = settingsFile.LoadLanguage();
 
@@ -67,7 +68,9 @@ int RunProgram() {
     }
     if (!EnsureDataFolder(environment.DataFolder, fileSystem, texts, messageBoxes)) return 1;
 
-    frmClock clockWindow(environment, settingsFile, settings, texts, messageBoxes);
+    TickTimer timer;
+    Game game(settings, timer);
+    frmClock clockWindow({texts, messageBoxes, environment}, settingsFile, settings, game, timer);
     try {
         clockWindow.Open();
     } catch (const std::exception& error) {

@@ -19,28 +19,23 @@ namespace {
 
 constexpr wchar_t ClassName[] = L"frmClock";
 
-constexpr UINT_PTR BlinkTimer = 1, HelpTimer = 2;
 constexpr UINT BlinkInterval = 500, HelpInterval = 2000;  // milliseconds
-
-// Messages of the window to itself: a button was pressed with this key (0: the mouse); the window is open and
-// can show what went wrong before.
-constexpr UINT WM_BUTTONKEY = WM_APP + 1, WM_TELLPROBLEMS = WM_APP + 2;
 
 }  // namespace
 
-frmClock::frmClock(const modEnvironment::Environment& environment, const SettingsFile& settingsFile, Settings& settings,
-                   const Texts& texts, const MessageBoxes& messageBoxes)
-    : Form(texts, messageBoxes),
-      environment(environment),
+frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile, Settings& settings, Game& game,
+                   TickTimer& timer)
+    : Form(around),
       settingsFile(settingsFile),
       settings(settings),
-      commands(*this),
-      timer([this] { Tick(); }),
-      help(texts, messageBoxes, environment.HelpViewerPath, environment.ProgramFolder),
-      panels(*this, commands, settings, captions, environment.Appearance.BackgroundColour),
-      scorlet(
-          *this, commands, texts, messageBoxes, [this] { UpdateMenu(); }, [this] { games.Print(); }),
-      games(*this, commands, scorlet, panels, settings, environment, help, texts, messageBoxes) {}
+      game(game),
+      store(around.System.SavedGamesFolder),
+      help(around),
+      panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
+      scorlet(around, *this, game),
+      printer(around, game) {
+    timer.Calls([this] { Tick(); });
+}
 
 frmClock::~frmClock() {
     scorlet.Unload();
@@ -59,7 +54,7 @@ void frmClock::Open() {
     SetMenu(Window(), MakeClockMenu(captions));
     panels.ApplyTexts();
     PlaceWindow();
-    commands.Initialise();
+    game.Begin(*this);
     ::SetTimer(Window(), BlinkTimer, BlinkInterval, nullptr);
     ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
     ShowWindow(Window(), SW_SHOWDEFAULT);
@@ -84,8 +79,7 @@ void frmClock::LoadPictures() {
     }
 }
 
-void frmClock::TellReadingProblems() {
-    if (!IsWindowVisible(Window())) return;
+void frmClock::TellProblems() {
     for (const std::wstring& problem : std::exchange(problems, {})) messageBoxes.Inform(Window(), problem);
 }
 
@@ -99,21 +93,37 @@ bool frmClock::TakeMessage(MSG& message) {
 }
 
 void frmClock::ShowSetup() {
-    if (!commands.SetupEnabled()) return;
-    frmSetup setup(texts, messageBoxes, environment.Appearance.BackgroundColour, settingsFile, settings,
-                   [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
+    if (!game.Clock().SetupEnabled()) return;
+    frmSetup setup(around, settingsFile, settings, [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
     setup.Open(Window());
     setup.RunModal();
     if (!setup.Accepted()) return;
     SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
-    commands.TakeTimeControl(ShownTimeControl());
-    if (scorlet.Loaded()) scorlet.Loaded()->ShowRecord();
+    panels.ShowSettings();
+    game.TakeSettings();
 }
 
 void frmClock::ShowAbout() {
-    frmAbout about(texts, messageBoxes, environment.Appearance.BackgroundColour);
+    frmAbout about(around);
     about.Open(Window());
     about.RunModal();
+}
+
+void frmClock::ShowFiles(FilesMode mode) {
+    frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
+    files.Open(Window());
+    files.RunModal();
+    if (files.Loaded()) TakeLoadedGame(*files.Loaded());
+}
+
+void frmClock::TakeLoadedGame(const frmFiles::Chosen& chosen) {
+    // First what can fail. No message may come between: the running game goes on behind one.
+    const std::wstring problem = scorlet.Open();
+    game.TakeLoadedGame(chosen.Saved);
+    panels.ShowSettings();
+    const std::wstring name = L"- [" + chosen.Name + texts(TextId::LoadedGame) + L"]";
+    SetWindowTextW(Window(), (texts(TextId::ProductTitle) + name).c_str());
+    if (!problem.empty()) messageBoxes.Inform(Window(), problem);
 }
 
 void frmClock::PlaceWindow() {
@@ -132,11 +142,21 @@ void frmClock::PlaceWindow() {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmClock::PhaseChanged() {
-    const Phase phase = commands.CurrentPhase();
+void frmClock::ClockChanged(const ClockChange& change) {
+    for (Side side : BothSides) {
+        if (change.Faces[side]) panels.ShowFace(side);
+    }
+    if (change.Phase) ShowPhase();
+}
+
+void frmClock::ShowPhase() {
+    const bool active = GetActiveWindow() == Window();
+    const Phase phase = game.Clock().CurrentPhase();
     // A disabled button would swallow the keys.
-    if (phase == Phase::Fallen) FocusWhileActive(Window());
+    if (active && phase == Phase::Fallen) SetFocus(Window());
     panels.ShowPhase();
+    // A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
+    if (active) FocusRightfulButton();
 
     // Sleep would stop the ticks.
     SetThreadExecutionState(ES_CONTINUOUS |
@@ -147,10 +167,10 @@ void frmClock::PhaseChanged() {
 
 void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
-    const bool paused = commands.CurrentPhase() == Phase::Paused;
+    const bool paused = game.Clock().CurrentPhase() == Phase::Paused;
     const std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
     ModifyMenuW(menu, mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
-    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (commands.SetupEnabled() ? MF_ENABLED : MF_GRAYED));
+    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
     for (const UINT entry : {mnuCloseScorlet, mnuPrint})
         EnableMenuItem(menu, entry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
 }
@@ -158,35 +178,27 @@ void frmClock::UpdateMenu() {
 void frmClock::Tick() {
     // The system calls this, and no exception may reach it.
     try {
-        commands.Tick();
+        game.Tick();
     } catch (const std::exception& error) {
         ShowError(error);
     }
 }
 
-void frmClock::FocusClockButton(Side side) { FocusWhileActive(Control(ControlOf(cmdClock, side))); }
-void frmClock::FocusPauseButton(Side side) { FocusWhileActive(Control(ControlOf(cmdPause, side))); }
-
-// A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
-void frmClock::FocusWhileActive(HWND control) const {
-    if (GetActiveWindow() == Window()) SetFocus(control);
+void frmClock::PlaySound(ClockSound sound) {
+    modSound::Play(sound == ClockSound::Button ? settings.ButtonSoundName : settings.FlagSoundName);
 }
 
-void frmClock::PlayButtonSound() { modSound::Play(settings.ButtonSoundName); }
-void frmClock::PlayFlagSound() { modSound::Play(settings.FlagSoundName); }
+void frmClock::Inform(ClockEvent event) { messageBoxes.Inform(Window(), TextOf(event)); }
 
-void frmClock::Inform(Notice notice) { messageBoxes.Inform(Window(), NoticeText(notice)); }
-
-std::wstring frmClock::NoticeText(Notice notice) const {
-    switch (notice) {
-        case Notice::TimerNotKilled: return texts(TextId::TimerNotKilled);
-        case Notice::TimerNotCreated: return texts(TextId::TimerNotCreated);
-        case Notice::TimerNotCreatedEnding: return texts(TextId::TimerNotCreatedEnding);
-        case Notice::Overflow: return texts(TextId::ClockOverflow);
-        case Notice::HowToBegin: return texts(TextId::HelpToBegin) + WaysToBegin();
-        case Notice::HowToRestart: break;
+std::wstring frmClock::TextOf(ClockEvent event) const {
+    switch (event) {
+        case ClockEvent::TimerNotKilled: return texts(TextId::TimerNotKilled);
+        case ClockEvent::TimerNotCreated: return texts(TextId::TimerNotCreated);
+        case ClockEvent::TimerNotResumed: return texts(TextId::TimerNotCreatedEnding);
+        case ClockEvent::Overflow: return texts(TextId::ClockOverflow);
+        case ClockEvent::GameNotBegun: return texts(TextId::HelpToBegin) + WaysToBegin();
+        default: return texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpThenBegin) + WaysToBegin();
     }
-    return texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpThenBegin) + WaysToBegin();
 }
 
 std::wstring frmClock::WaysToBegin() const {
@@ -197,17 +209,15 @@ std::wstring frmClock::WaysToBegin() const {
 // No is preselected: the key that presses the clock must not throw a game away.
 bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::ResetQuestion), false); }
 
-TimeControl frmClock::ReadTimeControl() {
+void frmClock::ReadSettings() {
     const std::wstring problem = settingsFile.Load(settings, texts);
-    if (!problem.empty()) problems.push_back(problem);
+    if (!problem.empty()) {
+        problems.push_back(problem);
+        // When the reset is done: the message must not stop it.
+        PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
+    }
     SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
-    return ShownTimeControl();
-}
-
-// Shows what the settings say; the rest of them is for the clock.
-TimeControl frmClock::ShownTimeControl() {
     panels.ShowSettings();
-    return settings.Control;
 }
 
 LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -220,7 +230,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_KEYDOWN:
             // The window itself has the focus only when no button can take it.
-            if (wParam == VK_SPACE && !(HIWORD(lParam) & KF_REPEAT)) commands.Press(White);
+            if (wParam == VK_SPACE && !(HIWORD(lParam) & KF_REPEAT)) game.Press(White);
             return 0;
         case WM_TIMER: OnTimer(wParam); return 0;
         case WM_DRAWITEM: panels.Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
@@ -237,8 +247,11 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
-        case WM_TELLPROBLEMS: TellReadingProblems(); return 0;
-        case WM_FORGETSCORLET: scorlet.Forget(); return 0;
+        case WM_TELLPROBLEMS: TellProblems(); return 0;
+        case WM_SCORLETGONE:
+            scorlet.Forget();
+            UpdateMenu();
+            return 0;
         case WM_DESTROY:
             Unload();
             PostQuitMessage(0);
@@ -250,22 +263,25 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void frmClock::OnCommand(int id) {
     switch (id) {
-        case mnuStart: return commands.Start();
-        case mnuLoad: return games.Open(FilesMode::Load);
-        case mnuSave: return games.Open(FilesMode::Save);
-        case mnuDelete: return games.Open(FilesMode::Delete);
+        case mnuStart: return game.Start();
+        case mnuLoad: return ShowFiles(FilesMode::Load);
+        case mnuSave: return ShowFiles(FilesMode::Save);
+        case mnuDelete: return ShowFiles(FilesMode::Delete);
         case mnuExit: DestroyWindow(Window()); return;
-        case mnuReset: return commands.AskedResetIfStarted();
-        case mnuPause: return commands.PauseOrResume();
-        case mnuShowScorlet: return scorlet.Show();
+        case mnuReset: return game.AskedResetIfStarted();
+        case mnuPause: return game.PauseOrResume();
+        case mnuShowScorlet:
+            scorlet.Show();
+            UpdateMenu();
+            return;
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
-        case mnuPrint: return games.Print();
+        case mnuPrint: return printer.Print(Window());
         case mnuSetup: return ShowSetup();
         case mnuContents: return help.Open(Window(), HelpPage::Contents);
         case mnuAbout: return ShowAbout();
         case cmdPause:
-        case cmdPause + 1: return commands.PauseOrResume(PlaceOf(id).Panel);
+        case cmdPause + 1: return game.PauseOrResume(PlaceOf(id).Panel);
         default: return;
     }
 }
@@ -278,26 +294,26 @@ void frmClock::OnMouseDown(POINT point, bool rightButton) {
         case lblPeriod:
         case lblPeriodTime:
         case lblBonus:
-        case lblBonusTime: return commands.Press(ButtonOfMouse(rightButton, settings.TurnClock));
+        case lblBonusTime: return game.Press(ButtonOfMouse(rightButton, settings.TurnClock));
         default: break;
     }
     if (rightButton) return;
     switch (pair) {
         case imgHand:
         case cmdClock:  // only a disabled button leaves the mouse to the window
-            return commands.Press(side);
-        case cmdPause: return commands.PauseOrResume(side);
+            return game.Press(side);
+        case cmdPause: return game.PauseOrResume(side);
         case imgFlagUp:
-        case imgFlagDown: return commands.AskedReset();
+        case imgFlagDown: return game.AskedReset();
         default: return;
     }
 }
 
 void frmClock::OnButtonKey(int id, WPARAM key) {
     const auto [pair, side] = PlaceOf(id);
-    if (key == 'p') return commands.PressKeyP();
-    if (pair == cmdClock) return commands.Press(side);
-    commands.PauseOrResume(side);
+    if (key == 'p') return game.PressKeyP();
+    if (pair == cmdClock) return game.Press(side);
+    game.PauseOrResume(side);
 }
 
 LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
@@ -351,14 +367,14 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
     GetClientRect(Window(), &client);
     const LONG frameWidth = window.right - window.left - client.right;
     const LONG frameHeight = window.bottom - window.top - client.bottom;
-    const LONG designed = MulDiv(environment.Appearance.WindowHeight, Dpi(), 1440);
+    const LONG designed = MulDiv(around.System.Look.WindowHeight, Dpi(), 1440);
     info.ptMinTrackSize.x = Scaled(LeastWidth, Dpi()) + frameWidth;
     info.ptMinTrackSize.y = std::max(Scaled(LeastHeight, Dpi()) + frameHeight, designed);
 }
 
 void frmClock::OnTimer(UINT_PTR id) {
     if (id == BlinkTimer) panels.Blink();
-    if (id == PrintTimer) games.ContinuePrinting();
+    if (id == PrintTimer) printer.Continue(Window());
     if (id == HelpTimer) help.Watch(GetWindow(Window(), GW_HWNDFIRST));
 }
 
@@ -377,6 +393,6 @@ void frmClock::FocusRightfulButton() {
 
 void frmClock::Unload() {
     help.Close(GetWindow(Window(), GW_HWNDFIRST));
-    commands.Unload();
+    game.Unload();
     SetThreadExecutionState(ES_CONTINUOUS);
 }

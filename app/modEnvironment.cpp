@@ -62,7 +62,7 @@ Environment Establish(clsFileSystem& fileSystem, const Texts& texts) {
     Environment environment;
     environment.ProductTitle = texts(TextId::ProductTitle);
     environment.OsName = OsNameOf(FindVersionName());
-    environment.Appearance = AppearanceOf(environment.OsName);
+    environment.Look = AppearanceOf(environment.OsName);
 
     environment.ProgramFolder = FindProgramFolder();
     environment.ImagesFolder = environment.ProgramFolder + L"images\\";

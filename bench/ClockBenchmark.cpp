@@ -1,16 +1,12 @@
-#include "base/TimeText.h"
 #include "clock/modClock.h"
 
 #include <benchmark/benchmark.h>
 
 namespace {
 
-struct SilentHost : modClock::ClockHost {
-    int32_t SetTimer() override { return 32767; }
-    int32_t KillTimer(int32_t) override { return 1; }
-    void FaceChanged(Side) override {}
-    void MoveNumbersChanged() override {}
-    void FlagFell(Side) override {}
+struct SilentTimer final : modClock::Timer {
+    int32_t Set() override { return 32767; }
+    int32_t Kill(int32_t) override { return 1; }
 };
 
 // A Fischer game that runs for as long as a benchmark does.
@@ -24,32 +20,21 @@ TimeControl LongGame(bool down) {
 }
 
 void Tick(benchmark::State& state) {
-    SilentHost host;
-    modClock::Clock clock(host);
-    clock.SetTimeControl(LongGame(state.range(0) != 0));
-    clock.InitialiseClock();
+    SilentTimer timer;
+    modClock::Clock clock(timer);
+    clock.InitialiseClock(LongGame(state.range(0) != 0));
     clock.PressClock(Black);
     for (auto _ : state) clock.ClockTick();
 }
 BENCHMARK(Tick)->ArgName("down")->Arg(1)->Arg(0);
 
 void Press(benchmark::State& state) {
-    SilentHost host;
-    modClock::Clock clock(host);
-    clock.SetTimeControl(LongGame(true));
-    clock.InitialiseClock();
+    SilentTimer timer;
+    modClock::Clock clock(timer);
+    clock.InitialiseClock(LongGame(true));
     clock.PressClock(Black);
     for (auto _ : state) clock.PressClock(clock.TurnSide());
 }
 BENCHMARK(Press);
-
-void FormatFace(benchmark::State& state) {
-    int32_t seconds = 0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(FaceText(seconds));
-        seconds = (seconds + 1) % 360000;
-    }
-}
-BENCHMARK(FormatFace);
 
 }  // namespace

@@ -44,9 +44,11 @@ std::vector<double> MeasurePresses(int count) {
     settingsFile.Save(settings);
     const Texts texts(settings.LanguageIndex);
     const MessageBoxes messageBoxes(texts);
-    modEnvironment::Environment environment;
-    environment.Appearance = AppearanceOf("NONE");
-    frmClock form(environment, settingsFile, settings, texts, messageBoxes);
+    Environment environment;
+    environment.Look = AppearanceOf("NONE");
+    TickTimer timer;
+    Game game(settings, timer);
+    frmClock form({texts, messageBoxes, environment}, settingsFile, settings, game, timer);
     form.Open();
 
     std::array<PaintWatch, 2> watches;

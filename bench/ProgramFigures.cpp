@@ -68,9 +68,7 @@ void MeasureMemory() {
     const RunningProgram empty(EmptyProgram(), L"EmptyWindow");
     both.WaitWindow(L"frmScorlet");
     Sleep(3000);
-    const auto mebibytes = [](size_t bytes) {
-        return static_cast<double>(bytes) / (1 << 20);
-    };
+    const auto mebibytes = [](size_t bytes) { return static_cast<double>(bytes) / (1 << 20); };
     Row("working set, clock", "MB", mebibytes(alone.WorkingSet()), mebibytes(empty.WorkingSet()));
     Row("working set, clock and Scorlet", "MB", mebibytes(both.WorkingSet()), mebibytes(empty.WorkingSet()));
     Row("private bytes, clock", "MB", mebibytes(alone.PrivateBytes()), mebibytes(empty.PrivateBytes()));

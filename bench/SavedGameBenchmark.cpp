@@ -74,9 +74,7 @@ BENCHMARK(SaveGame);
 void LoadGame(benchmark::State& state) {
     std::array<std::vector<uint8_t>, AllGameFiles.size()> files;
     for (const GameFile file : AllGameFiles) files[file] = Bytes(*Files()[file]);
-    const GameFileReader read = [&](GameFile file, size_t) {
-        return files[file];
-    };
+    const GameFileReader read = [&](GameFile file, size_t) { return files[file]; };
     const Settings present;
     SavedGame game;
     for (auto _ : state) {

@@ -23,134 +23,79 @@ std::optional<Side> ClockCommands::BlinkingSide() const {
     return std::nullopt;
 }
 
-void ClockCommands::Initialise() {
-    TakeTimeControl(view.ReadTimeControl());
-    view.TellReadingProblems();
+void ClockCommands::Initialise(const TimeControl& control) {
+    clock.InitialiseClock(control);
+    fallenSide.reset();
+    blinkText = BlinkMark::ToMove;
 }
 
-void ClockCommands::TakeTimeControl(const TimeControl& control) {
-    clock.AbandonGame();
-    clock.SetTimeControl(control);
-    clock.InitialiseClock();
-    view.PhaseChanged();
-}
-
-void ClockCommands::Press(Side button) {
+ClockEvent ClockCommands::Press(Side button) {
     const Phase phase = CurrentPhase();
-    if (phase == Phase::Fallen) return view.Inform(Notice::HowToRestart);
-    if (!ClockButtonEnabled(button)) return;
-    view.PlayButtonSound();
-    // Playing takes time, and a tick that the system let through meanwhile may have ended the game.
-    if (CurrentPhase() != phase || clock.State().CountsOutOfStep()) return;
+    if (phase == Phase::Fallen) return ClockEvent::GameOver;
+    if (!ClockButtonEnabled(button) || clock.State().CountsOutOfStep()) return ClockEvent::Ignored;
 
     // Whoever presses first, side 0's clock must run: the counts would be out of step for ever otherwise.
     const Side pressed = phase == Phase::Idle ? Black : button;
     try {
-        if (clock.PressClock(pressed) == modClock::PressOutcome::TimerNotCreated)
-            return view.Inform(Notice::TimerNotCreated);
+        if (clock.PressClock(pressed) == modClock::PressOutcome::TimerNotCreated) return ClockEvent::TimerNotCreated;
     } catch (const RunTimeError&) {
         return PauseOnOverflow();
     }
     blinkText = BlinkMark::ToMove;
-    view.PhaseChanged();
-    view.FocusClockButton(clock.TurnSide());
-    view.MoveBegun(phase == Phase::Idle, clock.TurnSide());
+    return ClockEvent::Changed;
 }
 
-void ClockCommands::Start() {
-    if (CurrentPhase() == Phase::Running && !view.AskReset()) return;
-    // A timer call that failed leaves no handle behind; the game that it stopped is over all the same.
-    if (clock.State().TimerHandle >= 1 || CurrentPhase() != Phase::Idle) Reset();
-    for (Side side : BothSides) {
-        if (ClockButtonEnabled(side)) return Press(side);
-    }
-}
-
-void ClockCommands::PauseOrResume() {
+ClockEvent ClockCommands::PauseOrResume() {
     switch (CurrentPhase()) {
-        case Phase::Idle: return view.Inform(Notice::HowToBegin);
-        case Phase::Fallen: return view.Inform(Notice::HowToRestart);
-        case Phase::Running: Pause(); return view.FocusPauseButton(clock.TurnSide());
-        case Phase::Paused:
-            if (!clock.ResumeClock()) return view.Inform(Notice::TimerNotCreatedEnding);
-            blinkText = BlinkMark::ToMove;
-            view.PhaseChanged();
-            return view.FocusClockButton(clock.TurnSide());
+        case Phase::Idle: return ClockEvent::GameNotBegun;
+        case Phase::Fallen: return ClockEvent::GameOver;
+        case Phase::Running: return Pause();
+        case Phase::Paused: break;
     }
-}
-
-void ClockCommands::PauseOrResume(Side button) {
-    if (CurrentPhase() == Phase::Fallen || PauseButtonEnabled(button)) PauseOrResume();
-}
-
-void ClockCommands::PauseIfRunning() {
-    if (CurrentPhase() == Phase::Running) Pause();
-}
-
-void ClockCommands::PressKeyP() {
-    if (clock.State().TimerHandle <= 1) return;
-    if (!ClockButtonEnabled(White) && !ClockButtonEnabled(Black)) return;
-    for (Side side : BothSides) {
-        if (PauseButtonEnabled(side)) return PauseOrResume(side);
-    }
-}
-
-void ClockCommands::AskedReset() {
-    if (view.AskReset()) Reset();
-}
-
-void ClockCommands::AskedResetIfStarted() {
-    const bool somethingToLose = clock.State().GameStarted || view.MovesWritten();
-    if (!somethingToLose || view.AskReset()) Reset();
-}
-
-void ClockCommands::Reset() {
-    clock.AbandonGame();
-    fallenSide.reset();
+    if (!clock.ResumeClock()) return ClockEvent::TimerNotResumed;
     blinkText = BlinkMark::ToMove;
-    view.ResetRecorder();
-    Initialise();
-    view.FocusClockButton(White);
+    return ClockEvent::Changed;
 }
+
+ClockEvent ClockCommands::PauseOrResume(Side button) {
+    return CurrentPhase() == Phase::Fallen || PauseButtonEnabled(button) ? PauseOrResume() : ClockEvent::Ignored;
+}
+
+// A resume may have left a handle of 1, and the key then does nothing; deliberately.
+ClockEvent ClockCommands::PressKeyP() { return clock.State().TimerHandle > 1 ? PauseIfRunning() : ClockEvent::Ignored; }
+
+ClockEvent ClockCommands::PauseIfRunning() { return CurrentPhase() == Phase::Running ? Pause() : ClockEvent::Ignored; }
+
+ClockEvent ClockCommands::Tick() {
+    try {
+        switch (clock.ClockTick()) {
+            case modClock::TickOutcome::OutOfStep: return ClockEvent::Ignored;
+            case modClock::TickOutcome::Counted: return ClockEvent::Ticked;
+            case modClock::TickOutcome::FlagFell: break;
+        }
+    } catch (const RunTimeError&) {
+        return PauseOnOverflow();
+    }
+    fallenSide = clock.State().ActiveSide;
+    return ClockEvent::FlagFell;
+}
+
+ClockEvent ClockCommands::Unload() { return clock.StopClockTimer() ? ClockEvent::Changed : ClockEvent::TimerNotKilled; }
 
 void ClockCommands::TakeLoadedGame(const modClock::ClockState& loaded) {
-    clock.AbandonGame();
     clock.Restore(loaded);
     const bool fallen = !loaded.GameStarted && loaded.MoveCount[White] > 0;
     fallenSide = fallen ? std::optional(loaded.SideByCounts()) : std::nullopt;
     blinkText = CurrentPhase() == Phase::Paused ? BlinkMark::Paused : BlinkMark::ToMove;
-    view.PhaseChanged();
 }
 
-void ClockCommands::Tick() {
-    try {
-        clock.ClockTick();
-    } catch (const RunTimeError&) {
-        PauseOnOverflow();
-    }
-}
-
-void ClockCommands::Unload() {
-    if (!clock.StopClockTimer()) view.Inform(Notice::TimerNotKilled);
-}
-
-void ClockCommands::FlagFell(Side side) {
-    fallenSide = side;
-    view.RecordFlagFall(side);
-    view.PhaseChanged();
-    view.PlayFlagSound();
-}
-
-void ClockCommands::Pause() {
+ClockEvent ClockCommands::Pause() {
     clock.PauseClock();
     blinkText = BlinkMark::Paused;
-    view.PhaseChanged();
+    return ClockEvent::Changed;
 }
 
-void ClockCommands::PauseOnOverflow() {
-    if (clock.State().TimerRunning) {
-        Pause();
-        view.FocusPauseButton(clock.TurnSide());
-    }
-    view.Inform(Notice::Overflow);
+ClockEvent ClockCommands::PauseOnOverflow() {
+    if (CurrentPhase() == Phase::Running) Pause();
+    return ClockEvent::Overflow;
 }

@@ -11,54 +11,32 @@ enum class Phase {
     Fallen,   // a flag has fallen: only a reset goes on
 };
 
-enum class Notice {
-    TimerNotKilled,
+// What a command or a tick has done.
+enum class ClockEvent {
+    Ignored,   // nothing: it cannot be done now
+    Ticked,    // a second of the running side
+    Changed,   // phase, turn or counts
+    FlagFell,  // of the side whose turn it was
+    // The players are to be told of these; only an overflow has changed anything, it pauses a running clock.
     TimerNotCreated,
-    TimerNotCreatedEnding,
+    TimerNotResumed,
+    TimerNotKilled,
     Overflow,
-    HowToBegin,    // refused because no game has begun
-    HowToRestart,  // refused because a flag has fallen
+    GameNotBegun,
+    GameOver,
 };
 
-// The clock button that a mouse button pressed on a panel stands for. Turning the clock swaps the two.
+// The clock button that a mouse button pressed on a panel means. Turning the clock swaps the two.
 constexpr Side ButtonOfMouse(bool rightButton, bool turnClock) { return rightButton != turnClock ? Black : White; }
 
 enum class BlinkMark { ToMove, Paused };
 
-// What the commands need from the window.
-class ClockView {
+// What the players can do with the clock in each phase, and what a window shows of it. No command lets an exception
+// out.
+class ClockCommands {
   public:
-    virtual int32_t SetTimer() = 0;                 // handle of a new one-second timer, 0 on failure
-    virtual int32_t KillTimer(int32_t handle) = 0;  // 1, or 0 on failure
-    virtual void FaceChanged(Side side) = 0;
-    virtual void MoveNumbersChanged() = 0;
-    virtual void PhaseChanged() = 0;  // buttons, marks, flags and captions are to be shown anew
-    virtual void FocusClockButton(Side side) = 0;
-    virtual void FocusPauseButton(Side side) = 0;
-    virtual void PlayButtonSound() = 0;
-    virtual void PlayFlagSound() = 0;
-    virtual void Inform(Notice notice) = 0;
-    virtual bool AskReset() = 0;  // true: the players want the reset
-    // The recorder beside the clock, where it is open.
-    virtual bool MovesWritten() const = 0;
-    virtual void MoveBegun(bool firstPress, Side running) = 0;  // after a press
-    virtual void RecordFlagFall(Side side) = 0;
-    virtual void ResetRecorder() = 0;
-    // The user's time control, read anew; the window shows what else the settings say.
-    virtual TimeControl ReadTimeControl() = 0;
-    // Time to say what went wrong in the reading: the clock stands initialised.
-    virtual void TellReadingProblems() = 0;
-
-  protected:
-    ~ClockView() = default;
-};
-
-// What the players can do with the clock and what the window shows of it: the window's rules without a window.
-// No command lets an exception out.
-class ClockCommands final : private modClock::ClockHost {
-  public:
-    // The view must outlive the commands. Initialise must follow before any other command.
-    explicit ClockCommands(ClockView& view) : view(view), clock(*this) {}
+    // The timer must outlive the commands. Initialise must come before any other command.
+    explicit ClockCommands(modClock::Timer& timer) : clock(timer) {}
 
     const modClock::Clock& Clock() const { return clock; }
 
@@ -70,48 +48,31 @@ class ClockCommands final : private modClock::ClockHost {
     bool FlagFallen(Side side) const { return fallenSide == side; }
     bool SetupEnabled() const { return CurrentPhase() == Phase::Idle; }
 
-    // The side whose blinking mark blinks, and what it shows when it is on.
+    // The side whose blinking mark blinks, and what the mark shows when it is on.
     std::optional<Side> BlinkingSide() const;
     BlinkMark BlinkText() const { return blinkText; }
 
-    // An idle clock with the user's time control.
-    void Initialise();
+    // An idle clock with a time control, whatever was before.
+    void Initialise(const TimeControl& control);
 
-    // An idle clock with another one, as if none had ever been started; for when SetupEnabled.
-    void TakeTimeControl(const TimeControl& control);
+    ClockEvent Press(Side button);
+    ClockEvent PauseOrResume();
+    ClockEvent PauseOrResume(Side button);  // by that side's pause button
+    ClockEvent PressKeyP();
+    ClockEvent PauseIfRunning();  // when the players have ended the game otherwise
+    ClockEvent Tick();
 
-    void Press(Side button);
-    void Start();
-    void PauseOrResume();
-    void PauseOrResume(Side button);  // that side's pause button
-    void PressKeyP();
+    // Stops the timer before the program ends.
+    ClockEvent Unload();
 
-    void PauseIfRunning();  // when the players have ended the game otherwise
-
-    void AskedReset();           // asks first, as a click on a flag does
-    void AskedResetIfStarted();  // asks first when there is a game to lose
-    void Reset();
-
-    // The clock of a saved game, whatever stood before: paused when the game was under way, fallen for the side that
-    // was to move when it was over, else idle. The counts must be in step.
+    // The clock of a saved game, whatever was before: paused when the game was under way, fallen for the side that was
+    // to move when it was over, else idle. The counts must be in step.
     void TakeLoadedGame(const modClock::ClockState& loaded);
 
-    void Tick();
-
-    // Stops the timer before the window goes.
-    void Unload();
-
   private:
-    int32_t SetTimer() override { return view.SetTimer(); }
-    int32_t KillTimer(int32_t handle) override { return view.KillTimer(handle); }
-    void FaceChanged(Side side) override { view.FaceChanged(side); }
-    void MoveNumbersChanged() override { view.MoveNumbersChanged(); }
-    void FlagFell(Side side) override;
+    ClockEvent Pause();
+    ClockEvent PauseOnOverflow();
 
-    void Pause();
-    void PauseOnOverflow();
-
-    ClockView& view;
     modClock::Clock clock;
     std::optional<Side> fallenSide;
     BlinkMark blinkText = BlinkMark::ToMove;

@@ -1,10 +1,6 @@
 #include "clock/TickTimer.h"
 
-#include <utility>
-
 TickTimer* TickTimer::current = nullptr;
-
-TickTimer::TickTimer(std::function<void()> tick) : tick(std::move(tick)) { current = this; }
 
 TickTimer::~TickTimer() {
     if (running) KillTimer(nullptr, running);

@@ -18,37 +18,23 @@ std::string Clock::Face(Side side) const {
     return state.TimeHoursText[side] + ":" + state.TimeMinutesText[side] + ":" + state.TimeSecondsText[side];
 }
 
-void Clock::SetTimeControl(const TimeControl& control) { state.Control = control; }
+void Clock::InitialiseClock(const TimeControl& control) {
+    StopClockTimer();
+    state = {};
+    state.Control = control;
+    state.SecondPeriodArmed.fill(control.SecondPeriodEnabled);
+    for (Side side : BothSides) ShowClock(side);
+}
 
 void Clock::Restore(const ClockState& kept) {
-    const bool running = state.TimerRunning;
-    const int32_t left = kept.MoveCount[White] > 0 || kept.MoveCount[Black] > 0 ? 1 : 0;
-    const int32_t handle = running ? state.TimerHandle : left;
-    state = kept;
-    state.TimerHandle = handle;
-    state.TimerRunning = running;
-    for (Side side : BothSides) ShowClock(side);
-    host.MoveNumbersChanged();
-}
-
-void Clock::InitialiseClock() {
-    state.TurnFlag = false;
-    for (Side side : BothSides) {
-        state.PlayerTime[side] = 0;
-        state.MoveCount[side] = 0;
-        state.SecondPeriodDue[side] = false;
-        state.SecondPeriodArmed[side] = state.Control.SecondPeriodEnabled;
-    }
-    for (Side side : BothSides) ShowClock(side);
-    host.MoveNumbersChanged();
-}
-
-void Clock::AbandonGame() {
     StopClockTimer();
-    state.GameStarted = false;
-    state.TimerHandle = 0;
+    state = kept;
+    state.TimerHandle = kept.MoveCount[White] > 0 || kept.MoveCount[Black] > 0 ? 1 : 0;
+    state.TimerRunning = false;
+    for (Side side : BothSides) ShowClock(side);
 }
 
+// Splits the side's time and makes its texts. An untouched clock that counts down shows its first period.
 void Clock::ShowClock(Side side) {
     const bool showsLimit = state.Control.CountTimeDown && Untouched();
     const int32_t time = showsLimit ? state.Control.PeriodLimit[side] : state.PlayerTime[side];
@@ -58,40 +44,43 @@ void Clock::ShowClock(Side side) {
     state.TimeSecondsText[side] = TwoDigitText(state.TimeSeconds[side]);
     state.TimeMinutesText[side] = TwoDigitText(state.TimeMinutes[side]);
     state.TimeHoursText[side] = TwoDigitText(state.TimeHours[side]);
-    host.FaceChanged(side);
 }
 
-void Clock::ClockTick() {
+TickOutcome Clock::ClockTick() {
     state.ActiveSide = TurnSide();
-    if (state.CountsOutOfStep()) return;
+    if (state.CountsOutOfStep()) return TickOutcome::OutOfStep;
 
     const Side side = state.ActiveSide;
-    const bool granted = state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled;
-    if (state.Control.CountTimeDown) {
-        state.PlayerTime[side] = CheckedAdd(state.PlayerTime[side], -1);
-        if (state.PlayerTime[side] == 0) {
-            if (granted) {
-                state.PlayerTime[side] = state.Control.SecondPeriodTime[side];
-                state.SecondPeriodDue[side] = false;
-            }
-            // A second period of no time is none: the time must not run on below zero.
-            if (state.PlayerTime[side] == 0) return FlagFall();
-        }
-    } else {
-        const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
-        // The bonus counts as time used, deliberately.
-        const bool passed = CheckedAdd(state.Control.MoveBonus[side], used) > state.Control.PeriodLimit[side];
-        const int32_t limit =
-            passed && granted ? CheckedAdd(state.Control.PeriodLimit[side], state.Control.SecondPeriodTime[side]) : 0;
-        state.PlayerTime[side] = used;
-        if (passed) {
-            if (!granted) return FlagFall();
-            state.Control.PeriodLimit[side] = limit;
-            state.SecondPeriodDue[side] = false;
-        }
-    }
+    const bool timeLeft = state.Control.CountTimeDown ? CountDown(side) : CountUp(side);
     ShowClock(side);
-    host.MoveNumbersChanged();
+    if (timeLeft) return TickOutcome::Counted;
+    FlagFall();
+    return TickOutcome::FlagFell;
+}
+
+bool Clock::CountDown(Side side) {
+    int32_t& time = state.PlayerTime[side];
+    time = CheckedAdd(time, -1);
+    if (time == 0 && state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled) {
+        time = state.Control.SecondPeriodTime[side];
+        state.SecondPeriodDue[side] = false;
+    }
+    // A second period of no time is none: the time must not run on below zero.
+    return time != 0;
+}
+
+bool Clock::CountUp(Side side) {
+    int32_t& limit = state.Control.PeriodLimit[side];
+    const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
+    // The bonus counts as time used, deliberately.
+    const bool passed = CheckedAdd(state.Control.MoveBonus[side], used) > limit;
+    const bool granted = passed && state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled;
+    if (granted) {
+        limit = CheckedAdd(limit, state.Control.SecondPeriodTime[side]);
+        state.SecondPeriodDue[side] = false;
+    }
+    state.PlayerTime[side] = used;
+    return !passed || granted;
 }
 
 PressOutcome Clock::PressClock(Side button) {
@@ -121,7 +110,6 @@ PressOutcome Clock::PressClock(Side button) {
         state.SecondPeriodArmed[counted] = false;
     }
     ShowClock(button);
-    host.MoveNumbersChanged();
     return PressOutcome::Counted;
 }
 
@@ -133,27 +121,24 @@ bool Clock::EarnsSecondPeriod(Side side, int32_t moves, int32_t divisor) const {
 }
 
 void Clock::FlagFall() {
-    const Side fallen = state.ActiveSide;
-    ShowClock(fallen);
     StopClockTimer();
     state.GameStarted = false;
     state.TurnFlag = false;
-    host.FlagFell(fallen);
 }
 
 bool Clock::StartClockTimer() {
-    state.TimerHandle = host.SetTimer();
+    state.TimerHandle = timer.Set();
     state.TimerRunning = state.TimerHandle > 1;
     return state.TimerRunning;
 }
 
 void Clock::PauseClock() {
-    state.TimerHandle = host.KillTimer(state.TimerHandle);
+    state.TimerHandle = timer.Kill(state.TimerHandle);
     state.TimerRunning = false;
 }
 
 bool Clock::ResumeClock() {
-    state.TimerHandle = host.SetTimer();
+    state.TimerHandle = timer.Set();
     state.TimerRunning = state.TimerHandle != 0;
     return state.TimerRunning;
 }

@@ -37,24 +37,22 @@ struct ClockState {
 };
 
 // What the clock needs from the program around it.
-class ClockHost {
+class Timer {
   public:
-    virtual int32_t SetTimer() = 0;                 // handle of a new one-second timer, 0 on failure
-    virtual int32_t KillTimer(int32_t handle) = 0;  // 1, or 0 on failure
-    virtual void FaceChanged(Side side) = 0;        // the texts of the side's face are new
-    virtual void MoveNumbersChanged() = 0;          // at ticks and presses
-    virtual void FlagFell(Side side) = 0;           // the clock has stopped; last step of a flag fall
+    virtual int32_t Set() = 0;                 // handle of a new one-second timer, 0 on failure
+    virtual int32_t Kill(int32_t handle) = 0;  // 1, or 0 on failure
 
   protected:
-    ~ClockHost() = default;
+    ~Timer() = default;
 };
 
 enum class PressOutcome { Counted, TimerNotCreated };
+enum class TickOutcome { OutOfStep, Counted, FlagFell };
 
 class Clock {
   public:
-    // The host must outlive the clock.
-    explicit Clock(ClockHost& host) : host(host) {}
+    // The timer must outlive the clock.
+    explicit Clock(Timer& timer) : timer(timer) {}
 
     const ClockState& State() const { return state; }
 
@@ -64,27 +62,17 @@ class Clock {
     // True until the first press after a reset.
     bool Untouched() const;
 
-    // Side's face as "HH:MM:SS", of the parts that ShowClock made.
+    // The side's face as "HH:MM:SS", of the parts that ShowClock made.
     std::string Face(Side side) const;
 
-    // Takes the time control of the next game. InitialiseClock must follow.
-    void SetTimeControl(const TimeControl& control);
+    // The start of a game with that time control: no timer, full times, nothing counted or earned.
+    void InitialiseClock(const TimeControl& control);
 
-    // Takes a whole state as it stands, its timer excepted: a running one goes on, and without one the handle becomes
-    // 1 when a move has been counted, else 0.
+    // Takes a whole state as it is, without its timer. The handle becomes 1 when a move has been counted, else 0.
     void Restore(const ClockState& kept);
 
-    // Times, counts, earned periods and turn back to the start of a game.
-    void InitialiseClock();
-
-    // Stops the clock for good: no timer, no game, no trace of an earlier start. InitialiseClock must follow.
-    void AbandonGame();
-
-    // Splits the side's time and makes its texts. An untouched clock that counts down shows its first period.
-    void ShowClock(Side side);
-
     // One second of the running side. Throws RunTimeError(Fault::Overflow), with nothing changed.
-    void ClockTick();
+    TickOutcome ClockTick();
 
     // A press of clock button `button`: its side's move is over. The first one of a game starts the timer; when that
     // fails everything is as before the press. Throws RunTimeError(Fault::Overflow), with nothing changed.
@@ -98,10 +86,14 @@ class Clock {
     bool StopClockTimer();
 
   private:
+    void ShowClock(Side side);
+    // A second of the side's time; false when that was the last one.
+    bool CountDown(Side side);
+    bool CountUp(Side side);
     bool EarnsSecondPeriod(Side side, int32_t moves, int32_t divisor) const;
     void FlagFall();
 
-    ClockHost& host;
+    Timer& timer;
     ClockState state;
 };
 

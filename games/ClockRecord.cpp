@@ -74,9 +74,7 @@ void ReadFields(SlotReader& slots, ClockRecord& saved) {
 std::string EncodeClockRecord(const ClockRecord& saved) {
     SlotRecord record;
     size_t next = 0;
-    const auto write = [&](auto value) {
-        record[next++] = value;
-    };
+    const auto write = [&](auto value) { record[next++] = value; };
     const Settings& options = saved.Options;
     const modClock::ClockState& clock = saved.Clock;
     for (const std::string& name : options.PlayerNames) {

@@ -1,14 +1,11 @@
 #pragma once
 
+#include "base/CalendarDate.h"
 #include "recorder/MoveList.h"
 
 #include <array>
 #include <string>
 #include <string_view>
-
-struct CalendarDate {
-    int Year, Month, Day;  // month and day from 1
-};
 
 // What the tag pairs at the start of the move files tell.
 struct GameHead {

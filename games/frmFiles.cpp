@@ -1,8 +1,11 @@
 #include "games/frmFiles.h"
 
+#include "platform/Ansi.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
+#include "platform/Today.h"
 #include "resources/resource.h"
+#include "settings/ShownName.h"
 
 #include <commctrl.h>
 
@@ -79,7 +82,7 @@ std::wstring frmFiles::SpokenName(int id) const {
 int frmFiles::DefaultButton() const { return Of(mode).Button; }
 
 void frmFiles::FillGameList() {
-    for (const std::wstring& name : games.Names())
+    for (const std::wstring& name : store.Names())
         SendMessageW(Control(lstGames), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
 }
 
@@ -98,7 +101,7 @@ void frmFiles::OnCommand(int id, int notification) {
         case cmdSave:
         case cmdDelete: return Act();
         case cmdCancel: return Close();
-        case cmdHelp: return host.OpenHelp(Window());
+        case cmdHelp: return openHelp(Window());
         default: return;
     }
 }
@@ -138,43 +141,45 @@ void frmFiles::Act() {
 }
 
 void frmFiles::OnLoad(const std::wstring& name) {
-    if (!games.Exists(name)) return Tell(texts(TextId::GameBefore) + name + texts(TextId::NotFound));
+    if (!store.Exists(name)) return Tell(texts(TextId::GameBefore) + name + texts(TextId::NotFound));
     if (!Ask(texts(TextId::GameBefore) + name + texts(TextId::WillBeLoaded))) return;
-    SavedGame game;
+    Chosen chosen{name, {}};
     try {
-        if (const auto error = games.LoadGame(name, host.PresentSettings(), game)) {
-            return Tell(texts.Compose(TextId::GameDamaged, games.PathOf(name, error->File),
-                                      texts.Reason(error->What, error->Place, error->Column)));
+        if (const auto error = store.LoadGame(name, game.Options(), chosen.Saved)) {
+            const std::wstring reason = texts.Reason(error->What, error->Place, error->Column);
+            return Tell(texts.Compose(TextId::GameDamaged, store.PathOf(name, error->File), reason));
         }
     } catch (const SystemError& error) {
         return Tell(texts.Compose(TextId::GameNotRead, error.Thing(), texts.Reason(error.Code())));
     }
-    host.TakeGame(name, game);
+    loaded = std::move(chosen);
     Close();
 }
 
 // Overwriting preselects No, a new name Yes: deliberately.
 void frmFiles::OnSave(const std::wstring& name) {
-    const bool exists = games.Exists(name);
+    const bool exists = store.Exists(name);
     const bool wanted = exists ? Ask(texts(TextId::OverwriteBefore) + name + texts(TextId::OverwriteAfter), false)
                                : Ask(texts(TextId::SaveAs) + name);
     if (!wanted) return;
     try {
-        games.SaveGame(name, host.FilesOfGame());
+        std::array<std::string, 2> names;
+        for (Side side : BothSides) names[side] = ToAnsi(ShownName(game.Options(), texts, side));
+        store.SaveGame(name, game.Encode(names, Today()));
     } catch (const SystemError& error) {
         return Tell(texts.Compose(TextId::GameNotSaved, error.Thing(), texts.Reason(error.Code())));
     }
-    host.GameSaved();
+    game.TopUpMoveLists();
     ClearGameList();
     FillGameList();
     Close();
 }
 
 void frmFiles::OnDelete(const std::wstring& name) {
-    if (!games.Exists(name)) return Tell(texts(TextId::SavedGameBefore) + name + texts(TextId::SavedGameNotFound));
+    if (!store.Exists(name)) return Tell(texts(TextId::SavedGameBefore) + name + texts(TextId::SavedGameNotFound));
     if (!Ask(texts(TextId::SavedGameBefore) + name + texts(TextId::WillBeDeleted))) return;
     try {
-        games.DeleteGame(name);
+        store.DeleteGame(name);
         SetText(txtGameName, L"");
         toolTips.Set(lstGames, L"");
     } catch (const SystemError& error) {

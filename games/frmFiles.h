@@ -1,22 +1,13 @@
 #pragma once
 
+#include "games/Game.h"
 #include "games/GameName.h"
 #include "games/GameStore.h"
 #include "platform/Dialog.h"
 #include "platform/ToolTips.h"
 
-// What the file dialog needs from the game on the clock and the Scorlet.
-class GameHost {
-  public:
-    virtual GameFiles FilesOfGame() = 0;  // as it stands
-    virtual void GameSaved() = 0;         // what FilesOfGame gave
-    virtual const Settings& PresentSettings() const = 0;
-    virtual void TakeGame(const std::wstring& name, SavedGame& game) = 0;
-    virtual void OpenHelp(HWND owner) = 0;
-
-  protected:
-    ~GameHost() = default;
-};
+#include <functional>
+#include <optional>
 
 enum class FilesMode { Load, Save, Delete };
 
@@ -24,13 +15,20 @@ enum class FilesMode { Load, Save, Delete };
 // mode.
 class frmFiles : public Dialog {
   public:
-    // All of them must outlive the dialog.
-    frmFiles(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const GameStore& games,
-             GameHost& host, FilesMode mode)
-        : Dialog(texts, messageBoxes, background), games(games), host(host), mode(mode) {}
+    // `store` and `game` must outlive the dialog. `openHelp` opens the help page of saved games over a window.
+    frmFiles(const Surroundings& around, const GameStore& store, Game& game, FilesMode mode,
+             std::function<void(HWND)> openHelp)
+        : Dialog(around), store(store), game(game), mode(mode), openHelp(std::move(openHelp)) {}
 
     // Throws SystemError.
     void Open(HWND owner);
+
+    // A game that has been chosen for loading, read and checked, with its name. The running game is untouched.
+    struct Chosen {
+        std::wstring Name;
+        SavedGame Saved;
+    };
+    const std::optional<Chosen>& Loaded() const { return loaded; }
 
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -54,9 +52,11 @@ class frmFiles : public Dialog {
     static LRESULT CALLBACK NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                           DWORD_PTR self);
 
-    const GameStore& games;
-    GameHost& host;
+    const GameStore& store;
+    Game& game;
     FilesMode mode;
+    std::function<void(HWND)> openHelp;
+    std::optional<Chosen> loaded;
     GameName typed;
     ToolTips toolTips{*this};
     bool settingText = false;

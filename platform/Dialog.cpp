@@ -15,8 +15,8 @@ constexpr Colour Ink{RGB(0, 0, 0), COLOR_BTNTEXT};
 
 }  // namespace
 
-Dialog::Dialog(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t colour)
-    : Form(texts, messageBoxes), background({ColourOf(colour), COLOR_BTNFACE}) {}
+Dialog::Dialog(const Surroundings& around)
+    : Form(around), background({ColourOf(around.System.Look.BackgroundColour), COLOR_BTNFACE}) {}
 
 void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
                     std::span<const DialogItem> controls) {

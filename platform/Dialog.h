@@ -26,8 +26,7 @@ class Dialog : public Form {
     void RunModal();
 
   protected:
-    // `background` as 0xRRGGBB.
-    Dialog(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background);
+    explicit Dialog(const Surroundings& around);
 
     // Creates the window over its owner, hidden, with its items in their order, which is that of reading and of the
     // tab key. `width` and `height` are those of the design. The items must outlive the dialog. Throws SystemError.

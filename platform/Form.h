@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MessageBoxes.h"
+#include "platform/Surroundings.h"
 
 #include <windows.h>
 
@@ -39,9 +39,12 @@ class Form {
     static std::wstring SpokenNameOf(HWND control);
 
   protected:
-    // `messageBoxes` must outlive the form.
-    Form(const Texts& texts, const MessageBoxes& messageBoxes)
-        : texts(texts), messageBoxes(messageBoxes), language(texts.LanguageIndex()), captions(language) {}
+    explicit Form(const Surroundings& around)
+        : around(around),
+          texts(around.Wording),
+          messageBoxes(around.Boxes),
+          language(texts.LanguageIndex()),
+          captions(language) {}
 
     // What screen readers say of a control. Empty: what the system says, which is the control's text, or for fields
     // that of the label before it.
@@ -62,6 +65,7 @@ class Form {
     // A message of the window; what a form does not handle it passes on to Form::Handle.
     virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
+    const Surroundings around;
     const Texts& texts;  // for messages
     const MessageBoxes& messageBoxes;
 

@@ -53,12 +53,8 @@ bool Board::EnPassant(Square origin, Square destination, Piece moving) const {
 void Board::Castling(Move& move) const {
     const Side side = SideOf(move.Moving);
     const int rank = side == White ? 1 : 8;
-    const auto empty = [&](int file) {
-        return cells[SquareAt(file, rank)] == Piece::Empty;
-    };
-    const auto rook = [&](int file) {
-        return cells[SquareAt(file, rank)] == PieceOf(side, PieceKind::Rook);
-    };
+    const auto empty = [&](int file) { return cells[SquareAt(file, rank)] == Piece::Empty; };
+    const auto rook = [&](int file) { return cells[SquareAt(file, rank)] == PieceOf(side, PieceKind::Rook); };
     if (move.Origin != SquareAt(5, rank)) return;
     if (move.Destination == SquareAt(7, rank) && rook(8) && empty(6)) {
         move.Kind = MoveKind::CastlingKingSide;

@@ -80,9 +80,8 @@ void Recorder::Promote(PieceKind kind) {
     RebuildText();
 }
 
-std::array<std::optional<size_t>, 2> Recorder::Declare(Declaration declaration,
-                                                       const std::array<int32_t, 2>& clockCounts) {
-    std::array<std::optional<size_t>, 2> added;
+ChosenLines Recorder::Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts) {
+    ChosenLines added;
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
     switch (declaration) {
@@ -133,8 +132,8 @@ void Recorder::TakeResultAway() {
     RemoveResultMark(runningText);
 }
 
-std::array<std::optional<size_t>, 2> Recorder::TopUpMoveLists(const std::array<int32_t, 2>& clockCounts) {
-    std::array<std::optional<size_t>, 2> added;
+ChosenLines Recorder::TopUpMoveLists(const std::array<int32_t, 2>& clockCounts) {
+    ChosenLines added;
     for (Side side : {Black, White}) {
         size_t wanted = static_cast<size_t>(std::max(clockCounts[side], 0));
         if (side == White) wanted = std::max(wanted, lists[Black].Moves());

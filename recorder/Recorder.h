@@ -15,6 +15,9 @@ struct ChosenLine {
     size_t Index;
 };
 
+// The same for both lists, by side.
+using ChosenLines = std::array<std::optional<size_t>, 2>;
+
 // The Scorlet without its window: the board, the two move lists, the running text of the game and whose move it is.
 class Recorder {
   public:
@@ -51,14 +54,14 @@ class Recorder {
 
     // What the players declare. `clockCounts` are the moves that the clock has counted, for resigning and drawing,
     // which fill the lists up to them; the last line added to each.
-    std::array<std::optional<size_t>, 2> Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts);
+    ChosenLines Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts);
 
     // The result of a fallen flag of a side.
     void FlagFell(Side side);
 
     // Waiting lines where a list is shorter than the clock's count, or White's than Black's; the last one added to
     // each.
-    std::array<std::optional<size_t>, 2> TopUpMoveLists(const std::array<int32_t, 2>& clockCounts);
+    ChosenLines TopUpMoveLists(const std::array<int32_t, 2>& clockCounts);
 
     // The line for the next move, after a press of the clock that made a side run; nothing when none is due.
     std::optional<ChosenLine> AddLineForPress(bool firstPress, Side running);

@@ -3,9 +3,7 @@
 #include <algorithm>
 
 ScorletLayout LayOutScorlet(int width, int height, int dpi) {
-    const auto unit = [dpi](int length) {
-        return (length * dpi + 48) / 96;
-    };
+    const auto unit = [dpi](int length) { return (length * dpi + 48) / 96; };
     const int margin = unit(10), line = unit(20), field = unit(24);
     ScorletLayout layout{};
 

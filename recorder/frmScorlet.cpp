@@ -17,9 +17,6 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmScorlet";
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-// Messages of the window to itself, sent by its controls: a key for the board; the end of an edit.
-constexpr UINT WM_BOARDKEY = WM_APP + 1, WM_ENDEDIT = WM_APP + 2;
-
 constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind::Bishop, PieceKind::Knight};
 constexpr std::array PromotionTexts{TextId::PromotionQueen, TextId::PromotionRook, TextId::PromotionBishop,
                                     TextId::PromotionKnight};
@@ -41,6 +38,7 @@ void ForEachSquare(Action action) {
 
 frmScorlet::~frmScorlet() {
     if (Window()) DestroyWindow(Window());
+    game.CloseRecord();
 }
 
 SIZE frmScorlet::DesignSize(int dpi) {
@@ -134,23 +132,20 @@ void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) SetVisible(id, recorder.AwaitsPromotion());
 }
 
-void frmScorlet::TakeRecord(const Recorder& record) {
+void frmScorlet::RecordChanged(const ChosenLines& chosen) {
+    ShowRecord();
+    for (Side side : BothSides) {
+        if (chosen[side]) ChooseLine({side, *chosen[side]});
+    }
+}
+
+void frmScorlet::RecordReplaced() {
     EndEdit(false);
     input.Reset();
-    recorder = record;
     for (Side side : BothSides)
         SendMessageW(Control(ControlOf(lstMoves, side)), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     ShowRecord();
 }
-
-void frmScorlet::ShowAdded(const std::array<std::optional<size_t>, 2>& added) {
-    ShowRecord();
-    for (Side side : BothSides) {
-        if (added[side]) ChooseLine({side, *added[side]});
-    }
-}
-
-void frmScorlet::TopUpMoveLists() { ShowAdded(recorder.TopUpMoveLists(host.MoveCounts())); }
 
 void frmScorlet::ShowBoard() {
     ForEachSquare([&](Square square) {
@@ -230,8 +225,11 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) SetFocus(Control(Editing() ? txtMove : picBoard));
             return 0;
-        case WM_CLOSE: host.CloseScorlet(); return 0;
-        case WM_DESTROY: host.ScorletDestroyed(); return 0;
+        case WM_CLOSE: SendMessageW(shell, WM_COMMAND, mnuCloseScorlet, 0); return 0;
+        case WM_DESTROY:
+            // Posted: the form is still in use further up the stack.
+            PostMessageW(shell, WM_SCORLETGONE, 0, 0);
+            return 0;
         default: break;
     }
     return Form::Handle(message, wParam, lParam);
@@ -246,14 +244,14 @@ void frmScorlet::OnCommand(int id, int notification) {
     }
     switch (id) {
         case cmbSay:
-            if (const auto declaration = say.OnNotification(notification)) OnDeclare(*declaration);
+            if (const auto declaration = say.OnNotification(notification)) game.Declare(*declaration);
             return;
         case txtMove:
             if (notification == EN_CHANGE) field.OnChange();
             return;
         case cmdOK: return EndEdit(true);
         case mnuEditMove: return BeginEdit(menuList);
-        case mnuPrintMoveList: return host.PrintMoveList();
+        case mnuPrintMoveList: SendMessageW(shell, WM_COMMAND, mnuPrint, 0); return;
         case mnuDeleteLastMove:
             recorder.DeleteLast(menuList);
             ShowRecord();
@@ -297,7 +295,7 @@ bool frmScorlet::OnBoardKey(WPARAM key) {
         case VK_RETURN: OnSquare(input.Cursor()); break;
         case VK_SPACE:
             if (!input.PiecePicked()) {
-                host.PressEnabledClock();
+                game.PressEnabledButton();
                 return true;
             }
             OnSquare(input.Cursor());
@@ -334,12 +332,6 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
     TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
     DestroyMenu(menu);
     return true;
-}
-
-void frmScorlet::OnDeclare(Declaration declaration) {
-    const bool over = recorder.HasResult();
-    ShowAdded(recorder.Declare(declaration, host.MoveCounts()));
-    if (!over && recorder.HasResult()) host.PauseForResult();
 }
 
 void frmScorlet::BeginEdit(Side side) {

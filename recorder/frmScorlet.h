@@ -3,47 +3,26 @@
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
 #include "recorder/MoveField.h"
-#include "recorder/Recorder.h"
 #include "recorder/SayList.h"
+#include "recorder/ScorletGame.h"
 #include "recorder/ScorletPainter.h"
 
 #include <array>
 #include <optional>
 
-// What the Scorlet needs from the clock beside it.
-class ScorletHost {
-  public:
-    virtual std::array<int32_t, 2> MoveCounts() const = 0;
-    virtual void PressEnabledClock() = 0;
-    virtual void PauseForResult() = 0;  // a declaration has ended the game
-    virtual void PrintMoveList() = 0;
-    virtual void CloseScorlet() = 0;  // asks, and destroys the window on Yes
-    virtual void ScorletDestroyed() = 0;
-
-  protected:
-    ~ScorletHost() = default;
-};
-
 // The Scorlet window: the board, the captured pieces, the promotion picker, the Say list and the move lists.
-class frmScorlet : public Form {
+class frmScorlet : public Form, private RecordView {
   public:
-    // All of them must outlive the window.
-    frmScorlet(ScorletHost& host, const Texts& texts, const MessageBoxes& messageBoxes)
-        : Form(texts, messageBoxes), host(host) {}
+    // The game must outlive the window; it keeps a record for as long as there is the window. `shell` is the window
+    // that closes this one and prints its lists: it is sent the commands mnuCloseScorlet and mnuPrint, and
+    // WM_SCORLETGONE at the end.
+    frmScorlet(const Surroundings& around, ScorletGame& game, HWND shell)
+        : Form(around), game(game), recorder(game.OpenRecord(*this)), shell(shell) {}
     ~frmScorlet() override;
 
     // Opens the window at `place` on the screen, without taking the focus. The text, empty on success, says which
     // picture could not be loaded; moves can be entered all the same. Throws SystemError.
     std::wstring Open(const RECT& place);
-
-    Recorder& Record() { return recorder; }
-    // Shows the record anew, with a line chosen.
-    void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
-    // Takes another record; what is under way ends.
-    void TakeRecord(const Recorder& record);
-    void ResetRecord() { TakeRecord({}); }
-    // Fills the lists up to the clock's counts, the added lines chosen.
-    void TopUpMoveLists();
 
     // Keys of the window. True: the message is done with.
     bool TakeMessage(MSG& message);
@@ -54,11 +33,14 @@ class frmScorlet : public Form {
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::wstring SpokenName(int id) const override;
+    void RecordChanged(const ChosenLines& chosen) override;
+    void RecordReplaced() override;
 
+    // Shows the record anew, with a line chosen.
+    void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
     void CreateControls();
     void ApplyTexts();
     void Arrange();
-    void ShowAdded(const std::array<std::optional<size_t>, 2>& added);
     void ShowBoard();
     void ShowList(Side side);
     void ChooseLine(const ChosenLine& line);
@@ -68,7 +50,6 @@ class frmScorlet : public Form {
     void OnSquare(Square square);
     bool OnBoardKey(WPARAM key);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
-    void OnDeclare(Declaration declaration);
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
@@ -80,8 +61,9 @@ class frmScorlet : public Form {
     static LRESULT CALLBACK BoardProcedure(HWND board, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                            DWORD_PTR self);
 
-    ScorletHost& host;
-    Recorder recorder;
+    ScorletGame& game;
+    Recorder& recorder;
+    const HWND shell;
     BoardInput input{recorder};
     MoveField field{*this};
     SayList say{*this};

@@ -137,6 +137,20 @@ enum FilesControl : int {
     cmdDelete,
 };
 
+// Messages that the windows send themselves and one another, from WM_APP on.
+enum ClockMessage : unsigned {
+    WM_BUTTONKEY = 0x8001,  // a button was pressed with the key in wParam, 0 for the mouse; its number is in lParam
+    WM_TELLPROBLEMS,        // the window is open and can show what has gone wrong before
+    WM_SCORLETGONE,         // the Scorlet's window has been destroyed
+};
+enum ScorletMessage : unsigned {
+    WM_BOARDKEY = 0x8001,  // a key in wParam for the board
+    WM_ENDEDIT,            // the edit of a move ends: with 1 in wParam it is accepted
+};
+
+// The timers of the clock window.
+enum ClockTimer : unsigned { BlinkTimer = 1, HelpTimer, PrintTimer };
+
 // Captured pieces of a side.
 inline constexpr int CapturedSlots = imgCapturedBQ - imgCapturedWQ;
 

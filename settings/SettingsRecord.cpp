@@ -56,9 +56,7 @@ SlotRecord EncodeSettings(const Settings& settings) {
 
     SlotRecord record;
     size_t next = 0;
-    const auto write = [&](int32_t value) {
-        record[next++] = value;
-    };
+    const auto write = [&](int32_t value) { record[next++] = value; };
     for (const std::string& name : settings.PlayerNames) {
         write(static_cast<int32_t>(name.size()));
         for (char character : name) write(static_cast<uint8_t>(character));

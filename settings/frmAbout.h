@@ -8,8 +8,7 @@
 // The about box: four knights and what the version resource says. A click anywhere, Esc or Enter closes it.
 class frmAbout : public Dialog {
   public:
-    frmAbout(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background)
-        : Dialog(texts, messageBoxes, background) {}
+    explicit frmAbout(const Surroundings& around) : Dialog(around) {}
 
     // Throws SystemError.
     void Open(HWND owner);

@@ -124,13 +124,9 @@ constexpr int32_t ClockTypes = 4;
 
 }  // namespace
 
-frmSetup::frmSetup(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const SettingsFile& file,
-                   Settings& settings, std::function<void(HWND)> openHelp)
-    : Dialog(texts, messageBoxes, background),
-      file(file),
-      settings(settings),
-      draft(settings),
-      openHelp(std::move(openHelp)) {
+frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Settings& settings,
+                   std::function<void(HWND)> openHelp)
+    : Dialog(around), file(file), settings(settings), draft(settings), openHelp(std::move(openHelp)) {
     DropWhatTypeLacks(draft);
 }
 

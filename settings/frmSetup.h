@@ -20,9 +20,9 @@ struct TimeBars {
 // language, which counts as soon as it is chosen.
 class frmSetup : public Dialog {
   public:
-    // All of them must outlive the dialog. `openHelp` opens the help page of the settings over a window.
-    frmSetup(const Texts& texts, const MessageBoxes& messageBoxes, uint32_t background, const SettingsFile& file,
-             Settings& settings, std::function<void(HWND)> openHelp);
+    // `file` and `settings` must outlive the dialog. `openHelp` opens the help page of the settings over a window.
+    frmSetup(const Surroundings& around, const SettingsFile& file, Settings& settings,
+             std::function<void(HWND)> openHelp);
 
     // Throws SystemError.
     void Open(HWND owner);

@@ -20,7 +20,9 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
     Settings settings;
     Texts texts{settings.LanguageIndex};
     MessageBoxes messageBoxes{texts};
-    modEnvironment::Environment environment;
+    Environment environment;
+    TickTimer timer;
+    Game game{settings, timer};
     TestFolder folder;
     SettingsFile settingsFile{folder.Path()};
     std::unique_ptr<frmClock> form;
@@ -29,8 +31,9 @@ class frmClockTest : public testing::TestWithParam<int32_t> {
         settings.LanguageIndex = GetParam();
         settings.OpenScorletAtStart = false;
         settingsFile.Save(settings);
-        environment.Appearance = AppearanceOf("NONE");
-        form = std::make_unique<frmClock>(environment, settingsFile, settings, texts, messageBoxes);
+        environment.Look = AppearanceOf("NONE");
+        form = std::make_unique<frmClock>(Surroundings{texts, messageBoxes, environment}, settingsFile, settings, game,
+                                          timer);
         form->Open();
     }
     void TearDown() override {
@@ -102,9 +105,7 @@ TEST_P(frmClockTest, MenusTellKeysAndWhatCanBeDone) {
         wchar_t text[128];
         return std::wstring(text, text + GetMenuStringW(GetSubMenu(bar, 1), position, text, 128, MF_BYPOSITION));
     };
-    const auto grayed = [&](UINT entry) {
-        return (GetMenuState(bar, entry, MF_BYCOMMAND) & MF_GRAYED) != 0;
-    };
+    const auto grayed = [&](UINT entry) { return (GetMenuState(bar, entry, MF_BYCOMMAND) & MF_GRAYED) != 0; };
     EXPECT_EQ(clockEntry(0), texts(TextId::MenuReset) + L"\t" + texts(TextId::MenuResetKey));
     EXPECT_TRUE(grayed(mnuCloseScorlet) && grayed(mnuPrint));
     EXPECT_FALSE(grayed(mnuShowScorlet) || grayed(mnuSetup));
@@ -144,9 +145,7 @@ TEST_P(frmClockTest, ScreenReadersNameEveryControlInReadingOrder) {
         {L"Blancs, 1 heure 59 secondes", L"Noirs, 20 minutes", L"Blancs, Terminer le coup", L"20 minutes"},
     };
     const Names& names = rows[GetParam() - 1];
-    const auto name = [&](int id) {
-        return SpokenName(GetDlgItem(form->Window(), id));
-    };
+    const auto name = [&](int id) { return SpokenName(GetDlgItem(form->Window(), id)); };
     const auto expectAll = [&] {
         ExpectNamed(form->Window());
         ExpectReadingOrder(form->Window());

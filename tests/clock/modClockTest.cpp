@@ -4,244 +4,185 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <sstream>
 
 namespace {
 
-constexpr int32_t Most = std::numeric_limits<int32_t>::max();
-
-struct RecordingHost : modClock::ClockHost {
-    int32_t HandleToGive = 32767;
-    int32_t KillResult = 1;
-    std::vector<Side> Fallen;
-    int Timers = 0;
-
-    int32_t SetTimer() override {
-        if (HandleToGive > 0) ++Timers;
-        return HandleToGive;
-    }
-    int32_t KillTimer(int32_t) override {
-        --Timers;
-        return KillResult;
-    }
-    void FaceChanged(Side) override {}
-    void MoveNumbersChanged() override {}
-    void FlagFell(Side side) override { Fallen.push_back(side); }
+struct FakeTimer : modClock::Timer {
+    int32_t Handle = 32767;
+    int32_t Set() override { return Handle; }
+    int32_t Kill(int32_t) override { return 1; }
 };
 
-TimeControl Control(bool down, int32_t limit, int32_t second = 0, int32_t bonus = 0, int32_t moves = 40) {
-    TimeControl control;
-    control.CountTimeDown = down;
-    control.PeriodLimit.fill(limit);
-    control.SecondPeriodTime.fill(second);
-    control.MoveBonus.fill(bonus);
-    control.SecondPeriodEnabled = second > 0;
-    control.MovesFirstPeriod = moves;
-    return control;
-}
-
-class ClockTest : public testing::Test {
-  protected:
-    RecordingHost host;
-    modClock::Clock clock{host};
-
-    // Begins anew with that control.
-    void Set(const TimeControl& control) {
-        clock.AbandonGame();
-        host.Fallen.clear();
-        clock.SetTimeControl(control);
-        clock.InitialiseClock();
-    }
-    void Tick(int times = 1) {
-        while (times-- > 0) clock.ClockTick();
-    }
-    // The press that ends the running side's move.
-    void Move() { clock.PressClock(clock.TurnSide()); }
-    void Begin() { clock.PressClock(Black); }
-
-    template <typename Edit>
-    void Change(Edit change) {
-        modClock::ClockState state = clock.State();
-        change(state);
-        clock.Restore(state);
-    }
-    const modClock::ClockState& State() const { return clock.State(); }
+// Times in seconds, the same for both sides. A second period is enabled where it has a time.
+struct Setting {
+    bool Down;
+    int32_t First, Second = 0, Bonus = 0, Moves = 40;
 };
 
-TEST_F(ClockTest, FirstPressStartsSideZeroAndLaterOnesAlternate) {
-    Set(Control(true, 300));
-    Begin();
-    EXPECT_EQ(State().MoveCount, (std::array{1, 0}));
-    Tick(3);
-    EXPECT_EQ(State().PlayerTime, (std::array{297, 300}));
-    Move();
-    EXPECT_EQ(State().MoveCount, (std::array{1, 1}));
-    Tick(2);
-    Move();
-    EXPECT_EQ(State().MoveCount, (std::array{2, 1}));
-    EXPECT_EQ(State().PlayerTime, (std::array{297, 298}));
-    EXPECT_EQ(host.Timers, 1);
-}
-
-TEST_F(ClockTest, FlagFallsOnTheTickThatUsesTheTimeUp) {
-    struct Row {
-        const char* Name;
-        TimeControl Control;
-        int Ticks;
-        const char *Idle, *Face;
-    };
-    const Row rows[] = {
-        {"down", Control(true, 60), 60, "00:01:00", "00:00:00"},
-        {"up: first tick past the limit", Control(false, 60), 61, "00:00:00", "00:01:01"},
-        {"up: the bonus counts as used", Control(false, 60, 0, 5), 56, "00:00:00", "00:00:56"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Name);
-        Set(row.Control);
-        EXPECT_EQ(clock.Face(White), row.Idle);
-        Begin();
-        Tick(row.Ticks - 1);
-        EXPECT_TRUE(host.Fallen.empty());
-        Tick();
-        EXPECT_EQ(host.Fallen, std::vector{White});
-        EXPECT_EQ(clock.Face(White), row.Face);
-        EXPECT_EQ(State().TimerHandle, 1);
-        EXPECT_FALSE(State().TimerRunning || State().GameStarted || State().TurnFlag);
-    }
-    EXPECT_EQ(host.Timers, 0);
-}
-
-TEST_F(ClockTest, EarnedSecondPeriodIsLoadedOnceInPlaceOfTheFlagFall) {
-    for (const bool down : {true, false}) {
-        SCOPED_TRACE(down ? "down" : "up");
-        Set(Control(down, 60, 120, 0, 1));
-        Begin();
-        Move();  // Black's first move of one: earned
-        EXPECT_TRUE(State().SecondPeriodDue[Black]);
-        Tick(60);
-        if (!down) Tick();
-        EXPECT_TRUE(host.Fallen.empty());
-        EXPECT_FALSE(State().SecondPeriodDue[Black]);
-        EXPECT_EQ(down ? State().PlayerTime[Black] : State().Control.PeriodLimit[Black], down ? 120 : 180);
-        Tick(120);
-        EXPECT_EQ(host.Fallen, std::vector{Black});
-    }
-}
-
-TEST_F(ClockTest, SecondPeriodOfNoTimeIsNone) {
-    Set(Control(true, 60));
-    Change([](modClock::ClockState& state) {
-        state.Control.SecondPeriodEnabled = true;
-        state.SecondPeriodArmed.fill(true);
-    });
-    Begin();
-    EXPECT_TRUE(State().SecondPeriodDue[White]) << "more than no time is left";
-    Tick(60);
-    EXPECT_EQ(host.Fallen, std::vector{White});
-    EXPECT_EQ(State().PlayerTime[White], 0);
-}
-
-TEST_F(ClockTest, DivisorsOfTheTwoSidesDifferByOne) {
-    Set(Control(true, 600, 900, 0, 3));
-    Begin();
-    std::vector<std::array<int32_t, 2>> earned;
-    for (int press = 1; press < 20; ++press) {
-        Change([](modClock::ClockState& state) { state.SecondPeriodDue = {}; });
-        Move();
-        for (Side side : BothSides) {
-            if (State().SecondPeriodDue[side]) earned.push_back({side, State().MoveCount[side]});
+// Plays a script and says all that the clock then holds: both faces with the counts, whose turn it is, the timer's
+// handle. "press" is of the side that runs, "7s" seven ticks, "handle=1" what the system gives from here on; the other
+// words with "=" set what would take long to reach.
+std::string Played(const Setting& setting, const std::string& script) {
+    FakeTimer timer;
+    modClock::Clock clock(timer);
+    TimeControl control{
+        .CountTimeDown = setting.Down, .SecondPeriodEnabled = setting.Second > 0, .MovesFirstPeriod = setting.Moves};
+    control.PeriodLimit.fill(setting.First);
+    control.SecondPeriodTime.fill(setting.Second);
+    control.MoveBonus.fill(setting.Bonus);
+    clock.InitialiseClock(control);
+    std::string said;
+    std::istringstream words(script);
+    for (std::string word; words >> word;) try {
+            const size_t sign = word.find('=');
+            const int32_t number = sign == std::string::npos ? 0 : std::stoi(word.substr(sign + 1));
+            modClock::ClockState state = clock.State();
+            const std::string what = word.substr(0, sign);
+            if (what == "press") {
+                if (clock.PressClock(clock.TurnSide()) != modClock::PressOutcome::Counted) said += ", refused";
+            } else if (what == "pause") {
+                clock.PauseClock();
+            } else if (what == "resume") {
+                said += clock.ResumeClock() ? "" : ", refused";
+            } else if (what == "handle") {
+                timer.Handle = number;
+            } else if (word.ends_with('s')) {
+                for (int left = std::stoi(word); left > 0; --left)
+                    if (clock.ClockTick() == modClock::TickOutcome::FlagFell) said += ", flag";
+            } else {
+                if (what == "limit") state.Control.PeriodLimit.fill(number);
+                if (what == "time") state.PlayerTime[White] = number;
+                if (what == "white") state.MoveCount[White] = number;
+                if (what == "black") state.MoveCount[Black] = number;
+                if (what == "second") {
+                    state.Control.SecondPeriodEnabled = true;
+                    state.SecondPeriodArmed.fill(true);
+                }
+                clock.Restore(state);
+            }
+        } catch (const RunTimeError&) {
+            said += ", overflow";
         }
-    }
-    EXPECT_EQ(earned,
-              (std::vector<std::array<int32_t, 2>>{{Black, 3}, {White, 4}, {Black, 6}, {White, 8}, {Black, 9}}));
-}
-
-TEST_F(ClockTest, LongerFirstPeriodEarnsTheSecondAtTheFirstPressOnce) {
-    Set(Control(true, 600, 300));
-    EXPECT_EQ(State().SecondPeriodArmed, (std::array{true, true}));
-    Begin();
-    EXPECT_TRUE(State().SecondPeriodDue[White]);
-    EXPECT_FALSE(State().SecondPeriodDue[Black]);
-    EXPECT_EQ(State().SecondPeriodArmed, (std::array{false, true}));
-    Change([](modClock::ClockState& state) { state.SecondPeriodDue = {}; });
-    Move();
-    Move();
-    EXPECT_FALSE(State().SecondPeriodDue[White]) << "armed once only";
-
-    Set(Control(true, 600));
-    EXPECT_EQ(State().SecondPeriodArmed, (std::array{false, false})) << "no second period";
-}
-
-TEST_F(ClockTest, BonusGoesToThePressedSideButNotAtTheFirstPress) {
-    for (const bool down : {true, false}) {
-        SCOPED_TRACE(down ? "down" : "up");
-        Set(Control(down, 60, 60, 5));
-        Begin();
-        const int32_t start = down ? 60 : 0;
-        EXPECT_EQ(State().PlayerTime, (std::array{start, start}));
-        Move();
-        EXPECT_EQ(State().PlayerTime, (std::array{start + 5, start}));
-        Move();
-        EXPECT_EQ(State().PlayerTime, (std::array{start + 5, start + 5}));
-    }
-}
-
-TEST_F(ClockTest, CountsOutOfStepStandStill) {
-    Set(Control(true, 60));
-    Begin();
-    Change([](modClock::ClockState& state) { state.MoveCount = {3, 4}; });
-    Tick();
-    EXPECT_EQ(State().PlayerTime[White], 60);
-}
-
-TEST_F(ClockTest, PauseAndResumeKeepTimesAndAskDifferentHandles) {
-    Set(Control(true, 60));
-    Begin();
-    Tick(7);
-    clock.PauseClock();
-    EXPECT_EQ(State().TimerHandle, 1);
-    EXPECT_EQ(host.Timers, 0);
-    host.HandleToGive = 0;
-    EXPECT_FALSE(clock.ResumeClock());
-    EXPECT_FALSE(State().TimerRunning);
-    host.HandleToGive = 1;
-    EXPECT_TRUE(clock.ResumeClock()) << "a resume takes any handle";
-    EXPECT_EQ(clock.Face(White), "00:00:53");
-
-    Set(Control(true, 60));
-    EXPECT_EQ(clock.PressClock(Black), modClock::PressOutcome::TimerNotCreated) << "a start wants more than 1";
-    EXPECT_TRUE(clock.Untouched());
-    EXPECT_FALSE(State().TurnFlag);
-    EXPECT_EQ(State().PlayerTime[White], 0);
-    EXPECT_EQ(State().TimerHandle, 0);
-    host.HandleToGive = 2;
-    EXPECT_EQ(clock.PressClock(Black), modClock::PressOutcome::Counted);
-}
-
-TEST_F(ClockTest, OverflowIsAnErrorThatChangesNothing) {
-    Set(Control(true, 60, 0, 5));
-    Begin();
-    Change([](modClock::ClockState& state) { state.PlayerTime[White] = Most - 2; });
-    EXPECT_THROW(Move(), RunTimeError);
-    EXPECT_EQ(State().PlayerTime[White], Most - 2);
-    EXPECT_TRUE(State().TurnFlag);
-
-    Change([](modClock::ClockState& state) {
-        state.PlayerTime[White] = 0;
-        state.MoveCount = {Most, Most};
-        state.TurnFlag = false;
-    });
-    EXPECT_THROW(Move(), RunTimeError) << "move count";
-
-    Change([](modClock::ClockState& state) {
-        state.Control.CountTimeDown = false;
-        state.MoveCount = {1, 0};
-        state.TurnFlag = true;
-        state.PlayerTime[White] = Most - 3;
-        state.Control.PeriodLimit.fill(Most);
-    });
-    EXPECT_THROW(Tick(), RunTimeError) << "used time with the bonus";
-    EXPECT_EQ(State().PlayerTime[White], Most - 3);
+    const modClock::ClockState& state = clock.State();
+    std::ostringstream text;
+    for (Side side : BothSides)
+        text << clock.Face(side) << ' ' << state.MoveCount[side] << (state.SecondPeriodDue[side] ? " due" : "")
+             << (state.SecondPeriodArmed[side] ? " armed" : "") << (side == White ? ", " : "; ");
+    text << (state.TurnFlag ? "White" : "Black") << (state.GameStarted ? " " : " over ") << state.TimerHandle
+         << (state.TimerRunning ? " runs" : "") << said;
+    return text.str();
 }
 
 }  // namespace
+
+TEST(modClockTest, Games) {
+    struct Row {
+        const char* Name;
+        Setting Control;
+        const char *Script, *State;
+    };
+    const Row rows[] = {
+        {"idle, down", {true, 3665}, "", "01:01:05 0, 01:01:05 0; Black over 0"},
+        {"idle, up", {false, 300}, "", "00:00:00 0, 00:00:00 0; Black over 0"},
+        {"first press", {true, 300}, "press", "00:05:00 1, 00:05:00 0; White 32767 runs"},
+        {"turns", {true, 300}, "press 3s press 2s press", "00:04:57 2, 00:04:58 1; White 32767 runs"},
+        {"last second", {true, 60}, "press 59s", "00:00:01 1, 00:01:00 0; White 32767 runs"},
+        {"flag", {true, 60}, "press 60s", "00:00:00 1, 00:01:00 0; Black over 1, flag"},
+        {"Black's flag", {true, 60}, "press press 60s", "00:01:00 1, 00:00:00 1; Black over 1, flag"},
+        {"up: the limit", {false, 60}, "press 60s", "00:01:00 1, 00:00:00 0; White 32767 runs"},
+        {"up: past it", {false, 60}, "press 61s", "00:01:01 1, 00:00:00 0; Black over 1, flag"},
+        {"up: the bonus is time used", {false, 60, 0, 5}, "press 55s", "00:00:55 1, 00:00:00 0; White 32767 runs"},
+        {"up: and fells the flag", {false, 60, 0, 5}, "press 56s", "00:00:56 1, 00:00:00 0; Black over 1, flag"},
+        {"second period is earned at N moves of Black's, N + 1 of White's",
+         {true, 600, 900, 0, 3},
+         "press press press press press",
+         "00:10:00 3 armed, 00:10:00 2 armed; White 32767 runs"},
+        {"Black's N",
+         {true, 600, 900, 0, 3},
+         "press press press press press press",
+         "00:10:00 3 armed, 00:10:00 3 due; Black 32767 runs"},
+        {"White's N + 1",
+         {true, 600, 900, 0, 3},
+         "press press press press press press press",
+         "00:10:00 4 due, 00:10:00 3 due; White 32767 runs"},
+        {"it takes the place of the flag, with its moves made",
+         {true, 60, 120, 0, 1},
+         "press press 60s",
+         "00:01:00 1 armed, 00:02:00 1; Black 32767 runs"},
+        {"a second period of one second",
+         {true, 60, 1, 0, 1},
+         "second=0 press press 60s",
+         "00:01:00 1 due, 00:00:01 1; Black 32767 runs"},
+        {"once", {true, 60, 120, 0, 1}, "press press 180s", "00:01:00 1 armed, 00:00:00 1; Black over 1, flag"},
+        {"up: the limit grows",
+         {false, 60, 120, 0, 1},
+         "press press 61s",
+         "00:00:00 1 armed, 00:01:01 1; Black 32767 runs"},
+        {"up: once", {false, 60, 120, 0, 1}, "press press 181s", "00:00:00 1 armed, 00:03:01 1; Black over 1, flag"},
+        {"more time left than the second period earns it, at a side's first move",
+         {true, 600, 300},
+         "press",
+         "00:10:00 1 due, 00:10:00 0 armed; White 32767 runs"},
+        {"as much does not", {true, 300, 300}, "press", "00:05:00 1 armed, 00:05:00 0 armed; White 32767 runs"},
+        {"by time once, then by moves",
+         {true, 600, 300, 0, 9},
+         "press 600s press 1s press",
+         "00:05:00 2, 00:09:59 1 due; White 32767 runs"},
+        {"a second period of no time is none, counting down",
+         {true, 60, 0, 0, 1},
+         "press second=1 resume press 60s",
+         "00:01:00 1 armed, 00:00:00 1; Black over 1, flag"},
+        {"bonus: none at the first press",
+         {true, 60, 60, 5},
+         "press",
+         "00:01:00 1 armed, 00:01:00 0 armed; White 32767 runs"},
+        {"bonus of the side that pressed",
+         {true, 60, 60, 5},
+         "press press",
+         "00:01:05 1 armed, 00:01:00 1 armed; Black 32767 runs"},
+        {"up: bonus", {false, 60, 60, 5}, "press press press", "00:00:05 2 armed, 00:00:05 1 armed; White 32767 runs"},
+        {"counts out of step stop it",
+         {true, 60},
+         "press white=3 black=4 resume 1s",
+         "00:01:00 3, 00:01:00 4; White 32767 runs"},
+        {"and by two", {true, 60}, "press white=5 black=3 resume 1s", "00:01:00 5, 00:01:00 3; White 32767 runs"},
+        {"pause", {true, 60}, "press 7s pause", "00:00:53 1, 00:01:00 0; White 1"},
+        {"resume", {true, 60}, "press 7s pause resume 1s", "00:00:52 1, 00:01:00 0; White 32767 runs"},
+        {"resume refused", {true, 60}, "press pause handle=0 resume", "00:01:00 1, 00:01:00 0; White 0, refused"},
+        {"a resume takes any handle",
+         {true, 60},
+         "press pause handle=1 resume",
+         "00:01:00 1, 00:01:00 0; White 1 runs"},
+        {"with a handle of 1 a press adds no bonus",
+         {true, 60, 0, 5},
+         "press 7s pause handle=1 resume press",
+         "00:00:53 1, 00:01:00 1; Black 1 runs"},
+        {"with one of 2 it does", {true, 60, 0, 5}, "handle=2 press press", "00:01:05 1, 00:01:00 1; Black 2 runs"},
+        {"taken over, moves leave a handle of 1",
+         {true, 60},
+         "white=0 black=1",
+         "00:00:00 0, 00:00:00 1; Black over 1"},
+        {"White's too", {true, 60}, "white=1", "00:00:00 1, 00:00:00 0; Black over 1"},
+        {"no move leaves none", {true, 60}, "white=0", "00:01:00 0, 00:01:00 0; Black over 0"},
+        {"a start wants more than 1", {true, 60}, "handle=1 press", "00:01:00 0, 00:01:00 0; Black over 0, refused"},
+        {"2 will do", {true, 60}, "handle=2 press", "00:01:00 1, 00:01:00 0; White 2 runs"},
+        {"overflow by the bonus",
+         {true, 60, 0, 5},
+         "press time=2147483645 resume press",
+         "596523:14:05 1, 00:01:00 0; White 32767 runs, overflow"},
+        {"overflow of the count",
+         {true, 60},
+         "press white=2147483647 black=2147483647 resume press",
+         "00:01:00 2147483647, 00:01:00 2147483647; White 32767 runs, overflow"},
+        {"overflow of the time used with the bonus",
+         {false, 60, 0, 5},
+         "press limit=2147483647 time=2147483642 resume 1s",
+         "596523:14:02 1, 00:00:00 0; White 32767 runs, overflow"},
+        {"overflow of the limit",
+         {false, 60, 5, 0, 1},
+         "press press press press limit=2147483646 time=2147483646 resume press 1s",
+         "596523:14:06 3 due, 00:00:00 2 due; White 32767 runs, overflow"},
+    };
+    for (const Row& row : rows) EXPECT_EQ(Played(row.Control, row.Script), row.State) << row.Name;
+}

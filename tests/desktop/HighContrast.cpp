@@ -52,9 +52,7 @@ struct Paper {
         for (LONG y = 0; y < Height; y += 2) {
             for (LONG x = 0; x < Width; x += 2) ++counts[GetPixel(Dc.get(), x, y)];
         }
-        const auto less = [](const auto& one, const auto& other) {
-            return one.second < other.second;
-        };
+        const auto less = [](const auto& one, const auto& other) { return one.second < other.second; };
         return std::max_element(counts.begin(), counts.end(), less)->first;
     }
 };

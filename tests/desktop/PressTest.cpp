@@ -10,9 +10,7 @@ namespace {
 // button and the focus.
 void ExpectTurn(ProgramRun& run, int white, int black) {
     const Side turn = white > black ? White : Black;
-    const auto counts = [&] {
-        return run.Text(lblMoveCount) + run.Text(lblMoveCount + 1);
-    };
+    const auto counts = [&] { return run.Text(lblMoveCount) + run.Text(lblMoveCount + 1); };
     const std::wstring wanted = std::to_wstring(white) + L"." + std::to_wstring(black) + L".";
     const bool reached = Eventually([&] {
         return counts() == wanted && run.Enabled(ControlOf(cmdClock, turn)) &&

@@ -338,9 +338,7 @@ TEST_F(SoakTest, HoldsAtTheEndWhatItHeldOnceAllWasUsed) {
     const int seconds = wanted ? std::atoi(wanted) : 60;
     ASSERT_GT(seconds, 0) << wanted;
     const ULONGLONG start = GetTickCount64();
-    const auto elapsed = [&] {
-        return static_cast<int>((GetTickCount64() - start) / 1000);
-    };
+    const auto elapsed = [&] { return static_cast<int>((GetTickCount64() - start) / 1000); };
     Start();
     HelpViewer();
     for (int i = 0; i < WarmUpCycles && !HasFailure(); ++i) Cycle();

@@ -26,9 +26,7 @@ void ExpectFitsControl(HWND control) {
     std::array<wchar_t, 256> kind{}, text{};
     GetClassNameW(control, kind.data(), static_cast<int>(kind.size()));
     GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
-    const auto is = [&](const wchar_t* name) {
-        return lstrcmpiW(kind.data(), name) == 0;
-    };
+    const auto is = [&](const wchar_t* name) { return lstrcmpiW(kind.data(), name) == 0; };
     const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE));
     if (is(L"STATIC")) {
         const DWORD type = style & SS_TYPEMASK;

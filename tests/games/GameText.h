@@ -42,9 +42,7 @@ inline std::string ListText(const MoveLists& lists) {
 
 // Enters a move given as "e2e4" or "e7e8q".
 inline void Enter(Recorder& recorder, std::string_view move) {
-    const auto square = [&](size_t at) {
-        return SquareAt(move[at] - 'a' + 1, move[at + 1] - '0');
-    };
+    const auto square = [&](size_t at) { return SquareAt(move[at] - 'a' + 1, move[at + 1] - '0'); };
     recorder.Play(square(0), square(2));
     if (move.size() > 4) recorder.Promote(KindOfLetter(static_cast<char>(move[4] - 'a' + 'A')));
 }

@@ -15,13 +15,17 @@
 
 namespace {
 
-struct SilentHost : ScorletHost {
-    std::array<int32_t, 2> MoveCounts() const override { return {}; }
-    void PressEnabledClock() override {}
-    void PauseForResult() override {}
-    void PrintMoveList() override {}
-    void CloseScorlet() override {}
-    void ScorletDestroyed() override {}
+struct SilentGame : ScorletGame {
+    Recorder Record;
+    RecordView* View = nullptr;
+
+    Recorder& OpenRecord(RecordView& view) override {
+        View = &view;
+        return Record;
+    }
+    void CloseRecord() override {}
+    void Declare(Declaration) override {}
+    void PressEnabledButton() override {}
 };
 
 class frmScorletTest : public testing::TestWithParam<int32_t> {
@@ -29,8 +33,9 @@ class frmScorletTest : public testing::TestWithParam<int32_t> {
     const int32_t language = GetParam();
     const Texts texts{language};
     const MessageBoxes messageBoxes{texts};
-    SilentHost host;
-    frmScorlet form{host, texts, messageBoxes};
+    const Environment environment;
+    SilentGame game;
+    frmScorlet form{{texts, messageBoxes, environment}, game, nullptr};
 
     void SetUp() override {
         const SIZE size = frmScorlet::DesignSize(96);
@@ -83,8 +88,8 @@ TEST_P(frmScorletTest, ScreenReadersNameEveryControlInReadingOrder) {
     EXPECT_EQ(Name(imgCapturedBP), names.Captured);
     Key(VK_INSERT);
     EXPECT_EQ(Name(picBoard), names.Board);
-    form.Record().Play(SquareAt(5, 7), SquareAt(5, 8));
-    form.ShowRecord();
+    game.Record.Play(SquareAt(5, 7), SquareAt(5, 8));
+    game.View->RecordChanged({});
     for (const int id : {int{txtMove}, int{cmdOK}}) form.SetVisible(id, true);
     expectAll();
 }

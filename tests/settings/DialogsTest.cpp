@@ -25,6 +25,8 @@ class DialogsTest : public testing::TestWithParam<int32_t> {
     MessageBoxes messageBoxes{texts};
     TestFolder folder;
     SettingsFile file{folder.Path()};
+    const Environment environment{.Look = AppearanceOf("NONE")};
+    const Surroundings around{texts, messageBoxes, environment};
 
     static void ExpectWellMade(HWND dialog) {
         ExpectNamed(dialog);
@@ -47,14 +49,14 @@ TEST_P(DialogsTest, SetupTextsFitInEveryClockType) {
         SCOPED_TRACE(type);
         settings.SetClockType(type);
         settings.Control.MovesFirstPeriod = 100;
-        frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});
+        frmSetup setup(around, file, settings, [](HWND) {});
         setup.Open(nullptr);
         ExpectWellMade(setup.Window());
     }
 }
 
 TEST_P(DialogsTest, AboutShowsTheVersionResourceWhole) {
-    frmAbout about(texts, messageBoxes, 0xBFBFBF);
+    frmAbout about(around);
     about.Open(nullptr);
     EXPECT_EQ(TextOf(about.Control(lblAboutValue)),
               L"The program, its pictures and its sounds are the work of the TORVANIX team.");
@@ -65,17 +67,14 @@ TEST_P(DialogsTest, AboutShowsTheVersionResourceWhole) {
 }
 
 TEST_P(DialogsTest, FilesTextsFitInEveryMode) {
-    struct : GameHost {
-        GameFiles FilesOfGame() override { return {}; }
-        void GameSaved() override {}
-        const Settings& PresentSettings() const override { return Settings; }
-        void TakeGame(const std::wstring&, SavedGame&) override {}
-        void OpenHelp(HWND) override {}
-        Settings Settings;
-    } host;
+    struct : modClock::Timer {
+        int32_t Set() override { return 0; }
+        int32_t Kill(int32_t) override { return 1; }
+    } timer;
+    Game game(settings, timer);
     const GameStore games(folder.Path());
     for (FilesMode mode : {FilesMode::Load, FilesMode::Save, FilesMode::Delete}) {
-        frmFiles files(texts, messageBoxes, 0xBFBFBF, games, host, mode);
+        frmFiles files(around, games, game, mode, [](HWND) {});
         files.Open(nullptr);
         ExpectWellMade(files.Window());
     }
@@ -96,7 +95,7 @@ TEST_P(DialogsTest, SetupNamesItsBarsByWhatTheySet) {
     const Names& names = rows[GetParam() - 1];
     settings.SetClockType(2);
     settings.Control.MoveBonus = {7, 7};
-    frmSetup setup(texts, messageBoxes, 0xBFBFBF, file, settings, [](HWND) {});
+    frmSetup setup(around, file, settings, [](HWND) {});
     setup.Open(nullptr);
     EXPECT_EQ(SpokenName(setup.Control(hsbFirstPeriod)), names.First);
     EXPECT_EQ(SpokenName(setup.Control(hsbBonus + 1)), names.Bonus);

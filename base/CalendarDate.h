@@ -1,0 +1,5 @@
+#pragma once
+
+struct CalendarDate {
+    int Year, Month, Day;  // month and day from 1
+};

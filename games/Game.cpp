@@ -1,0 +1,127 @@
+#include "games/Game.h"
+
+void Game::Begin(ClockView& view) {
+    clockView = &view;
+    Reset();
+}
+
+void Game::Press(Side button) {
+    const Phase before = clock.CurrentPhase();
+    if (clock.ClockButtonEnabled(button)) clockView->PlaySound(ClockSound::Button);
+    // Playing takes time, and a tick that the system let through meanwhile may have ended the game.
+    if (clock.CurrentPhase() != before) return;
+    const ClockEvent event = clock.Press(button);
+    const Side running = clock.Clock().TurnSide();
+    ClockChange change{.Phase = true};
+    change.Faces[Other(running)] = true;
+    Show(event, change);
+    if (event != ClockEvent::Changed || !record) return;
+    if (const auto line = record->AddLineForPress(before == Phase::Idle, running)) {
+        ChosenLines chosen;
+        chosen[line->List] = line->Index;
+        recordView->RecordChanged(chosen);
+    }
+}
+
+void Game::PressEnabledButton() {
+    for (Side side : BothSides) {
+        if (clock.ClockButtonEnabled(side)) return Press(side);
+    }
+    if (clock.CurrentPhase() == Phase::Fallen) Press(White);
+}
+
+void Game::Start() {
+    if (clock.CurrentPhase() == Phase::Running && !clockView->AskReset()) return;
+    if (clock.CurrentPhase() != Phase::Idle) Reset();
+    PressEnabledButton();
+}
+
+void Game::Tick() {
+    ClockChange change;
+    change.Faces[clock.Clock().TurnSide()] = true;
+    const ClockEvent event = clock.Tick();
+    change.Phase = event != ClockEvent::Ticked;
+    Show(event, change);
+}
+
+void Game::AskedReset() {
+    if (clockView->AskReset()) Reset();
+}
+
+void Game::AskedResetIfStarted() {
+    const bool somethingToLose = clock.Clock().State().GameStarted || (record && record->MovesWritten());
+    if (!somethingToLose || clockView->AskReset()) Reset();
+}
+
+void Game::Reset() {
+    ReplaceRecord({});
+    clockView->ReadSettings();
+    TakeSettings();
+}
+
+void Game::TakeSettings() {
+    clock.Initialise(settings.Control);
+    ShowWhole();
+    if (record) recordView->RecordChanged({});
+}
+
+Recorder& Game::OpenRecord(RecordView& view) {
+    recordView = &view;
+    return record.emplace();
+}
+
+void Game::CloseRecord() {
+    record.reset();
+    recordView = nullptr;
+}
+
+void Game::Declare(Declaration declaration) {
+    const bool over = record->HasResult();
+    recordView->RecordChanged(record->Declare(declaration, clock.Clock().State().MoveCount));
+    if (!over && record->HasResult()) Show(clock.PauseIfRunning());
+}
+
+void Game::TopUpMoveLists() {
+    if (record) recordView->RecordChanged(record->TopUpMoveLists(clock.Clock().State().MoveCount));
+}
+
+GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const {
+    Settings shown = settings;
+    shown.PlayerNames = names;
+    const modClock::ClockState& state = clock.Clock().State();
+    std::optional<Recorder> filled = record;
+    if (filled) filled->TopUpMoveLists(state.MoveCount);
+    return EncodeGame(shown, state, filled ? &*filled : nullptr, today);
+}
+
+void Game::TakeLoadedGame(const SavedGame& saved) {
+    settings = saved.Options;
+    clock.TakeLoadedGame(saved.Clock);
+    ShowWhole();
+    ReplaceRecord(saved.Scorlet);
+}
+
+void Game::Show(ClockEvent event, ClockChange change) {
+    switch (event) {
+        case ClockEvent::Ignored: return;
+        case ClockEvent::Ticked:
+        case ClockEvent::Changed: return clockView->ClockChanged(change);
+        case ClockEvent::FlagFell:
+            if (record) {
+                record->FlagFell(clock.Clock().State().ActiveSide);
+                recordView->RecordChanged({});
+            }
+            clockView->ClockChanged(change);
+            return clockView->PlaySound(ClockSound::Flag);
+        case ClockEvent::Overflow: clockView->ClockChanged(change); return clockView->Inform(event);
+        default: return clockView->Inform(event);
+    }
+}
+
+void Game::ShowWhole() { clockView->ClockChanged({.Faces = {true, true}, .Phase = true}); }
+
+void Game::ReplaceRecord(const Recorder& other) {
+    if (!record) return;
+    *record = other;
+    recordView->RecordReplaced();
+}

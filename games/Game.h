@@ -1,0 +1,89 @@
+#pragma once
+
+#include "clock/ClockCommands.h"
+#include "games/GameCodec.h"
+#include "recorder/ScorletGame.h"
+#include "settings/Settings.h"
+
+#include <optional>
+
+// What has changed on the clock.
+struct ClockChange {
+    std::array<bool, 2> Faces{};  // by side; to be drawn first
+    bool Phase = false;           // buttons, marks, flags, captions and move numbers
+};
+
+enum class ClockSound { Button, Flag };
+
+// The clock's window, as the game needs it.
+class ClockView {
+  public:
+    virtual void ClockChanged(const ClockChange& change) = 0;
+    virtual void PlaySound(ClockSound sound) = 0;  // returns when it has ended
+    virtual void Inform(ClockEvent event) = 0;     // one that the players are to be told of
+    virtual bool AskReset() = 0;                   // true: the players want the reset
+    virtual void ReadSettings() = 0;               // the user's own, into those that the game was made with
+
+  protected:
+    ~ClockView() = default;
+};
+
+// A game as one thing: the clock with its commands and, while the Scorlet is open, the record. What concerns both is
+// said here: a press ends a move and gives the other side its line, a fallen flag writes the result, a result pauses
+// the clock, saving fills the lists up to the clock's counts, and a load or a reset replaces both.
+class Game final : public ScorletGame {
+  public:
+    // Both must outlive the game.
+    Game(Settings& settings, modClock::Timer& timer) : settings(settings), clock(timer) {}
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    // Begins with an idle clock, shown in a window. It must come before everything else; the window may be gone after
+    // Unload.
+    void Begin(ClockView& view);
+
+    const ClockCommands& Clock() const { return clock; }
+    // Null while the Scorlet is closed.
+    const Recorder* Record() const { return record ? &*record : nullptr; }
+    const Settings& Options() const { return settings; }
+
+    void Press(Side button);
+    void PressEnabledButton() override;  // White's where a flag has fallen: the players are told then
+    void Start();
+    void PauseOrResume() { Show(clock.PauseOrResume()); }
+    void PauseOrResume(Side button) { Show(clock.PauseOrResume(button)); }
+    void PressKeyP() { Show(clock.PressKeyP()); }
+    void Tick();
+
+    void AskedReset();           // asks first, as a click on a flag does
+    void AskedResetIfStarted();  // asks first when there is a game to lose
+    void Reset();
+    // The settings have been changed while the clock was idle.
+    void TakeSettings();
+
+    Recorder& OpenRecord(RecordView& view) override;
+    void CloseRecord() override;
+    void Declare(Declaration declaration) override;
+    // Fills the lists up to the clock's counts.
+    void TopUpMoveLists();
+
+    // The files of the game as it is, with its lists filled up to the clock's counts; the record itself stays as it is.
+    // `names` are those that the clock shows, in the ANSI code page.
+    GameFiles Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const;
+    // Takes the place of what was, the settings included. The Scorlet must be open.
+    void TakeLoadedGame(const SavedGame& saved);
+
+    // Stops the timer before the program ends.
+    void Unload() { Show(clock.Unload()); }
+
+  private:
+    void Show(ClockEvent event, ClockChange change = {.Phase = true});
+    void ShowWhole();
+    void ReplaceRecord(const Recorder& other);
+
+    Settings& settings;
+    ClockCommands clock;
+    ClockView* clockView = nullptr;
+    std::optional<Recorder> record;
+    RecordView* recordView = nullptr;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "recorder/Recorder.h"
+
+// A window that shows the record.
+class RecordView {
+  public:
+    // The game has added to the record; the lines are to be shown as chosen.
+    virtual void RecordChanged(const ChosenLines& chosen) = 0;
+    // The record has become another one: what was under way in the window is over.
+    virtual void RecordReplaced() = 0;
+
+  protected:
+    ~RecordView() = default;
+};
+
+// What the Scorlet needs from the game: its record, and what concerns the clock too.
+class ScorletGame {
+  public:
+    // A new record, which lasts until CloseRecord. There is at most one.
+    virtual Recorder& OpenRecord(RecordView& view) = 0;
+    virtual void CloseRecord() = 0;
+
+    virtual void Declare(Declaration declaration) = 0;
+    virtual void PressEnabledButton() = 0;  // the clock button that can be pressed
+
+  protected:
+    ~ScorletGame() = default;
+};
