@@ -43,7 +43,7 @@ void ClockCommands::Press(Side button) {
     // Playing takes time, and a tick that the system let through meanwhile may have ended the game.
     if (CurrentPhase() != phase || clock.State().CountsOutOfStep()) return;
 
-    // Whoever presses first, side 0's clock must run: the counts would be out of step for ever otherwise.
+    // Whoever presses first, side 0's clock must run: otherwise the counts would be out of step for good.
     const Side pressed = phase == Phase::Idle ? Black : button;
     try {
         if (clock.PressClock(pressed) == modClock::PressOutcome::TimerNotCreated)
@@ -59,7 +59,7 @@ void ClockCommands::Press(Side button) {
 
 void ClockCommands::Start() {
     if (CurrentPhase() == Phase::Running && !view.AskReset()) return;
-    // A timer call that failed leaves no handle behind; the game that it stopped is over all the same.
+    // A failed timer call leaves no handle, but the game that it stopped is over all the same.
     if (clock.State().TimerHandle >= 1 || CurrentPhase() != Phase::Idle) Reset();
     for (Side side : BothSides) {
         if (ClockButtonEnabled(side)) return Press(side);

@@ -20,7 +20,7 @@ enum class Notice {
     HowToRestart,  // refused because a flag has fallen
 };
 
-// The clock button that a mouse button pressed on a panel stands for. Turning the clock swaps the two.
+// The clock button that a mouse button presses when it is used on a panel. Turning the clock swaps the two.
 constexpr Side ButtonOfMouse(bool rightButton, bool turnClock) { return rightButton != turnClock ? Black : White; }
 
 enum class BlinkMark { ToMove, Paused };
@@ -32,7 +32,7 @@ class ClockView {
     virtual int32_t KillTimer(int32_t handle) = 0;  // 1, or 0 on failure
     virtual void FaceChanged(Side side) = 0;
     virtual void MoveNumbersChanged() = 0;
-    virtual void PhaseChanged() = 0;  // buttons, marks, flags and captions are to be shown anew
+    virtual void PhaseChanged() = 0;  // buttons, marks, flags and captions must be shown anew
     virtual void FocusClockButton(Side side) = 0;
     virtual void FocusPauseButton(Side side) = 0;
     virtual void PlayButtonSound() = 0;
@@ -44,17 +44,17 @@ class ClockView {
     virtual void MoveBegun(bool firstPress, Side running) = 0;  // after a press
     virtual void RecordFlagFall(Side side) = 0;
     virtual void ResetRecorder() = 0;
-    // The user's time control, read anew; the window shows what else the settings say.
+    // The user's time control, read anew. What else the settings say is up to the window.
     virtual TimeControl ReadTimeControl() = 0;
-    // Time to say what went wrong in the reading: the clock stands initialised.
+    // Called once the clock is initialised, when the window can say what went wrong in the reading.
     virtual void TellReadingProblems() = 0;
 
   protected:
     ~ClockView() = default;
 };
 
-// What the players can do with the clock and what the window shows of it: the window's rules without a window.
-// No command lets an exception out.
+// What the players can do with the clock and what the window shows of it: the rules of the window, without a window. No
+// exception leaves a command.
 class ClockCommands final : private modClock::ClockHost {
   public:
     // The view must outlive the commands. Initialise must follow before any other command.
@@ -65,19 +65,19 @@ class ClockCommands final : private modClock::ClockHost {
     Phase CurrentPhase() const;
     bool ClockButtonEnabled(Side side) const;
     bool PauseButtonEnabled(Side side) const;
-    bool ReadsResume(Side side) const;  // the side's pause button; else it reads "Pause"
+    bool ReadsResume(Side side) const;  // the side's pause button; otherwise it reads "Pause"
     bool TurnMarksVisible(Side side) const { return CurrentPhase() == Phase::Running && side == clock.TurnSide(); }
     bool FlagFallen(Side side) const { return fallenSide == side; }
     bool SetupEnabled() const { return CurrentPhase() == Phase::Idle; }
 
-    // The side whose blinking mark blinks, and what it shows when it is on.
+    // The side whose mark blinks, and what the mark shows while it is on.
     std::optional<Side> BlinkingSide() const;
     BlinkMark BlinkText() const { return blinkText; }
 
-    // An idle clock with the user's time control.
+    // Leaves an idle clock with the user's time control.
     void Initialise();
 
-    // An idle clock with another one, as if none had ever been started; for when SetupEnabled.
+    // Leaves an idle clock with another time control, as if no game had ever been started. Only while SetupEnabled.
     void TakeTimeControl(const TimeControl& control);
 
     void Press(Side button);
@@ -86,19 +86,19 @@ class ClockCommands final : private modClock::ClockHost {
     void PauseOrResume(Side button);  // that side's pause button
     void PressKeyP();
 
-    void PauseIfRunning();  // when the players have ended the game otherwise
+    void PauseIfRunning();  // when the players have ended the game in another way
 
     void AskedReset();           // asks first, as a click on a flag does
     void AskedResetIfStarted();  // asks first when there is a game to lose
     void Reset();
 
-    // The clock of a saved game, whatever stood before: paused when the game was under way, fallen for the side that
-    // was to move when it was over, else idle. The counts must be in step.
+    // Takes the clock of a saved game in place of the present one: paused if the game was under way, with the flag of
+    // the side to move fallen if it was over, otherwise idle. The counts must be in step.
     void TakeLoadedGame(const modClock::ClockState& loaded);
 
     void Tick();
 
-    // Stops the timer before the window goes.
+    // Stops the timer before the window is gone.
     void Unload();
 
   private:

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <functional>
 
-// The one-second timer. Its calls come between the messages of the thread that set it, also while a menu or a message
-// box is open. There is one of it in the program.
+// The one-second timer. Its calls come between the messages of the thread that set it, even while a menu or a message
+// box is open. The program has only one.
 class TickTimer {
   public:
     explicit TickTimer(std::function<void()> tick);
@@ -14,10 +14,10 @@ class TickTimer {
     TickTimer(const TickTimer&) = delete;
     TickTimer& operator=(const TickTimer&) = delete;
 
-    // Starts it; the handle as SetTimer gives it, 0 on failure.
+    // Starts the timer. Returns the handle that SetTimer gave, 0 on failure.
     int32_t Set();
 
-    // Ends it; 1, or 0 on failure. Calls of an ended timer that are still under way are dropped.
+    // Ends the timer. Returns 1, or 0 on failure. Calls of an ended timer that are still on their way are dropped.
     int32_t Kill(int32_t handle);
 
   private:

@@ -15,24 +15,24 @@ struct ClockState {
     TimeControl Control;
 
     std::array<int32_t, 2> PlayerTime{};      // seconds left, or used when counting up
-    std::array<bool, 2> SecondPeriodDue{};    // earned, and not yet used
+    std::array<bool, 2> SecondPeriodDue{};    // earned and not yet begun
     std::array<bool, 2> SecondPeriodArmed{};  // the second period may still be earned by the time rule
     std::array<int32_t, 2> MoveCount{};
 
-    // The split of the time that the face shows.
+    // The parts of the time that the face shows.
     std::array<int32_t, 2> TimeHours{}, TimeMinutes{}, TimeSeconds{};
     std::array<std::string, 2> TimeHoursText, TimeMinutesText, TimeSecondsText;
 
     bool TurnFlag = false;  // true: side 0 runs
     Side ActiveSide = Black;
     bool GameStarted = false;
-    int32_t TimerHandle = 0;    // what the last SetTimer or KillTimer gave; 1 is what a kill leaves behind
+    int32_t TimerHandle = 0;    // what the last SetTimer or KillTimer returned; a successful kill leaves 1
     bool TimerRunning = false;  // the one-second timer exists
 
     // True when side 0 has neither as many moves as side 1 nor one more: presses and ticks then change nothing.
     bool CountsOutOfStep() const;
 
-    // The side whose move it is by the counts, which a fallen flag leaves as they are.
+    // The side to move according to the counts, which a fallen flag does not change.
     Side SideByCounts() const { return MoveCount[White] > MoveCount[Black] ? White : Black; }
 };
 
@@ -41,9 +41,9 @@ class ClockHost {
   public:
     virtual int32_t SetTimer() = 0;                 // handle of a new one-second timer, 0 on failure
     virtual int32_t KillTimer(int32_t handle) = 0;  // 1, or 0 on failure
-    virtual void FaceChanged(Side side) = 0;        // the texts of the side's face are new
+    virtual void FaceChanged(Side side) = 0;        // the side's face has new texts
     virtual void MoveNumbersChanged() = 0;          // at ticks and presses
-    virtual void FlagFell(Side side) = 0;           // the clock has stopped; last step of a flag fall
+    virtual void FlagFell(Side side) = 0;           // the clock has stopped; the last step of a flag fall
 
   protected:
     ~ClockHost() = default;
@@ -58,23 +58,23 @@ class Clock {
 
     const ClockState& State() const { return state; }
 
-    // The side whose turn it is, by the turn flag alone.
+    // The side whose turn it is according to the turn flag alone.
     Side TurnSide() const { return state.TurnFlag ? White : Black; }
 
     // True until the first press after a reset.
     bool Untouched() const;
 
-    // Side's face as "HH:MM:SS", of the parts that ShowClock made.
+    // The side's face as "HH:MM:SS", from the parts that ShowClock made.
     std::string Face(Side side) const;
 
     // Takes the time control of the next game. InitialiseClock must follow.
     void SetTimeControl(const TimeControl& control);
 
-    // Takes a whole state as it stands, its timer excepted: a running one goes on, and without one the handle becomes
-    // 1 when a move has been counted, else 0.
+    // Takes a whole state as it is, except for its timer. A running timer goes on; without one the handle becomes 1 if
+    // a move has been counted, otherwise 0.
     void Restore(const ClockState& kept);
 
-    // Times, counts, earned periods and turn back to the start of a game.
+    // Sets times, counts, earned periods and the turn back to the start of a game.
     void InitialiseClock();
 
     // Stops the clock for good: no timer, no game, no trace of an earlier start. InitialiseClock must follow.
@@ -86,12 +86,12 @@ class Clock {
     // One second of the running side. Throws RunTimeError(Fault::Overflow), with nothing changed.
     void ClockTick();
 
-    // A press of clock button `button`: its side's move is over. The first one of a game starts the timer; when that
-    // fails everything is as before the press. Throws RunTimeError(Fault::Overflow), with nothing changed.
+    // A press of clock button `button`, whose side has moved. The first press of a game starts the timer; if that
+    // fails, everything is as it was before the press. Throws RunTimeError(Fault::Overflow), with nothing changed.
     PressOutcome PressClock(Side button);
 
-    // The timer calls. False: the system refused. A start asks for a handle above 1, a resume for any but 0; the two
-    // tests differ on purpose.
+    // These call the host's timer; false means that the system refused. A start wants a handle above 1, a resume any
+    // but 0: the two tests differ on purpose.
     bool StartClockTimer();
     void PauseClock();
     bool ResumeClock();
