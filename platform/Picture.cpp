@@ -56,7 +56,7 @@ std::vector<uint32_t> WithTransparency(int width, int height, Drawing draw) {
     return onBlack;
 }
 
-// Puts a colour behind the picture and all that lies near enough to it, in a square of premultiplied pixels.
+// Puts a colour under the picture and around it, as far as the outline reaches, in a square of premultiplied pixels.
 void AddOutline(std::span<uint32_t> pixels, int size, COLORREF colour) {
     const std::vector<uint32_t> picture(pixels.begin(), pixels.end());
     const std::array<uint32_t, 4> channels{GetBValue(colour), GetGValue(colour), GetRValue(colour), 0xFF};
