@@ -4,11 +4,11 @@
 #include <exception>
 
 enum class Fault {
-    Overflow,    // a sum or product that does not fit 32 signed bits
+    Overflow,    // a sum or product that does not fit in 32 signed bits
     OutOfRange,  // an index or a value outside its table
 };
 
-// What stops an operation in the middle. It carries no text of its own: the form that catches it shows the localised
+// An error that stops an operation halfway. It carries no text of its own: the form that catches it shows the localised
 // text of the fault.
 class RunTimeError : public std::exception {
   public:
@@ -20,7 +20,7 @@ class RunTimeError : public std::exception {
     Fault fault;
 };
 
-// Overflow-tested 32-bit addition for times and counts. Throws RunTimeError(Fault::Overflow).
+// Addition of times and counts of 32 bits. Throws RunTimeError(Fault::Overflow).
 inline int32_t CheckedAdd(int32_t left, int32_t right) {
     int32_t sum;
     if (__builtin_add_overflow(left, right, &sum)) throw RunTimeError(Fault::Overflow);

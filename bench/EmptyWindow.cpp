@@ -1,6 +1,6 @@
 #include <windows.h>
 
-// The least program with a window: what the figures of the clock are held against.
+// The smallest program with a window, with which the figures of the clock are compared.
 
 namespace {
 

@@ -16,14 +16,14 @@ Settings WithBonus() {
     return settings;
 }
 
-// When a face was painted with another text than before.
+// Notes when a face is painted with a text other than the last one.
 struct PaintWatch {
     std::wstring Before;
     double Painted = 0;
 };
 
-// Put before the face's own procedure in the old way: a subclass of the common controls looks itself up at each
-// message, which would count as the program's time.
+// Replaces the face's own procedure directly: the common controls look up a subclass at each message, which would count
+// as the program's time.
 LRESULT CALLBACK FaceProcedure(HWND face, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto own = reinterpret_cast<WNDPROC>(GetClassLongPtrW(face, GCLP_WNDPROC));
     const LRESULT result = CallWindowProcW(own, face, message, wParam, lParam);

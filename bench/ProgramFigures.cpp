@@ -47,7 +47,8 @@ void Row(const char* figure, const char* unit, double ours, double empty) {
 void MeasureStart() {
     const Installed program(QuietSettings());
     std::array<std::vector<double>, 2> visible, ready;
-    // In turns, so that what else the machine does meets both. The first of each reads its file from the disk.
+    // The two take turns, so that whatever else the machine does affects both. The first start of each reads its file
+    // from the disk.
     for (int i = 0; i <= Starts; ++i) {
         const RunningProgram ours(program.Path(), L"frmClock");
         const RunningProgram empty(EmptyProgram(), L"EmptyWindow");
@@ -83,12 +84,12 @@ void PressRow(const char* figure, const std::vector<double>& times) {
 
 double FileSize(const std::wstring& path) { return static_cast<double>(ReadFileText(path).size()) / (1 << 20); }
 
-// One clock is left alone for the processor's time; another is watched for its ticks, since watching takes time.
+// One clock is left alone, to measure its processor time. Another is watched for its ticks, since watching costs time.
 void MeasureRunning(int minutes) {
     const Installed first(QuietSettings()), second(QuietSettings());
     const RunningProgram alone(first.Path(), L"frmClock"), watched(second.Path(), L"frmClock");
     const RunningProgram empty(EmptyProgram(), L"EmptyWindow");
-    // Side by side: a window that is covered need not draw.
+    // The windows are side by side, since one that is covered need not draw.
     const auto place = [](HWND window, int left, int top) {
         SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     };
@@ -108,7 +109,7 @@ void MeasureRunning(int minutes) {
     std::vector<double> lateness;
     for (int tick = 1; tick <= ticks; ++tick) {
         const double due = start + 1000.0 * tick;
-        // Looks often only around the time when the face may change.
+        // The face is looked at often only around the time at which it may change.
         if (const double early = due - 100 - Now(); early > 0) Sleep(static_cast<DWORD>(early));
         std::wstring text;
         while ((text = TextOf(face)) == shown) Sleep(1);

@@ -4,7 +4,7 @@
 
 namespace {
 
-// The next word of a line, which is taken from it; empty at its end.
+// Takes the next word from a line; empty at the end of the line.
 std::string_view TakeWord(std::string_view& line) {
     size_t start = 0;
     while (start < line.size() && (line[start] == ' ' || line[start] == '\r')) ++start;

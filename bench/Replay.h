@@ -6,6 +6,6 @@
 // Replays a game given as moves of origin and destination with a promotion letter ("e2e4 e7e8q") and a result token at
 // the end, "*" for a game without one, all separated by blanks.
 //
-// Appends the written moves, separated by blanks and White's without numbers, with the result at the end. False: the
-// line is malformed, or a move begins on an empty square; `written` is then as it was.
+// Appends the written moves, separated by blanks and without numbers, and the result. Returns false if the line is
+// malformed or a move begins on an empty square; `written` is then as it was.
 bool ReplayLine(std::string_view line, std::string& written);

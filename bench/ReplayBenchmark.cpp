@@ -18,7 +18,7 @@ std::vector<std::string> Games() {
     return lines;
 }
 
-// Real games with their notation; items are moves.
+// Replays real games and writes their moves; the items counted are moves.
 void ReplayGames(benchmark::State& state) {
     const std::vector<std::string> games = Games();
     int64_t moves = 0;

@@ -4,7 +4,7 @@
 #include <string>
 
 // Reads games from standard input, one a line, and writes their moves in short algebraic notation to standard output.
-// Exit status 1 when a line was malformed; the other lines are written all the same.
+// The exit status is 1 if a line is malformed; the other lines are written all the same.
 int main() {
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);

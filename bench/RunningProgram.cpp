@@ -52,7 +52,8 @@ HWND RunningProgram::WaitWindow(const wchar_t* windowClass) const {
 }
 
 double RunningProgram::CpuTime() const {
-    // By thread, since Wine tells the times of another process's threads, but not those of the process.
+    // The threads' times are added up, since Wine tells those of another process, but not the time of the process
+    // itself.
     const UniqueFile threads(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
     THREADENTRY32 entry{};
     entry.dwSize = sizeof(entry);

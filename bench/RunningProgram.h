@@ -8,13 +8,13 @@
 #include <string>
 #include <vector>
 
-// Milliseconds of the system's performance counter.
+// The system's performance counter in milliseconds.
 double Now();
 
-// The value that so many hundredths of the values do not exceed. There must be one.
+// The value that so many hundredths of the values do not exceed. There must be at least one value.
 double Percentile(std::vector<double> values, int hundredths);
 
-// A program that is measured from outside, ended with the object.
+// A program that is measured from outside. It is ended with the object.
 class RunningProgram {
   public:
     // Starts it and waits until its window of that class is visible and answers. Throws std::runtime_error.

@@ -10,7 +10,7 @@ namespace {
 constexpr CalendarDate Today{2024, 3, 9};
 constexpr int Moves = 150;
 
-// A game of 150 moves of both sides: the Knights go out and home again.
+// A game of 150 moves by each side: the Knights go out and home again.
 Recorder LongGame() {
     constexpr std::array<std::pair<int, int>, 4> steps{{{71, 63}, {78, 66}, {63, 71}, {66, 78}}};
     Recorder recorder;

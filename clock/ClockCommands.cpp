@@ -34,7 +34,7 @@ ClockEvent ClockCommands::Press(Side button) {
     if (phase == Phase::Fallen) return ClockEvent::GameOver;
     if (!ClockButtonEnabled(button) || clock.State().CountsOutOfStep()) return ClockEvent::Ignored;
 
-    // Whoever presses first, side 0's clock must run: the counts would be out of step for ever otherwise.
+    // Whoever presses first, side 0's clock must run: otherwise the counts would be out of step for good.
     const Side pressed = phase == Phase::Idle ? Black : button;
     try {
         if (clock.PressClock(pressed) == modClock::PressOutcome::TimerNotCreated) return ClockEvent::TimerNotCreated;

@@ -43,7 +43,7 @@ class ClockCommands {
     Phase CurrentPhase() const;
     bool ClockButtonEnabled(Side side) const;
     bool PauseButtonEnabled(Side side) const;
-    bool ReadsResume(Side side) const;  // the side's pause button; else it reads "Pause"
+    bool ReadsResume(Side side) const;  // the side's pause button; otherwise it reads "Pause"
     bool TurnMarksVisible(Side side) const { return CurrentPhase() == Phase::Running && side == clock.TurnSide(); }
     bool FlagFallen(Side side) const { return fallenSide == side; }
     bool SetupEnabled() const { return CurrentPhase() == Phase::Idle; }

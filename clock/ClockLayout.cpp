@@ -5,7 +5,7 @@
 
 namespace {
 
-// Lengths of the design in pixels of a window.
+// Converts lengths of the design to pixels of a window.
 class Unit {
   public:
     Unit(int width, int height)

@@ -5,7 +5,7 @@
 
 #include <array>
 
-// Where everything stands in the clock window, in pixels of its client area.
+// The places of everything in the clock window, in pixels of its client area.
 
 // One player's panel. The turn marks are an arrow before the name and a bar above and below the face.
 struct PanelLayout {
@@ -25,9 +25,9 @@ struct ClockLayout {
     int NameType, BlinkType, ButtonType, PauseType, TextType;
 };
 
-// The client size at which the design is drawn 1 : 1, and the least that leaves it readable, at 96 dpi.
+// The client size at which the design is drawn 1 : 1, and the smallest at which it is readable, at 96 dpi.
 inline constexpr int DesignWidth = 1120, DesignHeight = 480;
 inline constexpr int LeastWidth = 780, LeastHeight = 340;
 
-// Lays a window of that client size out. Everything grows with the window; what is left over goes to the faces.
+// Lays out a window of that client size. Everything grows with the window, and the faces take the room that is left.
 ClockLayout LayOutClock(int width, int height);

@@ -59,7 +59,8 @@ HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
     font = MakeFont(nameType, true);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
     const int wanted = WidthOf(dc.get(), font.get(), name);
-    // Widths do not shrink quite as the type does. Below two thirds a name is cut rather than made unreadable.
+    // A text's width does not shrink in exact proportion to its type. Below two thirds a name is cut rather than made
+    // unreadable.
     if (wanted > width) font = MakeFont(std::max(MulDiv(nameType, width, wanted) - 1, nameType * 2 / 3), true);
     return font.get();
 }
@@ -88,8 +89,8 @@ void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::ws
 HFONT ClockPainter::FaceFont(HDC dc, const std::wstring& text, int width, int height) const {
     const std::array<int, 3> wanted{static_cast<int>(text.size()), width, height};
     if (faceFont && faceFontFor == wanted) return faceFont.get();
-    // Digits are all of one width, so the text itself stands for every other of its length.
-    // Digits take seven tenths of the type, so type higher than the box still fits into it.
+    // All digits have the same width, so a font that suits this text suits every other of its length. Digits take seven
+    // tenths of the type's height, so even type that is higher than the box fits into it.
     const int highest = height * 6 / 5;
     UniqueFont tall = MakeFont(highest, true);
     const int wide = WidthOf(dc, tall.get(), text);
@@ -103,7 +104,7 @@ void ClockPainter::DrawTurnMark(const DRAWITEMSTRUCT& item, bool arrow) const {
     const RECT area = buffer.Area();
     if (!arrow) return Fill(buffer.Dc(), area, MarkColour);
 
-    // The arrow's slopes are smoothed by drawing it larger.
+    // The arrow is drawn larger and shrunk, which smooths its slopes.
     constexpr int factor = 4;
     const int width = area.right * factor, height = area.bottom * factor;
     const UniqueDc large(CreateCompatibleDC(buffer.Dc()));

@@ -10,7 +10,7 @@
 #include <array>
 #include <string>
 
-// Of a key that can be pressed, and of one that cannot.
+// The colours of a key, which differ while it can be pressed and while it cannot.
 struct KeyColours {
     Colour Face, Rim, Text, Edge;
 };
@@ -26,7 +26,7 @@ class ClockPainter {
     // Takes the sizes of a new layout.
     void SetLayout(const ClockLayout& layout);
 
-    // The type of a name, smaller for one that is too long for the width.
+    // The font of a name, smaller for a name that is too long for the width.
     HFONT NameFont(Side side, const std::wstring& name, int width);
     HFONT BlinkFont() const { return blinkFont.get(); }
     HFONT ButtonFont() const { return buttonFont.get(); }
@@ -38,7 +38,7 @@ class ClockPainter {
 
     void DrawPanel(HDC dc, const Box& panel, bool running) const;
 
-    // The controls, each over the whole of its rectangle.
+    // Each of these fills the whole rectangle of its control.
     void DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text, bool fallen) const;
     void DrawTurnMark(const DRAWITEMSTRUCT& item, bool arrow) const;
     void DrawPicture(const DRAWITEMSTRUCT& item, const Picture& picture, bool running) const;
@@ -54,7 +54,7 @@ class ClockPainter {
     std::array<UniqueFont, 2> nameFonts;
     int nameType = 0;
     UniqueFont blinkFont, buttonFont, pauseFont, textFont;
-    // The face's type is made for a number of characters and a width.
+    // The face's font is made for a number of characters, a width and a height.
     mutable UniqueFont faceFont;
     mutable std::array<int, 3> faceFontFor{};
 };

@@ -15,24 +15,24 @@ struct ClockState {
     TimeControl Control;
 
     std::array<int32_t, 2> PlayerTime{};      // seconds left, or used when counting up
-    std::array<bool, 2> SecondPeriodDue{};    // earned, and not yet used
+    std::array<bool, 2> SecondPeriodDue{};    // earned and not yet begun
     std::array<bool, 2> SecondPeriodArmed{};  // the second period may still be earned by the time rule
     std::array<int32_t, 2> MoveCount{};
 
-    // The split of the time that the face shows.
+    // The parts of the time that the face shows.
     std::array<int32_t, 2> TimeHours{}, TimeMinutes{}, TimeSeconds{};
     std::array<std::string, 2> TimeHoursText, TimeMinutesText, TimeSecondsText;
 
     bool TurnFlag = false;  // true: side 0 runs
     Side ActiveSide = Black;
     bool GameStarted = false;
-    int32_t TimerHandle = 0;    // what the last SetTimer or KillTimer gave; 1 is what a kill leaves behind
+    int32_t TimerHandle = 0;    // what the last SetTimer or KillTimer returned; a successful kill leaves 1
     bool TimerRunning = false;  // the one-second timer exists
 
     // True when side 0 has neither as many moves as side 1 nor one more: presses and ticks then change nothing.
     bool CountsOutOfStep() const;
 
-    // The side whose move it is by the counts, which a fallen flag leaves as they are.
+    // The side to move according to the counts, which a fallen flag does not change.
     Side SideByCounts() const { return MoveCount[White] > MoveCount[Black] ? White : Black; }
 };
 
@@ -56,7 +56,7 @@ class Clock {
 
     const ClockState& State() const { return state; }
 
-    // The side whose turn it is, by the turn flag alone.
+    // The side whose turn it is according to the turn flag alone.
     Side TurnSide() const { return state.TurnFlag ? White : Black; }
 
     // True until the first press after a reset.
@@ -74,12 +74,12 @@ class Clock {
     // One second of the running side. Throws RunTimeError(Fault::Overflow), with nothing changed.
     TickOutcome ClockTick();
 
-    // A press of clock button `button`: its side's move is over. The first one of a game starts the timer; when that
-    // fails everything is as before the press. Throws RunTimeError(Fault::Overflow), with nothing changed.
+    // A press of clock button `button`, whose side has moved. The first press of a game starts the timer; if that
+    // fails, everything is as it was before the press. Throws RunTimeError(Fault::Overflow), with nothing changed.
     PressOutcome PressClock(Side button);
 
-    // The timer calls. False: the system refused. A start asks for a handle above 1, a resume for any but 0; the two
-    // tests differ on purpose.
+    // These call the host's timer; false means that the system refused. A start wants a handle above 1, a resume any
+    // but 0: the two tests differ on purpose.
     bool StartClockTimer();
     void PauseClock();
     bool ResumeClock();

@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz.h"
 #include "games/Diagram.h"
 
-// A diagram that can be read is written as it was, but for the line end that may be missing.
+// A diagram that can be read is written as it was, except that its last line end may have been missing.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string_view text = TextOf(data, size);
     Board board;

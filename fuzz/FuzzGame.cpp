@@ -7,7 +7,7 @@ namespace {
 
 constexpr CalendarDate Today{2024, 3, 9};
 
-// The files of a game one after the other, with a mark between them.
+// Splits an input that holds the files of a game one after the other, with a mark between them.
 GameFiles Split(std::string_view input) {
     constexpr std::string_view mark = "<<>>";
     GameFiles files;
@@ -29,7 +29,7 @@ bool Load(const GameFiles& files, SavedGame& game) {
     return !DecodeGame(read, Settings(), game);
 }
 
-// As the program goes on with a loaded game: moves, a promotion, declarations, and a missing line.
+// Uses a loaded game as the program does: moves, a promotion, declarations, and a missing line.
 void PlayOn(Recorder& recorder) {
     const std::array<int32_t, 2> counts{3, 3};
     for (int index = 11; index < 88; ++index) {

@@ -1,7 +1,8 @@
 #include "fuzz/Fuzz.h"
 #include "games/Pgn.h"
 
-// A text that can be read comes back from a recorder that was given it, but for its result, which is that of the lists.
+// A text that can be read comes back unchanged from a recorder that was given it, except for its result, which is that
+// of the lists.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::string text, again;
     if (DecodePgn(TextOf(data, size), text)) return 0;

@@ -1,4 +1,4 @@
-; The installer's own texts, beside those that every installer has.
+; The installer's own texts, in addition to those that every installer has.
 
 !macro Text name english turkish french
   LangString ${name} ${LANG_ENGLISH} "${english}"
@@ -12,7 +12,7 @@
   "TORVANIX est en cours d’exécution. Fermez le programme, puis réessayez."
 
 !insertmacro Text FolderRefused \
-  "This folder cannot be written to. TORVANIX keeps saved games in its own folder: choose one of your own." \
+  "This folder cannot be written to. TORVANIX keeps saved games in its own folder: choose one that you may write to." \
   "Bu klasöre yazılamıyor. TORVANIX kayıtlı oyunları kendi klasöründe tutar; yazabileceğiniz bir klasör seçin." \
   "Impossible d’écrire dans ce dossier. TORVANIX conserve les parties enregistrées dans son propre dossier : choisissez un dossier où vous pouvez écrire."
 
@@ -32,7 +32,7 @@
   "Pendule d’échecs pour deux joueurs"
 
 !insertmacro Text KeptUnlessTicked \
-  "TORVANIX will be removed. Your saved games and settings stay unless you tick them." \
+  "TORVANIX will be removed. Your saved games and settings are kept unless you tick them." \
   "TORVANIX kaldırılacak. İşaretlemedikçe kayıtlı oyunlarınız ve ayarlarınız silinmez." \
   "TORVANIX va être désinstallé. Vos parties enregistrées et vos réglages sont conservés, sauf si vous les cochez."
 

@@ -1,11 +1,11 @@
-; The installer of TORVANIX, for one user and without administrator rights: the program keeps settings and saved games in
-; its own folder, so the folder has to be the user's.
+; The installer of TORVANIX, for one user, without administrator rights: the program keeps settings and saved games in
+; its own folder, so that folder must be the user's.
 ;
-; From the command line of makensis: VERSION (three numbers), FILES (the folder of what is installed), PICTURES (that of
-; the icon), OUTPUT (the installer).
+; The command line of makensis defines VERSION (three numbers), FILES (the folder of the files to install), PICTURES
+; (the folder of the icon) and OUTPUT (the installer).
 ;
-; Exit codes: 0 done, 1 cancelled by the user, 2 not done: TORVANIX runs, the folder cannot be written to, or Windows is
-; too old.
+; Exit codes: 0 is success, 1 means cancelled by the user, 2 means not installed because TORVANIX is running, the folder
+; cannot be written to or Windows is too old.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -25,7 +25,7 @@ InstallDirRegKey HKCU "${UNINSTALL_KEY}" InstallLocation
 RequestExecutionLevel user
 ManifestDPIAware true
 ManifestSupportedOS all
-; A file that cannot be written ends the installation; nothing is left out.
+; A file that cannot be written ends the installation; no file is skipped.
 AllowSkipFiles off
 
 !define MUI_ICON "${PICTURES}\TORVANIX.ico"
@@ -47,7 +47,7 @@ AllowSkipFiles off
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 
-; The one of the user's Windows is taken, the first where it is none of these.
+; The installer takes the language of the user's Windows, or the first of these if that is none of them.
 !insertmacro MUI_LANGUAGE English
 !insertmacro MUI_LANGUAGE Turkish
 !insertmacro MUI_LANGUAGE French
@@ -62,7 +62,7 @@ VIAddVersionKey /LANG=0 LegalCopyright "© 2026 The TORVANIX team"
 VIAddVersionKey /LANG=0 ProductName "TORVANIX"
 VIAddVersionKey /LANG=0 ProductVersion "${VERSION}"
 
-; A program that runs cannot be replaced or deleted: its file refuses to be opened for writing.
+; A running program cannot be replaced or deleted: its file cannot be opened for writing.
 !macro RefuseWhileRunning
   ${Do}
     ${IfNot} ${FileExists} "$INSTDIR\torvanix.exe"
@@ -87,7 +87,7 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; Keeps the page open for a folder where the user could not save a game.
+; Keeps the page open if the user could not save a game in the folder.
 Function RefuseForeignFolder
   ClearErrors
   CreateDirectory "$INSTDIR"
@@ -119,7 +119,7 @@ Section "TORVANIX" Program
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" EstimatedSize $0
 SectionEnd
 
-; The page would tell how much space it takes to remove the program.
+; Hides the line that would say how much space the removal of the program takes.
 Function un.HideSpace
   FindWindow $0 "#32770" "" $HWNDPARENT
   GetDlgItem $0 $0 1023
@@ -138,13 +138,13 @@ SectionEnd
 
 Section /o "un.$(GamesAndSettings)" GamesAndSettings
   RMDir /r "$INSTDIR\SavedGames"
-  ; What the program has written, and what it may have left behind in a crash: the folder may hold the user's own.
+  ; Only what the program has written, or may have left behind in a crash: the folder may hold files of the user's own.
   Delete "$INSTDIR\Data\TORVANIX.set"
   Delete "$INSTDIR\Data\TORVANIX.set.new"
 SectionEnd
 
 Section "-un.Folders"
-  ; Folders that hold something stay.
+  ; RMDir leaves folders that are not empty.
   SetOutPath "$TEMP"
   RMDir "$INSTDIR\SavedGames"
   RMDir "$INSTDIR\Data"

@@ -4,11 +4,12 @@
 #include <string>
 #include <string_view>
 
-// Windows are Unicode, files are in the system's ANSI code page. These are the only way from one to the other.
+// Texts in windows are Unicode, those in files are in the system's ANSI code page. These functions are the only way
+// from one to the other.
 std::wstring FromAnsi(std::string_view text);
 
 // A character that the code page lacks becomes the code page's replacement character.
 std::string ToAnsi(std::wstring_view text);
 
-// Nothing where the code page cannot give every character back.
+// No value if the code page cannot give every character back.
 std::optional<std::string> ToAnsiExactly(std::wstring_view text);

@@ -28,7 +28,7 @@ Variant& Variant::operator=(Variant&& other) noexcept {
 }
 
 bool Variant::ConvertTo(VARTYPE type, Variant& converted) const {
-    // The function only reads its source, though it is not declared so everywhere.
+    // The function only reads its source, though not every header declares it so.
     return SUCCEEDED(VariantChangeType(&converted.value, const_cast<VARIANT*>(&value), 0, type));
 }
 
@@ -61,7 +61,7 @@ HRESULT Invoke(IDispatch& object, const std::wstring& member, std::span<const Va
     const HRESULT found = object.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
     if (FAILED(found)) return found;
 
-    // Arguments are handed over last first.
+    // Arguments are passed in reverse order.
     std::vector<VARIANT> values;
     for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument)
         values.push_back(argument->Value());

@@ -25,11 +25,11 @@ class Variant {
     VARIANT* operator&() { return &value; }
     const VARIANT& Value() const { return value; }
 
-    // What it holds, converted where it can be; false, "", 0 where it cannot.
+    // The value that it holds, converted if that is possible; otherwise false, "" or 0.
     bool Boolean() const;
     std::wstring Text() const;
     DATE Date() const;
-    // The object it holds, none where it holds no object.
+    // The object that it holds, null if it holds none.
     UniqueCom<IDispatch> Object() const;
 
   private:
@@ -38,8 +38,8 @@ class Variant {
     VARIANT value;
 };
 
-// Calls a member of an object by its name, a method or the reading of a property. The status is the object's own
-// failure code where it raised one.
+// Calls a method of an object, or reads a property, by its name. The status is the object's own failure code where it
+// raised one.
 HRESULT Invoke(IDispatch& object, const std::wstring& member, std::span<const Variant> arguments, Variant& result);
 
 template <typename... Arguments>

@@ -4,16 +4,16 @@
 
 #include <windows.h>
 
-// Whether the user has asked the system for high contrast. This is the one place that decides it: what the program
-// draws has its own colours otherwise and those of the system then.
+// Whether the user has asked the system for high contrast. This is the one place that decides it: the program then
+// draws in the system's colours, otherwise in its own.
 bool HighContrast();
 
 constexpr COLORREF ColourOf(uint32_t redGreenBlue) {
     return RGB(redGreenBlue >> 16 & 0xFF, redGreenBlue >> 8 & 0xFF, redGreenBlue & 0xFF);
 }
 
-// A colour of the program and the COLOR_ index of the system's that stands for it. Asked anew each time, so that a
-// change needs no more than drawing anew, which Form sees to.
+// A colour of the program, and the COLOR_ index of the system colour that replaces it at high contrast. It is looked up
+// at each use, so that a change needs no more than a repaint, which Form sees to.
 class Colour {
   public:
     constexpr Colour(COLORREF own, int system) : own(own), system(system) {}

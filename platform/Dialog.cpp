@@ -24,7 +24,7 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
     Form::Create(name, captions(caption), WS_POPUP | WS_CAPTION | WS_SYSMENU,
                  LoadIconW(GetModuleHandleW(nullptr), icon), owner);
     for (const DialogItem& item : items) {
-        // The arrow keys go between buttons that follow one another.
+        // The arrow keys move between consecutive buttons: they form one group.
         const bool button = lstrcmpW(item.Kind, WC_BUTTONW) == 0 && (item.Style & BS_TYPEMASK) != BS_GROUPBOX;
         AddControl(item.Kind, item.Id, WS_VISIBLE | item.Style | (button ? 0 : WS_GROUP));
         if (item.Text) SetText(item.Id, captions(*item.Text));
@@ -32,12 +32,12 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
     Place(owner, width, height);
 }
 
-// In the middle of the owner, and on the screen.
+// Centres the window on its owner, and keeps it on the screen.
 void Dialog::Place(HWND owner, int width, int height) {
     const RECT screen = WorkArea(owner);
     RECT around{}, client{};
     GetWindowRect(owner, &around);
-    // What the frame adds is known only of a window that has a size.
+    // What the frame adds is known only once the window has a size.
     const int wide = Scaled(width, Dpi()), high = Scaled(height, Dpi());
     SetWindowPos(Window(), nullptr, 0, 0, wide, high, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     GetClientRect(Window(), &client);
@@ -69,7 +69,7 @@ void Dialog::RunModal() {
         MSG message{};
         while (open && Window()) {
             if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
-                // The program ends: its own loop must see that too.
+                // The program is ending: its main loop must see that too.
                 PostQuitMessage(static_cast<int>(message.wParam));
                 break;
             }
@@ -78,13 +78,13 @@ void Dialog::RunModal() {
             DispatchMessageW(&message);
         }
     }
-    // After the owner is enabled again: the system would activate another program's window otherwise.
+    // Only after the owner has been enabled again: otherwise the system would activate another program's window.
     if (Window()) DestroyWindow(Window());
 }
 
 void Dialog::Close() {
     open = false;
-    // The loop looks again after the next message.
+    // The loop looks at `open` only after a message.
     PostMessageW(Window(), WM_NULL, 0, 0);
 }
 

@@ -17,8 +17,8 @@ struct DialogItem {
     std::optional<TextId> Text = std::nullopt;
 };
 
-// Base of the forms that stand over the clock until they are closed. Enter presses the default button, or the one that
-// has the focus, Esc the one with the number IDCANCEL.
+// Base of the forms that stay over the clock until they are closed. Enter presses the button that has the focus, or
+// else the default button; Esc presses the one with the number IDCANCEL.
 class Dialog : public Form {
   public:
     // Shows the window, which must have been created, with the other windows of the program disabled, until Close.
@@ -28,14 +28,14 @@ class Dialog : public Form {
   protected:
     explicit Dialog(const Surroundings& around);
 
-    // Creates the window over its owner, hidden, with its items in their order, which is that of reading and of the
-    // tab key. `width` and `height` are those of the design. The items must outlive the dialog. Throws SystemError.
+    // Creates the window over its owner, hidden. The order of the items is that of reading and of the tab key. `width`
+    // and `height` are in pixels of the 96 dpi design. The items must outlive the dialog. Throws SystemError.
     void Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
                 std::span<const DialogItem> items);
 
     void Close();
 
-    // The button that Enter presses while no other has the focus; 0: none.
+    // The button that Enter presses while no other button has the focus; 0: none.
     virtual int DefaultButton() const { return 0; }
 
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;

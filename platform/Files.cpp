@@ -10,7 +10,7 @@ namespace {
 
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// The form of a path that the system takes at any length (Maximum Path Length Limitation, Win32 documentation).
+// The form in which the system takes paths of any length (Maximum Path Length Limitation, Win32 documentation).
 std::wstring Long(const std::wstring& path) {
     if (path.rfind(L"\\\\?\\", 0) == 0) return path;
     if (path.rfind(L"\\\\", 0) == 0) return L"\\\\?\\UNC" + path.substr(1);
@@ -76,7 +76,7 @@ void ExpectReplaceable(const std::wstring& path) {
     // Not every system refuses to move a file over one that is write-protected.
     if (attributes & FILE_ATTRIBUTE_READONLY) throw SystemError(ERROR_ACCESS_DENIED, path);
     if (attributes & FILE_ATTRIBUTE_DIRECTORY) throw SystemError(ERROR_ALREADY_EXISTS, path);
-    // Older systems replace no file that is open at all, however it is shared.
+    // Older systems do not replace a file that is open, however it is shared.
     if (!Open(Long(path), GENERIC_WRITE | DELETE, 0, OPEN_EXISTING)) throw SystemError(GetLastError(), path);
 }
 
@@ -92,7 +92,7 @@ FileBeside::FileBeside(const std::wstring& path, std::string_view bytes) : path(
     if (!WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
         code = GetLastError();
     else if (written < bytes.size())
-        code = ERROR_DISK_FULL;  // a disk that takes a part says no more than that
+        code = ERROR_DISK_FULL;  // a partial write comes with no other code
     else if (!FlushFileBuffers(file.get()))
         code = GetLastError();
     if (code == ERROR_SUCCESS) return;
@@ -110,7 +110,7 @@ FileBeside::FileBeside(FileBeside&& other) noexcept
 
 void FileBeside::TakePlace() {
     constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    // A virus scanner or an indexer may have opened a file that has just been written, for a moment.
+    // A virus scanner or an indexer may briefly open a file that has just been written.
     for (int tries = 1; !MoveFileExW(Beside(path).c_str(), Long(path).c_str(), flags); ++tries) {
         const DWORD code = GetLastError();
         if (tries == 20 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))

@@ -6,18 +6,18 @@
 #include <string_view>
 #include <vector>
 
-// Files by their full paths, of any length that the system can hold. What fails throws SystemError with the path.
+// Files by their full paths, of any length that the system can hold. Failures throw SystemError with the path.
 
-// The first `limit` bytes of a file, all of a shorter one; nothing when there is no such file.
+// The first `limit` bytes of a file, or all of a shorter one; no value when there is no such file.
 std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path, size_t limit);
 
-// Whether there is a file, not a folder.
+// Whether there is a file of that name; a folder is none.
 bool FileExists(const std::wstring& path);
 
 // Names of the files in a folder, given with its trailing backslash; none where there is no such folder.
 std::vector<std::wstring> FilesIn(const std::wstring& folder);
 
-// Makes a folder where there is none; failures are left to what is done in it.
+// Makes a folder if there is none. A failure is not reported: whatever uses the folder next will fail.
 void MakeFolder(const std::wstring& path);
 
 void DeleteFileAt(const std::wstring& path);
@@ -26,11 +26,11 @@ void DeleteFileAt(const std::wstring& path);
 // another program has it open.
 void ExpectReplaceable(const std::wstring& path);
 
-// New content that waits beside a file until it takes its place: it is flushed to the disk before, so a crash leaves
-// the old file or the new one. What has not taken its place is removed again.
+// New content that waits beside a file until it takes the file's place. It is flushed to the disk first, so a crash
+// leaves either the old file or the new one. Content that has not taken the place is removed with the object.
 class FileBeside {
   public:
-    // Refused as by ExpectReplaceable.
+    // Throws as ExpectReplaceable does.
     FileBeside(const std::wstring& path, std::string_view bytes);
     ~FileBeside();
     FileBeside(FileBeside&& other) noexcept;
@@ -43,5 +43,5 @@ class FileBeside {
     bool waiting = true;
 };
 
-// Replaces one file whole.
+// Replaces the whole of a single file.
 void ReplaceFileBytes(const std::wstring& path, std::string_view bytes);

@@ -25,10 +25,10 @@ void Form::Create(const wchar_t* name, const std::wstring& caption, DWORD style,
     windowClass.hIcon = icon;
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.lpszClassName = name;
-    // A class that is registered already serves the form's next opening.
+    // A class that is already registered serves again when the form is opened anew.
     if (!RegisterClassExW(&windowClass) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
         throw SystemError(GetLastError(), name);
-    // On the screen of its owner, whose resolution it then has.
+    // The window is made on its owner's screen, and so with that screen's resolution.
     RECT place{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
     if (owner) GetWindowRect(owner, &place);
     if (!CreateWindowExW(WS_EX_CONTROLPARENT, name, caption.c_str(), style, place.left, place.top, 0, 0, owner, nullptr,

@@ -5,7 +5,7 @@
 namespace {
 
 // Writes the program's texts on the buttons of the next message box that opens: the system would write them in its own
-// language. A hook procedure is given no context, so the one at work is found through a variable of the thread.
+// language. A hook procedure is given no context, so a thread-local variable leads to the object at work.
 class ButtonTexts {
   public:
     explicit ButtonTexts(const Texts& texts)

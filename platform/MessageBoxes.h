@@ -4,13 +4,13 @@
 
 #include <windows.h>
 
-// The system's message boxes with the program's own texts on their buttons. While one is open every window of the
+// The system's message boxes with the program's own texts on their buttons. While one is open, every window of the
 // program is disabled; running clocks go on.
 class MessageBoxes {
   public:
     explicit MessageBoxes(const Texts& texts) : texts(texts) {}
 
-    // Titled with the program's title unless another is given.
+    // The title is the program's unless another is given.
     void Inform(HWND owner, const std::wstring& text, TextId title = TextId::ProductTitle) const;
 
     // True for Yes.

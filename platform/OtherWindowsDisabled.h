@@ -4,7 +4,8 @@
 
 #include <vector>
 
-// Disables the program's windows but one for its own life: the system itself disables only the owner of a message box.
+// Disables all windows of the program but one for as long as the object lives: the system itself disables only the
+// owner of a message box.
 class OtherWindowsDisabled {
   public:
     explicit OtherWindowsDisabled(HWND owner);

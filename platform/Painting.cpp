@@ -4,7 +4,7 @@
 
 namespace {
 
-// A 32-bit bitmap, which is made without asking for the form of the screen's.
+// A bitmap of 32 bits, so that the screen need not be asked for its format.
 UniqueBitmap MakeBitmap(LONG width, LONG height) {
     BITMAPINFO info{};
     info.bmiHeader = {sizeof(info.bmiHeader), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};

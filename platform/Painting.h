@@ -12,7 +12,7 @@ UniqueFont MakeFont(int height, bool bold);
 void Fill(HDC dc, const RECT& rectangle, COLORREF colour);
 void Frame(HDC dc, const RECT& rectangle, COLORREF colour);
 
-// Draws an owner-drawn control off the screen, so that it changes without flicker. Text is drawn without a ground.
+// Draws an owner-drawn control off the screen, so that it changes without flicker. Text is drawn without a background.
 class Buffered {
   public:
     explicit Buffered(const DRAWITEMSTRUCT& item);

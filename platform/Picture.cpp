@@ -29,7 +29,7 @@ struct Canvas {
     }
 };
 
-// What `draw` puts on a plain ground, as pixels.
+// The pixels of what `draw` puts on a plain background.
 template <typename Drawing>
 std::vector<uint32_t> DrawnOn(uint32_t ground, int width, int height, Drawing draw) {
     const Canvas canvas(width, height);
@@ -42,8 +42,8 @@ std::vector<uint32_t> DrawnOn(uint32_t ground, int width, int height, Drawing dr
     return {canvas.Pixels, canvas.Pixels + count};
 }
 
-// Drawing on black and on white tells how much of the ground shows through each pixel, whatever the source's own form
-// of transparency is.
+// Drawing on black and on white tells how much of the background shows through each pixel, whatever form of
+// transparency the source has.
 template <typename Drawing>
 std::vector<uint32_t> WithTransparency(int width, int height, Drawing draw) {
     std::vector<uint32_t> onBlack = DrawnOn(0x000000, width, height, draw);
@@ -56,7 +56,7 @@ std::vector<uint32_t> WithTransparency(int width, int height, Drawing draw) {
     return onBlack;
 }
 
-// Puts a colour behind all that lies near enough to the picture in a square of premultiplied pixels.
+// Puts a colour under the picture and around it, as far as the outline reaches, in a square of premultiplied pixels.
 void AddOutline(std::span<uint32_t> pixels, int size, COLORREF colour) {
     const std::vector<uint32_t> picture(pixels.begin(), pixels.end());
     const std::array<uint32_t, 4> channels{GetBValue(colour), GetGValue(colour), GetRValue(colour), 0xFF};

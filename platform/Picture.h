@@ -11,16 +11,16 @@
 #include <vector>
 
 // A picture with soft edges that is drawn at any size up to its own. It is kept as runs of premultiplied 32-bit pixels
-// and shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast it stands out from any
-// ground by an outline in the system's colour of text.
+// and shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast an outline in the system's
+// text colour makes it stand out from any background.
 class Picture {
   public:
     Picture() = default;
 
-    // Of a resource picture with its transparency. Throws SystemError.
+    // Takes a resource picture with its transparency. Throws SystemError.
     explicit Picture(IPicture& source);
 
-    // Of an icon resource at the size in pixels that its largest image has. Throws SystemError.
+    // The picture of an icon resource; `size`, in pixels, is that of its largest image. Throws SystemError.
     static Picture OfIcon(const wchar_t* resourceName, int size);
 
     bool Empty() const { return runs.empty(); }
@@ -29,7 +29,7 @@ class Picture {
     void Draw(HDC dc, int left, int top, int size) const;
 
   private:
-    // Pixels of one colour. They take a tenth of what the pixels themselves would.
+    // Consecutive pixels of one colour. Runs take a tenth of the memory that the pixels would.
     struct Run {
         uint32_t Pixel;  // BGRA
         uint32_t Length;

@@ -9,18 +9,18 @@
 
 namespace {
 
-// Not by its name: an import library may have that as a function.
+// IID_IAccessible itself is not used: an import library may define that name as a function.
 const IID AccessibleId = __uuidof(IAccessible);
 
-// The system's own accessible object of a control, but for the name. Readers may keep it longer than there is the
-// control, which is therefore looked up at each question.
+// The system's own accessible object of a control, except for the name. Screen readers may keep it for longer than the
+// control exists, so the control is looked up at each question.
 class NamedAccessible : public IAccessible {
   public:
     NamedAccessible(HWND control, UniqueCom<IAccessible> system) : control(control), system(std::move(system)) {}
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         const bool own = iid == IID_IUnknown || iid == IID_IDispatch || iid == AccessibleId;
-        // The window that it stands for, and the enumeration of its parts.
+        // Other interfaces, for the control's window and the enumeration of its parts, are the system's.
         if (!own) return system->QueryInterface(iid, object);
         *object = static_cast<IAccessible*>(this);
         AddRef();
@@ -122,15 +122,15 @@ LRESULT AccessibleOf(HWND control, WPARAM wParam) {
 }
 
 LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-    // The upper half of the parameter is not set in the same way everywhere.
+    // Systems differ in the upper half of the parameter.
     if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == static_cast<LONG>(OBJID_CLIENT)) {
         try {
             if (const LRESULT answer = AccessibleOf(control, wParam)) return answer;
         } catch (const std::exception&) {
-            // The system's own answer then.
+            // The system then gives its own answer.
         }
     }
-    // Its class never changes, and a subclass of the common controls would be looked up at each message.
+    // The class of a control never changes, and the common controls would look up a subclass at each message.
     const auto own = reinterpret_cast<WNDPROC>(GetClassLongPtrW(control, GCLP_WNDPROC));
     return CallWindowProcW(own, control, message, wParam, lParam);
 }

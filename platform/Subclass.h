@@ -4,7 +4,7 @@
 
 #include <commctrl.h>
 
-// A SUBCLASSPROC that leaves its window in time: SetWindowSubclass wants each removed before the window is gone.
+// A SUBCLASSPROC that removes itself in time: SetWindowSubclass wants every subclass removed before its window is gone.
 template <SUBCLASSPROC Procedure>
 LRESULT CALLBACK UntilDestroyed(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR data) {
     if (message == WM_NCDESTROY) RemoveWindowSubclass(window, UntilDestroyed<Procedure>, id);

@@ -2,7 +2,7 @@
 
 namespace {
 
-// What the scripting runtime's objects report: run-time error numbers of their own facility.
+// The scripting runtime's objects report run-time error numbers, which have a facility of their own.
 constexpr HRESULT FileNotFound = static_cast<HRESULT>(0x800A0035);
 constexpr HRESULT FileAlreadyExists = static_cast<HRESULT>(0x800A003A);
 constexpr HRESULT DiskFull = static_cast<HRESULT>(0x800A003D);

@@ -8,7 +8,7 @@
 // A call of the system that failed on a file, a folder, a picture or a program.
 class SystemError : public std::exception {
   public:
-    // `code` as of GetLastError; `thing` is what the message names, a path for example.
+    // `code` is one of GetLastError's; `thing` is what the message names, a path for example.
     SystemError(DWORD code, std::wstring thing) : code(code), thing(std::move(thing)) {}
     DWORD Code() const { return code; }
     const std::wstring& Thing() const { return thing; }
@@ -19,5 +19,5 @@ class SystemError : public std::exception {
     std::wstring thing;
 };
 
-// The code of GetLastError in a status of COM or of the scripting runtime.
+// The code of GetLastError that a status of COM or of the scripting runtime amounts to.
 DWORD CodeOf(HRESULT status);

@@ -2,7 +2,7 @@
 
 namespace {
 
-// The size of the structure's first version, which every version of the common controls takes.
+// The size of the first version of the structure, which every version of the common controls accepts.
 TOOLINFOW ToolOf(HWND form, UINT flags, UINT_PTR id, std::wstring& text) {
     TOOLINFOW tool{};
     tool.cbSize = TTTOOLINFOW_V1_SIZE;

@@ -20,7 +20,7 @@ const wchar_t* DateMember(clsFileSystem::DateKind kind) {
     return L"DateLastAccessed";
 }
 
-// Date and time of now in the user's short formats.
+// The present date and time in the user's short formats.
 std::wstring Now() {
     SYSTEMTIME time;
     GetLocalTime(&time);

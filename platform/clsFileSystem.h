@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-// The status of an operation, success or the system's failure code, besides its result.
+// The result of an operation, with its status: success or the system's failure code.
 template <typename Value>
 struct Outcome {
     HRESULT Status;
@@ -24,7 +24,7 @@ class clsFileSystem {
   public:
     enum class DateKind { Created, LastModified, LastAccessed };
 
-    // COM must be initialised, and outlive the object.
+    // COM must be initialised for as long as the object lives.
     clsFileSystem();
 
     Outcome<std::vector<std::wstring>> SubfolderNames(const std::wstring& folder) const;
@@ -37,7 +37,7 @@ class clsFileSystem {
     Outcome<DATE> FileDate(const std::wstring& file, DateKind kind) const;
     Outcome<DATE> FolderDate(const std::wstring& folder, DateKind kind) const;
 
-    // Where WriteLog writes, with its trailing backslash.
+    // The folder of WriteLog's log, with its trailing backslash.
     void SetLogFolder(const std::wstring& folder) { logFolder = folder; }
 
     // Appends an entry to TORVANIX.log in the log folder, with the status and the text that belong to the event.

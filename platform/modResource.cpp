@@ -55,7 +55,7 @@ std::string MakeTemporaryFileName(const std::string& folder, const std::string& 
         in = UpToNul(buffer);
         if (GetFileAttributesA(in.c_str()) == INVALID_FILE_ATTRIBUTES) in = ShortTemporaryFolder();
     }
-    // GetTempFileName writes up to MAX_PATH characters whatever the buffer; longer folders it refuses.
+    // GetTempFileName writes up to MAX_PATH characters whatever the buffer, and refuses longer folders.
     std::array<char, MAX_PATH + 1> name{};
     if (GetTempFileNameA(in.c_str(), prefix.c_str(), uniqueNumber, name.data()) == 0)
         throw SystemError(GetLastError(), FromAnsi(in));

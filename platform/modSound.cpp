@@ -25,7 +25,7 @@ void modSound::Play(const char* resourceName, UINT flags) {
     const HGLOBAL data = LoadResource(nullptr, resource);
     if (!data) return;
     const auto* wave = static_cast<const uint8_t*>(LockResource(data));
-    // Opening the device takes tens of milliseconds, of which the clock loses as many: not for what nobody hears.
+    // Opening the device takes tens of milliseconds, which the clock loses: too many for a sound that nobody hears.
     if (IsSilent({wave, SizeofResource(nullptr, resource)})) return;
     sndPlaySoundA(reinterpret_cast<LPCSTR>(wave), flags | SND_MEMORY);
 }

@@ -41,7 +41,8 @@ Move Board::Classify(Square origin, Square destination) const {
     return move;
 }
 
-// Told by where the pawns stand: whether the other has just made its double step is deliberately not remembered.
+// Only the places of the pawns count: whether the other one has just made its double step is deliberately not
+// remembered.
 bool Board::EnPassant(Square origin, Square destination, Piece moving) const {
     const bool white = SideOf(moving) == White;
     const int fromRank = white ? 5 : 4, toRank = white ? 6 : 3;

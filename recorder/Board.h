@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdint>
 
-// How a move is written and what it does beside moving a piece.
+// How a move is written, and what it does besides moving a piece.
 enum class MoveKind : uint8_t { Ordinary = 1, Capture = 2, EnPassant = 3, CastlingQueenSide = 5, CastlingKingSide = 6 };
 
 struct Move {
@@ -14,8 +14,8 @@ struct Move {
     Square Destination;
     MoveKind Kind;
     Piece Moving;
-    Piece Captured;     // Empty when none is
-    Square CapturedOn;  // where the captured piece stood: not the destination when en passant
+    Piece Captured;     // Empty if none is captured
+    Square CapturedOn;  // where the captured piece was, which is not the destination en passant
     Square RookOrigin;  // castling only, NoSquare otherwise
     Square RookDestination;
 };
@@ -34,14 +34,15 @@ constexpr int TraySlots(PieceKind kind) {
     }
 }
 
-// A slot of a tray, by piece and its place there.
+// A slot of a tray: its piece and its place in the tray.
 struct TraySlot {
     Piece Captured;
     int Slot;
     bool operator==(const TraySlot&) const = default;
 };
 
-// The slots of all trays by number, from 0: those of White's pieces as TrayKinds says, then those of Black's.
+// The slots of all trays are numbered from 0: those of White's pieces in the order of TrayKinds, then those of Black's
+// pieces.
 inline constexpr int SlotsPerSide = 15;
 TraySlot SlotOf(int number);
 
@@ -51,13 +52,13 @@ class Board {
   public:
     Board() { Reset(); }
 
-    // The initial position of chess, no piece captured.
+    // Sets up the initial position of chess, with no piece captured.
     void Reset();
 
     Piece At(Square square) const { return cells[square]; }
 
-    // What the move between two squares would be. The origin must hold a piece. It is told by the squares alone, with
-    // no memory of earlier moves.
+    // What the move between two squares would be. The origin must hold a piece. Only the position counts; earlier moves
+    // are not remembered.
     Move Classify(Square origin, Square destination) const;
 
     // Carries out a move that Classify gave for the present position.
@@ -66,18 +67,19 @@ class Board {
     // Puts a piece on a square, or empties it.
     void Put(Square square, Piece piece) { cells[square] = piece; }
 
-    // Whether a pawn stands on its last rank there and waits for its promotion.
+    // Whether the piece is a pawn that has reached its last rank on that square, and so waits for its promotion.
     static constexpr bool ReachesLastRank(Piece piece, Square square) {
         return KindOf(piece) == PieceKind::Pawn && RankOf(square) == (SideOf(piece) == White ? 8 : 1);
     }
 
-    // Captured pieces are shown slot by slot, slots numbered from 0.
+    // Captured pieces are shown slot by slot. Slots are numbered from 0.
     bool CapturedShown(Piece piece, int slot) const { return trays[static_cast<size_t>(piece)] >> slot & 1; }
-    // Shows the first hidden slot of the piece's tray; nothing when all are shown, or the piece has no tray.
+    // Shows the first hidden slot of the piece's tray. Does nothing when all are shown or the piece has no tray.
     void AddCaptured(Piece piece);
     void HideCaptured(Piece piece, int slot);
     void HideAllCaptured() { trays = {}; }
-    // Shows what the position lacks of each kind against the initial one. A pawn that has been promoted is missing too.
+    // Shows as captured what the position lacks of each kind, compared with the initial one. A pawn that has been
+    // promoted is missing too.
     void ShowMissingAsCaptured();
 
   private:

@@ -18,7 +18,7 @@ std::optional<ChosenLine> BoardInput::Click(Square square) {
         origin.reset();
         return std::nullopt;
     }
-    // No piece takes its own colour: the other piece is meant.
+    // No piece takes one of its own colour: the players mean to pick the other piece.
     if (clicked != Piece::Empty && SideOf(clicked) == SideOf(recorder.Position().At(*origin))) {
         origin = square;
         return std::nullopt;

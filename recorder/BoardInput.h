@@ -7,9 +7,9 @@
 // What a square shows.
 struct CellLook {
     Piece Shown;
-    bool Origin;    // picked
+    bool Origin;    // its piece is picked
     bool LastMove;  // where the last move began or ended
-    bool Cursor;    // of the keys
+    bool Cursor;    // the cursor of the keys is here
 
     bool operator==(const CellLook&) const = default;
 };
@@ -31,16 +31,17 @@ class BoardInput {
     const std::optional<TraySlot>& Captured() const { return captured; }
     CellLook LookOf(Square square) const;
 
-    // A click on a square, or Enter on the cursor's. Gives the written line when that has made a move.
+    // A click on a square, or Enter on the cursor's square. Returns the written line if that has made a move.
     std::optional<ChosenLine> Click(Square square);
     std::optional<ChosenLine> Enter() { return Click(cursor); }
     // A click on a captured piece that is shown.
     void ClickCaptured(Piece piece, int slot);
-    // Picks the first captured piece that is shown, or the one behind the one picked; none behind the last.
+    // Picks the captured piece that is shown after the picked one, or the first if none is picked. After the last, none
+    // is picked.
     void PickNextCaptured();
-    // Drops the picked piece where it was.
+    // Puts the picked piece back where it was.
     void Cancel();
-    // Nothing picked, the cursor where it is at first.
+    // Nothing is picked, and the cursor is where it is at first.
     void Reset() {
         Cancel();
         cursor = Start;

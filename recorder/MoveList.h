@@ -31,13 +31,13 @@ class MoveList {
     bool EndsWithWaiting() const { return !entries.empty() && entries.back().IsWaiting(); }
     bool EndsWithWritten() const { return !entries.empty() && entries.back().IsWritten(); }
 
-    // The last entry that holds a move; nothing when none does.
+    // The last entry that holds a move; no value if none does.
     std::optional<size_t> LastWritten() const;
 
-    // The operations return the index of the entry that they made or changed.
-    size_t Write(
-        std::string_view move);  // into the first of the waiting lines at the end, or a new one; no result stays
-    size_t AddWaiting();         // before a result
+    // These return the index of the entry that they have made or changed.
+    // Writes into the first of the waiting lines at the end, or into a new line. A result is taken away.
+    size_t Write(std::string_view move);
+    size_t AddWaiting();  // before a result
     size_t AddResult(std::string_view result);
     // A text that is no result makes a move of an entry that was one.
     void SetText(size_t index, const std::string& text) { entries[index] = {static_cast<int32_t>(index) + 1, text}; }
@@ -45,12 +45,13 @@ class MoveList {
     void RemoveLast() { entries.pop_back(); }
     void Clear() { entries.clear(); }
 
-    // What the list of a side shows: White's moves with their number, Black's alone, waiting ones with it in both.
+    // What the list of a side shows: White's moves with their numbers, Black's without, and waiting lines with the
+    // number in both lists.
     std::string Line(size_t index, Side side) const;
 
   private:
     std::vector<MoveEntry> entries;
 };
 
-// White's and Black's.
+// The list of White's moves, then that of Black's.
 using MoveLists = std::array<MoveList, 2>;

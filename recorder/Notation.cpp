@@ -11,7 +11,7 @@ struct Step {
 constexpr std::array KnightJumps{Step{-2, -1}, Step{-2, 1}, Step{-1, -2}, Step{-1, 2},
                                  Step{1, -2},  Step{1, 2},  Step{2, -1},  Step{2, 1}};
 
-// Diagonals first, then lines, so that each sliding piece has its directions in a row.
+// Diagonals first, then files and ranks, so that the directions of each sliding piece are consecutive.
 constexpr std::array Directions{Step{-1, -1}, Step{-1, 1}, Step{1, -1}, Step{1, 1},
                                 Step{-1, 0},  Step{1, 0},  Step{0, -1}, Step{0, 1}};
 
@@ -20,8 +20,8 @@ bool AnotherKnight(const Board& before, const Move& move) {
     for (size_t i = 0; i < KnightJumps.size(); ++i) {
         const auto [files, ranks] = KnightJumps[i];
         if (!OnBoard(file + files, rank + ranks)) continue;
-        // For the first jump the rank looked at is the destination's file number less one. Deliberate: scores written
-        // so far were written like this.
+        // The rank that is searched for the first jump is the destination's file number less one. This is deliberate:
+        // earlier scores were written like this.
         const Square square = SquareAt(file + files, i == 0 ? file - 1 : rank + ranks);
         if (square != move.Origin && before.At(square) == move.Moving) return true;
     }
@@ -55,7 +55,7 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-// "b" is a file and a Bishop; what stands around it tells which.
+// "b" can mean a file or a Bishop; the characters around it tell which.
 char FileOrBishop(std::string_view text, size_t at) {
     if (at > 0) return text[at - 1] == '=' ? 'B' : 'b';
     const char next = text.size() > 1 ? Lower(text[1]) : '\0';
@@ -116,7 +116,7 @@ char Disambiguation(const Board& before, const Move& move) {
 void SetPromotion(std::string& moveText, PieceKind kind) {
     const size_t sign = moveText.find('=');
     if (sign == std::string::npos) {
-        // Marks that were declared before the choice stay behind it.
+        // Marks that were declared before the choice stay at the end.
         const size_t marks = moveText.find_last_not_of("+#?!") + 1;
         moveText.insert(marks, {'=', PieceLetter(kind)});
     } else if (sign + 1 < moveText.size()) {

@@ -27,27 +27,28 @@ class MoveText {
 // A missing or unreadable move.
 inline constexpr std::string_view MissingMove = "\?\?-\?\?";
 
-// Writes a move in short algebraic notation: "Nf3", "exd5", "Rad8", "exd6ep", "O-O". `before` is the position that
-// Classify gave the move for. Check, mate and the promotion's piece are not written: players declare and choose them.
+// Writes a move in short algebraic notation: "Nf3", "exd5", "Rad8", "exd6ep", "O-O". `before` is the position for which
+// Classify gave the move. Check, mate and the piece of a promotion are not written: the players declare and choose
+// them.
 MoveText WriteMove(const Board& before, const Move& move);
 
 // The move in long form: "e2-e4", "e4xd5", "e5xd6ep", "O-O".
 MoveText WriteLongForm(const Move& move);
 
 // The letter that tells a Queen, Rook, Bishop or Knight from another of its kind that could reach the destination: the
-// origin's file, or 0 where there is no other. Never the rank, deliberately, even where both stand on one file.
+// origin's file, or 0 if there is no other. It is deliberately never the rank, even if both are on one file.
 char Disambiguation(const Board& before, const Move& move);
 
-// Adds "=" and the piece's letter to a written move; a move that holds "=" gets the letter behind it replaced, and
-// keeps its marks.
+// Adds "=" and the piece's letter to a written move; if the move has one already, only the letter after the "=" is
+// replaced, and the marks stay.
 void SetPromotion(std::string& moveText, PieceKind kind);
 
 // "1-0", "0-1" or "1/2-1/2".
 bool IsResult(std::string_view text);
 
-// Takes one result mark, also "*", from the end of a game's text.
+// Removes one result mark, "*" included, from the end of a game's text.
 void RemoveResultMark(std::string& gameText);
 
-// Puts a typed or edited move right: castling with zeros or small letters, the case of files and pieces; an empty text
-// becomes MissingMove. At most 8 characters of a move are kept.
+// Corrects a typed or edited move: castling with zeros or small letters, and the case of files and pieces. An empty
+// text becomes MissingMove. At most 8 characters of a move are kept.
 std::string NormaliseMove(std::string_view typed);

@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::string_view WinOf(Side side) { return side == White ? "1-0" : "0-1"; }
 
-// A move of the movetext with the blank behind it. Black's carries a number only where White's move is missing.
+// A move of the movetext with the blank after it. A move of Black's has a number only if White's move is missing.
 std::string MoveOfText(const MoveEntry& entry, Side side, bool numbered) {
     std::string text;
     if (numbered) text = std::to_string(entry.Number) + (side == White ? ". " : "... ");
@@ -31,7 +31,7 @@ void Recorder::Restore(const Board& position, const MoveLists& moves, Side toMov
     AwaitPromotionAgain();
 }
 
-// A pawn on its last rank, on the square of the last move, has not been promoted yet.
+// A pawn that the last move left on its last rank has not been promoted yet.
 void Recorder::AwaitPromotionAgain() {
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
@@ -57,7 +57,7 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     const ChosenLine line{sideToMove, lists[sideToMove].Write(text.View())};
     runningText += pendingText;
     pendingText = MoveOfText(lists[line.List].Entries()[line.Index], line.List, line.List == White);
-    // Behind a deletion, or in a line that others have overtaken, the text is not simply longer by this move.
+    // After a deletion, or in a line that is not the last in the order of play, the move is not simply appended.
     if (line.Index * 2 + static_cast<size_t>(line.List) != before) RebuildText();
     promotion.reset();
     if (Board::ReachesLastRank(move.Moving, destination)) promotion = Promotion{destination, line};
@@ -72,7 +72,7 @@ void Recorder::Promote(PieceKind kind) {
     if (!promotion->Line) return;
     const auto [side, index] = *promotion->Line;
     const MoveEntry& entry = lists[side].Entries()[index];
-    // An edit may have made something else of the entry.
+    // An edit may have turned the entry into something else.
     if (!entry.IsWritten()) return;
     std::string text = entry.Text;
     SetPromotion(text, kind);
@@ -110,7 +110,7 @@ void Recorder::SetMark(size_t index, Side side, std::string_view mark) {
     if (text.ends_with('#')) return;
     if (text.ends_with('+')) {
         if (mark == "+") return;
-        // A check that turns out to be mate.
+        // The check turns out to be mate.
         text.pop_back();
     }
     lists[side].SetText(index, text + std::string(mark));
@@ -182,7 +182,7 @@ void Recorder::PutBack(Piece piece, int slot, Square square) {
     board.Put(square, piece);
 }
 
-// In the order of play, up to the last written one.
+// Counts in the order of play, up to the last written move.
 size_t Recorder::HalfMovesWritten() const {
     size_t end = 0;
     for (Side side : BothSides) {
@@ -194,7 +194,7 @@ size_t Recorder::HalfMovesWritten() const {
 void Recorder::RebuildText() {
     runningText.clear();
     pendingText.clear();
-    // Waiting lines behind the last move are no part of the game yet.
+    // Waiting lines after the last move are not part of the game yet.
     const size_t end = HalfMovesWritten();
     for (size_t half = 0; half < end; ++half) {
         const Side side = half % 2 == 0 ? White : Black;

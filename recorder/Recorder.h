@@ -9,7 +9,7 @@
 
 enum class Declaration { Check, Mate, Resign, Draw };
 
-// The entry of a list that an operation wants to be shown as chosen.
+// The entry of a list that is to be shown as chosen after an operation.
 struct ChosenLine {
     Side List;
     size_t Index;
@@ -25,60 +25,60 @@ class Recorder {
     const MoveList& List(Side side) const { return lists[side]; }
     const MoveLists& Lists() const { return lists; }
     Side SideToMove() const { return sideToMove; }
-    // The move last carried out, for showing it.
+    // The move last carried out, so that it can be shown.
     const std::optional<Move>& LastMove() const { return lastMove; }
     bool MovesWritten() const { return !lists[White].Empty() || !lists[Black].Empty(); }
 
-    // The game so far in movetext, and the last move, which promotions and marks still reach. A result mark stands at
-    // the end of the running text, and then no move is pending.
+    // The game's movetext without the last move, and that move, which promotions and marks can still change. A result
+    // mark ends the running text, and then no move is pending.
     const std::string& RunningText() const { return runningText; }
     const std::string& PendingText() const { return pendingText; }
 
     bool HasResult() const { return lists[White].EndsWithResult() || lists[Black].EndsWithResult(); }
 
-    // The initial position, empty lists, White to move.
+    // Back to the initial position, empty lists and White to move.
     void Reset();
 
-    // A game that was kept: play goes on from there. The captured pieces follow from the position, the running text
-    // from the lists where none was kept.
+    // Takes a game that was kept, from which play goes on. The captured pieces follow from the position, and the
+    // running text from the lists if none was kept.
     void Restore(const Board& position, const MoveLists& moves, Side toMove, const std::optional<std::string>& text);
 
     // Carries out and writes the move between two squares, for the side to move whatever the piece's colour. The origin
-    // must hold a piece. A result that stood is taken away: play goes on.
+    // must hold a piece. A result that has been written is taken away: play goes on.
     ChosenLine Play(Square origin, Square destination);
 
-    // The pawn that reached its last rank with the last move, until the next one is entered.
+    // Whether the last move brought a pawn to its last rank. True until the next move is entered.
     bool AwaitsPromotion() const { return promotion.has_value(); }
-    // Makes it that piece and says so in its entry; again, if it has been chosen before.
+    // Makes the pawn that piece and writes so in its entry. The choice can be made again.
     void Promote(PieceKind kind);
 
-    // What the players declare. `clockCounts` are the moves that the clock has counted, for resigning and drawing,
-    // which fill the lists up to them; the last line added to each.
+    // What the players declare. `clockCounts` are the moves that the clock has counted: resignation and draw fill the
+    // lists up to them. Returns the last line added to each list.
     ChosenLines Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts);
 
-    // The result of a fallen flag of a side.
+    // Writes the result when the flag of a side has fallen.
     void FlagFell(Side side);
 
-    // Waiting lines where a list is shorter than the clock's count, or White's than Black's; the last one added to
-    // each.
+    // Adds waiting lines where a list is shorter than the clock's count, or White's list shorter than Black's. Returns
+    // the last line added to each list.
     ChosenLines TopUpMoveLists(const std::array<int32_t, 2>& clockCounts);
 
-    // The line for the next move, after a press of the clock that made a side run; nothing when none is due.
+    // Adds the line for the next move after a press that has started a side's clock; no value if no line is due.
     std::optional<ChosenLine> AddLineForPress(bool firstPress, Side running);
 
-    // Writes a typed text into an entry, put right. The position stays: the board keeps no history.
+    // Corrects a typed text and writes it into an entry. The position does not change: the board keeps no history.
     void Edit(Side side, size_t index, std::string_view typed);
 
-    // Removes the last entry of a list that is not empty. Nothing else changes but the running text.
+    // Removes the last entry of a list, which must not be empty. Nothing else changes except the game's text.
     void DeleteLast(Side side);
 
-    // A captured piece goes back to an empty square and its slot is hidden again; no move is written.
+    // Puts a captured piece back on an empty square and hides its slot again. No move is written.
     void PutBack(Piece piece, int slot, Square square);
 
   private:
     struct Promotion {
         Square On;
-        std::optional<ChosenLine> Line;  // none: it has been deleted
+        std::optional<ChosenLine> Line;  // none: the line has been deleted
     };
 
     void AwaitPromotionAgain();

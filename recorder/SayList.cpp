@@ -18,7 +18,7 @@ void SayList::ApplyTexts(const Texts& texts) const {
 }
 
 std::optional<Declaration> SayList::OnNotification(int notification) const {
-    // What was passed over and not chosen must not stand there as if it had been said.
+    // An entry that was passed over and not chosen must not be shown as if it had been said.
     if (notification != CBN_SELENDOK && notification != CBN_SELENDCANCEL) return std::nullopt;
     const LRESULT chosen = SendMessageW(form.Control(cmbSay), CB_GETCURSEL, 0, 0);
     SendMessageW(form.Control(cmbSay), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
@@ -26,7 +26,7 @@ std::optional<Declaration> SayList::OnNotification(int notification) const {
     return static_cast<Declaration>(chosen);
 }
 
-// With the list closed, a key must not declare what it passes over: it opens the list.
+// While the list is closed, a key must not declare the entries that it passes over: it opens the list.
 LRESULT CALLBACK SayList::Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     if (!SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0)) {
         if (message == WM_CHAR || message == WM_MOUSEWHEEL) return 0;

@@ -6,7 +6,7 @@
 #include <optional>
 
 // The drop-down list in which the players declare check, mate, resignation and draw. It shows no entry while it is
-// closed, so that the same one can be chosen again.
+// closed, so that the same entry can be chosen again.
 class SayList {
   public:
     // The form must outlive the list.
@@ -15,7 +15,7 @@ class SayList {
     void Create();
     void ApplyTexts(const Texts& texts) const;
 
-    // A notification of the list: what has been declared by it, nothing for most.
+    // What a notification of the list declares; no value for most notifications.
     std::optional<Declaration> OnNotification(int notification) const;
 
   private:

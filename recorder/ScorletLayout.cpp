@@ -19,7 +19,7 @@ ScorletLayout LayOutScorlet(int width, int height, int dpi) {
     layout.Board = {margin, margin, boardSize, boardSize};
 
     layout.CapturedTitle = {margin, layout.Board.Bottom() + margin, boardSize, line};
-    // Fifteen pieces of a side at the most, in a row.
+    // A row holds at most the fifteen pieces that a side can lose.
     layout.Slot = std::min(slotsHeight, boardSize / 15);
     for (Side side : BothSides)
         layout.CapturedRows[side] = {margin, layout.CapturedTitle.Bottom() + side * slotsHeight, boardSize,

@@ -5,10 +5,10 @@
 
 #include <array>
 
-// Where everything stands in the Scorlet window, in pixels of its client area.
+// The places of everything in the Scorlet window, in pixels of its client area.
 struct ScorletLayout {
-    Box Board;     // with the coordinates at its left and lower edge
-    int Edge;      // width of those
+    Box Board;     // with the coordinates on its left and below it
+    int Edge;      // width of the coordinates
     int CellSize;  // side of a square
     Box CapturedTitle;
     std::array<Box, 2> CapturedRows;  // the captured pieces of each side
@@ -20,15 +20,15 @@ struct ScorletLayout {
     std::array<Box, 4> Promotion;
     int CoordinateType;
 
-    // Of the square in file and rank 1 to 8, seen from White.
+    // The square of a file and a rank, 1 to 8, seen from White's side.
     Box Cell(int file, int rank) const {
         return {Board.Left + Edge + (file - 1) * CellSize, Board.Top + (8 - rank) * CellSize, CellSize, CellSize};
     }
 };
 
-// At 96 dpi: the client size at first, and the least.
+// The client size at first, and the smallest, at 96 dpi.
 inline constexpr int ScorletWidth = 720, ScorletHeight = 590;
 inline constexpr int ScorletLeastWidth = 480, ScorletLeastHeight = 420;
 
-// The board takes what room there is; lists, fields and type keep the size of the resolution.
+// The board takes the room that there is; the size of lists, fields and type depends on the resolution only.
 ScorletLayout LayOutScorlet(int width, int height, int dpi);

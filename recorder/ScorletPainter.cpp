@@ -17,7 +17,7 @@ constexpr Colour EdgeColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOW}, EdgeInk{RGB(0x
 
 constexpr std::array PromotionNames{"TQ", "TR", "TB", "TN"};
 
-// A frame of some thickness at the inside of a square.
+// A frame inside the edges of a square.
 void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
     for (int i = 0; i < thickness; ++i) {
         Frame(dc, area, colour);

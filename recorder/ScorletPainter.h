@@ -12,12 +12,12 @@
 // How the Scorlet looks: its colours, type and pictures.
 class ScorletPainter {
   public:
-    // Throws SystemError that names the picture.
+    // Throws a SystemError that names the picture.
     void LoadPictures();
     void SetLayout(const ScorletLayout& layout, int dpi);
 
     HFONT Font() const { return font.get(); }
-    // The system's own colour of windows' faces: the lists and fields are the system's too.
+    // The system's own colour of dialogs, since the lists and fields are the system's too.
     HBRUSH BackgroundBrush() const { return GetSysColorBrush(COLOR_BTNFACE); }
 
     void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;

@@ -7,13 +7,13 @@
 
 // What screen readers say of the board.
 
-// "white pawn"; "empty" for no piece.
+// Such as "white pawn"; "empty" for no piece.
 std::wstring SpokenPiece(const Texts& texts, Piece piece);
 
-// "e4, white pawn, last move".
+// Such as "e4, white pawn, last move".
 std::wstring SpokenSquare(const Texts& texts, const Recorder& recorder, const BoardInput& input, Square square);
 
-// "white pawn", and whether that captured piece is picked.
+// Such as "white pawn", and whether that captured piece is picked.
 std::wstring SpokenCaptured(const Texts& texts, const BoardInput& input, Piece piece, int slot);
 
 // The board as a whole: the captured piece that is picked, if one is, and the square of the cursor.

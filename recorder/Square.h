@@ -5,7 +5,7 @@
 // A square of the board as file * 10 + rank, both 1 to 8: a1 is 11, e2 is 52, h8 is 88.
 enum Square : int { NoSquare = 0 };
 
-// Squares by their index leave room for every index up to h8.
+// The size of a table of squares, with room for every index up to that of h8.
 inline constexpr int SquareIndexes = 89;
 
 constexpr Square SquareAt(int file, int rank) { return static_cast<Square>(file * 10 + rank); }

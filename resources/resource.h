@@ -27,7 +27,7 @@ enum ClockControl : int {
     imgFlagDown = 1022,
     imgHand = 1024,
     lblBlink = 1026,
-    shpTurn = 1028,  // three marks a side: those of side 1 follow those of side 0
+    shpTurn = 1028,  // three marks for each side: those of side 0, then those of side 1
 
     mnuStart = 1100,
     mnuLoad,
@@ -42,14 +42,14 @@ enum ClockControl : int {
     mnuPrint,
     mnuContents,
     mnuAbout,
-    mnuNextWindow,  // a key alone
+    mnuNextWindow,  // has a key, but no menu entry
 };
 
 // The Scorlet.
 enum ScorletControl : int {
     picBoard = 2000,  // the cells follow, each at this number + its square: 2011 for a1 to 2088 for h8
     lblCaptured = 2100,
-    imgCapturedWQ = 2101,  // the slots of each tray follow one another, those of Black's pieces behind White's
+    imgCapturedWQ = 2101,  // the slots of a tray are consecutive; the trays of Black's pieces come last
     imgCapturedWR = 2102,
     imgCapturedWB = 2104,
     imgCapturedWN = 2106,
@@ -151,7 +151,7 @@ enum ScorletMessage : unsigned {
 // The timers of the clock window.
 enum ClockTimer : unsigned { BlinkTimer = 1, HelpTimer, PrintTimer };
 
-// Captured pieces of a side.
+// How many captured pieces of a side can be shown.
 inline constexpr int CapturedSlots = imgCapturedBQ - imgCapturedWQ;
 
 inline constexpr int TurnMarksPerSide = 3;

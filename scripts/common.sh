@@ -4,7 +4,7 @@ set -euo pipefail
 
 say() { printf '== %s\n' "$*"; }
 
-# Installs the packages that are missing. Debian and what derives from it; elsewhere the missing ones are named.
+# Installs the packages that are missing, on Debian and systems derived from it. Elsewhere it names them and fails.
 ensure_packages() {
     local missing=() package
     for package in "$@"; do
@@ -34,7 +34,8 @@ build() {
     cmake --build --preset "$preset" ${*:+--target "$@"} -- --quiet
 }
 
-# A Wine prefix of the project's own, by name: the user's settings are left alone and nothing asks to be downloaded.
+# Sets up the project's own Wine prefix of this name, so that the user's settings are left alone and Wine does not offer
+# to download anything.
 use_own_wine() {
     export WINEPREFIX=$PWD/build/wine-$1
     export WINEDEBUG=${WINEDEBUG:--all}
@@ -79,12 +80,13 @@ start_virtual_display() {
     rm -f "$number_file"
 }
 
-# A Wine prefix by name for programs that test windows, with its desktop open on the display of DISPLAY and with a sound
-# device that writes what is played to the file of TORVANIX_SOUND_CAPTURE. Whoever opens it ends it by wineserver -k.
+# Sets up the Wine prefix of this name for programs that test windows. Its desktop is open on the display of DISPLAY,
+# and its sound device writes what is played to the file of TORVANIX_SOUND_CAPTURE. The caller ends it with wineserver
+# -k.
 open_test_desktop() {
     use_own_wine "$1"
-    # It stays open between the programs, and opens while the rest is set up: a program that starts at the same time could
-    # get another one.
+    # The desktop stays open between the programs. It opens while the rest is set up, since a program that started at
+    # the same time could get another desktop.
     wine explorer.exe /desktop=tests,1600x1000 >/dev/null 2>&1 &
     # Every window of this prefix opens on one desktop with real title bars.
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d tests /f >/dev/null
@@ -92,7 +94,7 @@ open_test_desktop() {
 
     wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
 
-    # What is played lands in a file, by way of a sound device that this configuration makes.
+    # This configuration makes a sound device that writes what is played to a file.
     export ALSA_CONFIG_PATH=$PWD/build/asound.conf
     capture=$PWD/build/sound.raw
     rm -f "$capture"

@@ -10,9 +10,9 @@
 #include <optional>
 #include <string>
 
-// The clock's configuration as every window reads it. Times are seconds, per side.
+// The clock's configuration as every window reads it. Times are in seconds.
 struct Settings {
-    std::array<std::string, 2> PlayerNames;  // in the ANSI code page; empty: the side's own caption is shown
+    std::array<std::string, 2> PlayerNames;  // in the ANSI code page; if empty, the side's caption is shown
     TimeControl Control;                     // its SecondPeriodEnabled follows from ClockType, see SetClockType
     bool TurnClock = false;
     bool ShowMoveNumber = false;
@@ -28,16 +28,17 @@ struct Settings {
     // The DEFAULT preset, no names, English.
     Settings();
 
-    // Takes the type and what follows of it: types 1 and 2 have a second period, 0 and 3 have none, any other number
-    // leaves that as it was.
+    // Takes the type and what follows from it: types 1 and 2 have a second period, 0 and 3 have none, and any other
+    // number leaves that as it was.
     void SetClockType(int32_t type);
 
-    // Take the list position and look its resource name up. Throw RunTimeError(Fault::OutOfRange) outside the table.
+    // These take the position in the list and look up its resource name. They throw RunTimeError(Fault::OutOfRange)
+    // outside the table.
     void SetButtonSound(int32_t index);
     void SetFlagSound(int32_t index);
 };
 
-// A fixed choice for everything but the names, the language and the PGN option.
+// A fixed choice of everything except the names, the language and the PGN option.
 struct Preset {
     int32_t ClockType;
     int32_t FirstPeriodMinutes;

@@ -9,7 +9,7 @@ int32_t SettingsFile::LoadLanguage() const {
         const auto bytes = ReadFileBytes(path, LongestRecord);
         if (bytes) return DecodeLanguage(DecodeRecord(*bytes).Slots);
     } catch (const SystemError&) {
-        // Load, which follows, says so.
+        // Load, which is called next, reports it.
     }
     return English;
 }

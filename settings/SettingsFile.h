@@ -14,16 +14,16 @@ class SettingsFile {
     // `folder` with its trailing backslash.
     explicit SettingsFile(const std::wstring& folder) : path(folder + L"TORVANIX.set") {}
 
-    // The language alone, which the first window needs: English when there is no file or none that can be read.
+    // The language alone, which the first window needs. English if there is no file or it cannot be read.
     int32_t LoadLanguage() const;
 
-    // Reads the file into the settings, all but the language. Without a file they become the DEFAULT preset without
-    // names. What cannot be read stays as it is; the text, empty on success, says what was wrong. The file is never
-    // touched.
+    // Reads the file into the settings, except for the language. Without a file they become the DEFAULT preset, without
+    // names. What cannot be read stays as it is. The text says what is wrong with the file; it is empty on success. The
+    // file is never changed.
     std::wstring Load(Settings& settings, const Texts& texts) const;
 
-    // Replaces the file whole. Throws RunTimeError(Fault::OutOfRange) when the names are too long together, SystemError
-    // when the file cannot be written; the old one then stays.
+    // Replaces the whole file. Throws RunTimeError(Fault::OutOfRange) if the names together are too long, and
+    // SystemError if the file cannot be written; the old file then stays.
     void Save(const Settings& settings) const;
 
   private:

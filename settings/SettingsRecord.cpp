@@ -29,7 +29,7 @@ void DecodeOptions(SlotReader& slots, Settings& settings) {
     settings.ShowMoveNumber = slots.NextCheck();
     settings.SetClockType(slots.Next());
     settings.OpenScorletAtStart = slots.NextCheck();
-    // The list position is one less than the amount, and the amount plus one must still be a number.
+    // The list position is one less than the amount, and the amount plus one must still fit.
     settings.Control.MovesFirstPeriod = slots.Next(0, std::numeric_limits<int32_t>::max() - 2) + 1;
     settings.SetButtonSound(slots.Next(0, static_cast<int32_t>(ButtonSounds.size()) - 1));
     settings.SetFlagSound(slots.Next(0, static_cast<int32_t>(FlagSounds.size()) - 1));
@@ -46,7 +46,7 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
     } catch (const BadSlot& bad) {
         return bad.Error;
     }
-    // A fault behind the last setting has cost nothing, but the file is damaged.
+    // A fault after the last setting has cost nothing, but the file is damaged.
     return record.Error;
 }
 

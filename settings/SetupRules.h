@@ -12,10 +12,10 @@ inline constexpr TimeScale FirstPeriodScale{1, 180, 1, 5};
 inline constexpr TimeScale SecondPeriodScale{0, 180, 1, 5};
 inline constexpr TimeScale BonusScale{0, 3599, 1, 10};
 
-// The move amounts in the list.
+// The list offers the move amounts from 1 to this.
 inline constexpr int32_t MostMovesListed = 100;
 
-// What can be set with a clock type. A number that is no type takes nothing away.
+// What can be set with a clock type: everything, if the number is no type.
 struct TypeRules {
     bool SecondPeriod;
     bool Bonus;
@@ -23,11 +23,11 @@ struct TypeRules {
 };
 TypeRules RulesOf(int32_t clockType);
 
-// Sets what cannot be set with the type to 0.
+// Makes 0 what cannot be set with the type.
 void DropWhatTypeLacks(Settings& settings);
 
-// Takes the type with its rules: what cannot be set becomes 0, and HOURGLASS counts down.
+// Takes the type and applies its rules: what cannot be set becomes 0, and HOURGLASS counts down.
 void ChooseClockType(Settings& settings, int32_t type);
 
-// Takes a preset, then the rules of its type.
+// Takes a preset, then applies the rules of its type.
 void ChoosePreset(Settings& settings, const Preset& preset);

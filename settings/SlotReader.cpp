@@ -16,7 +16,7 @@ double Real(const SlotValue& value) {
 int32_t Rounded(double real, int32_t slot) {
     const double rounded = std::nearbyint(real);
     constexpr double least = std::numeric_limits<int32_t>::min(), most = std::numeric_limits<int32_t>::max();
-    // Not written as two comparisons that a NaN would pass.
+    // A NaN passes neither comparison, so it is refused too.
     if (!(rounded >= least && rounded <= most)) Fail(Damage::Overflow, slot);
     return static_cast<int32_t>(rounded);
 }

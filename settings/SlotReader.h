@@ -5,17 +5,17 @@
 #include <limits>
 #include <string>
 
-// Thrown by a SlotReader at the first bad slot; the decoder that uses it catches it and lets it no further.
+// Thrown by a SlotReader at the first bad slot; it goes no further than the decoder that uses the reader.
 struct BadSlot {
     RecordError Error;
 };
 
-// The slot's value as a whole number: any numeric type is accepted and rounded, an empty slot counts as 0. Throws
-// BadSlot for a slot outside the record or a number that does not fit 32 bits.
+// The slot's value as a whole number: any numeric type is accepted and rounded, and an empty slot counts as 0. Throws
+// BadSlot for a slot outside the record or a number that does not fit in 32 bits.
 int32_t NumberInSlot(const SlotRecord& record, int32_t slot);
 
-// Reads the values of a record slot after slot, from slot 0. Every function throws BadSlot where the record could not
-// be decoded, or the value is not what was asked for.
+// Reads the values of a record slot after slot, from slot 0. Every function throws BadSlot if the record could not be
+// decoded there, or the value is not what was asked for.
 class SlotReader {
   public:
     // The record must outlive the reader.
@@ -26,13 +26,13 @@ class SlotReader {
     int32_t Next() { return At(next++); }
     int32_t Next(int32_t least, int32_t most = std::numeric_limits<int32_t>::max());
 
-    // Minutes, with fractions, as seconds to the nearest one.
+    // Minutes, possibly with a fraction, as seconds, rounded to the nearest.
     int32_t NextMinutes(int32_t leastSeconds);
 
     // A length and that many character codes of 8 bits.
     std::string NextName(int32_t longest);
 
-    // Check boxes are stored as 0 and 1; as booleans they are 0 and -1.
+    // Check boxes are stored as 0 and 1, or as booleans 0 and -1.
     bool NextCheck() { return Next() != 0; }
 
     bool NextIsEmpty() const;

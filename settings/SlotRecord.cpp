@@ -7,7 +7,7 @@ namespace {
 
 enum Tag : uint16_t { Empty = 0, Long = 3, Double = 5, Boolean = 11 };
 
-// The file's byte order is little-endian whatever the machine's is.
+// The file is little-endian, whatever the byte order of the machine.
 template <typename Unsigned>
 class Field {
   public:

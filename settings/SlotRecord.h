@@ -14,7 +14,7 @@
 // 11: 16-bit boolean, -1 for true.
 inline constexpr int32_t SlotCount = 1000;
 
-// The most bytes of a record: a slot takes ten. What a file holds behind them need not be read.
+// The most bytes that a record can have, ten for each slot. What a file holds after them need not be read.
 inline constexpr size_t LongestRecord = SlotCount * 10;
 
 using SlotValue = std::variant<std::monostate, int32_t, double, bool>;
@@ -26,15 +26,15 @@ struct RecordError {
     int32_t Slot;
 };
 
-// A record as far as it could be read: on an error the slots before error->slot hold what the bytes say, that one and
-// those behind it are empty.
+// A record as far as it could be read. On an error the slots before the one that the error names hold what the bytes
+// say; that slot and those after it are empty.
 struct DecodedRecord {
     SlotRecord Slots;
     std::optional<RecordError> Error;
 };
 
-// Reads a record from the start of `bytes`; what stands behind it is ignored.
+// Reads a record from the start of `bytes`; what follows it is ignored.
 DecodedRecord DecodeRecord(std::span<const uint8_t> bytes);
 
-// The record's bytes, 2000 of tags and the values among them.
+// The record's bytes: 2000 bytes of tags, with the values among them.
 std::string EncodeRecord(const SlotRecord& record);

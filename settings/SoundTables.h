@@ -2,7 +2,7 @@
 
 #include <array>
 
-// Names of the "WAVE" resources behind the two sound lists of the settings. "NOSOUND" is a silent wave.
+// Names of the "WAVE" resources for the two sound lists of the settings. "NOSOUND" is a silent wave.
 inline constexpr std::array<const char*, 5> ButtonSounds{"NOSOUND", "BUTTONPUSHED", "CLICK", "TYPEWRITER", "TRAK"};
 
 // The list calls the second entry "Flag"; it deliberately plays the sound of a moved piece.

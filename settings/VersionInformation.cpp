@@ -7,7 +7,7 @@
 namespace {
 
 std::wstring StringOf(const std::vector<std::byte>& resource, const wchar_t* name) {
-    // The block of no language, in Unicode.
+    // The block of texts that belong to no language, in Unicode.
     const std::wstring block = std::wstring(L"\\StringFileInfo\\000004b0\\") + name;
     void* text = nullptr;
     UINT length = 0;

@@ -59,7 +59,7 @@ LRESULT frmAbout::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_LBUTTONUP:
         case WM_RBUTTONUP: Close(); return 0;
         case WM_COMMAND:
-            // Enter and Esc: there is no control to send another.
+            // Enter or Esc: no control of the box sends another command.
             Close();
             return 0;
         case WM_DRAWITEM: {

@@ -5,7 +5,8 @@
 
 namespace {
 
-// The text that explains an error code; ReasonSystemError, which wants the number as %1, for one without a row.
+// The text that explains an error code. A code without a row of its own gets ReasonSystemError, which takes the number
+// as %1.
 TextId ReasonRow(DWORD code) {
     switch (code) {
         case ERROR_ACCESS_DENIED:
@@ -82,7 +83,7 @@ std::wstring Texts::Duration(int32_t seconds) const {
                                                 {TextId::SpokenSecond, seconds % 60}};
     std::wstring text;
     for (const auto& [unit, count] : parts) {
-        // No time at all is no seconds.
+        // No time at all is spoken as "0 seconds".
         if (count == 0 && (seconds != 0 || unit != TextId::SpokenSecond)) continue;
         if (!text.empty()) text += L' ';
         text += Compose(CountRow(unit, count, language), std::to_wstring(count));
@@ -91,7 +92,7 @@ std::wstring Texts::Duration(int32_t seconds) const {
 }
 
 std::wstring Texts::Reason(DWORD code) const {
-    // Codes of COM are known by their hexadecimal form.
+    // COM's codes are known by their hexadecimal form.
     wchar_t number[16];
     swprintf(number, 16, code > 0x7FFFFFFF ? L"0x%08lX" : L"%lu", code);
     return Compose(ReasonRow(code), number);

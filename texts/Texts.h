@@ -11,7 +11,7 @@
 // The string table in the program's resources, in the language of the settings.
 class Texts {
   public:
-    // The language index must outlive the texts; a change of it counts from the next look-up on.
+    // The language index must outlive the texts; a change of it takes effect at the next look-up.
     explicit Texts(const int32_t& languageIndex) : language(languageIndex) {}
 
     // Text of an identifier; empty where the table has none.
@@ -22,7 +22,7 @@ class Texts {
     // Text of a row with its %1 and %2 replaced.
     std::wstring Compose(TextId row, const std::wstring& first, const std::wstring& second = {}) const;
 
-    // "White", "Black", for speech.
+    // "White" or "Black", to be spoken.
     std::wstring SideName(Side side) const;
 
     // A time in words, without the parts that are 0: "1 hour 5 seconds".
@@ -31,7 +31,7 @@ class Texts {
     // Why a call of the system failed.
     std::wstring Reason(DWORD code) const;
 
-    // Why a file is damaged, with the place where it is.
+    // What is wrong with a damaged file, and where.
     std::wstring Reason(Damage damage, int32_t place, int32_t column = 0) const;
 
     int32_t LanguageIndex() const { return language; }

@@ -25,7 +25,7 @@ class DialogsTest : public testing::TestWithParam<int32_t> {
     MessageBoxes messageBoxes{texts};
     TestFolder folder;
     SettingsFile file{folder.Path()};
-    const Environment environment{.Look = AppearanceOf("NONE")};
+    const Environment environment{};
     const Surroundings around{texts, messageBoxes, environment};
 
     static void ExpectWellMade(HWND dialog) {
