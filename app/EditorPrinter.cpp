@@ -1,5 +1,8 @@
 #include "app/EditorPrinter.h"
 
+#include "platform/Process.h"
+#include "platform/SystemError.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -59,19 +62,12 @@ bool SendPasteKeys() {
 
 void EditorPrinter::Start(HWND owner, const std::wstring& editor, const std::wstring& printed) {
     earlier = EditorWindows();
-    std::wstring commandLine = L"\"" + editor + L"\"";
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = SW_SHOWNORMAL;
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessW(editor.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &started)) {
-        const std::wstring reason = texts.Reason(GetLastError());
+    try {
+        StartProgram(editor);
+    } catch (const SystemError& error) {
+        const std::wstring reason = texts.Reason(error.Code());
         return messageBoxes.Inform(owner, texts.Compose(TextId::EditorNotStarted, editor, reason));
     }
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
     text = printed;
     step = Step::Clipboard;
     deadline = GetTickCount64() + ClipboardPatience;

@@ -3,7 +3,9 @@
 #include "games/GameName.h"
 #include "games/GameStore.h"
 #include "platform/Dialog.h"
+#include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
+#include "resources/resource.h"
 
 // What the file dialog needs from the game on the clock and the Scorlet.
 class GameHost {
@@ -51,13 +53,13 @@ class frmFiles : public Dialog {
     void Tell(const std::wstring& text) const;
     bool Ask(const std::wstring& text, bool yesIsDefault = true) const;
 
-    static LRESULT CALLBACK NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                          DWORD_PTR self);
-
     const GameStore& games;
     GameHost& host;
     FilesMode mode;
     GameName typed;
+    FilteredEdit nameField{*this, txtGameName, [this](const std::wstring& text) { return typed.Changed(text); },
+                           [this](wchar_t character, const std::wstring& text) {
+                               return typed.TakesKey(character, text);
+                           }};
     ToolTips toolTips{*this};
-    bool settingText = false;
 };
