@@ -3,6 +3,8 @@
 #include "app/PrintedList.h"
 #include "platform/Ansi.h"
 #include "platform/Files.h"
+#include "platform/Process.h"
+#include "platform/SystemError.h"
 #include "platform/Today.h"
 #include "resources/resource.h"
 #include "settings/ShownName.h"
@@ -71,19 +73,12 @@ void EditorPrinter::Print(HWND owner) {
     if (editor.empty() || !FileExists(editor)) return messageBoxes.Inform(owner, texts(TextId::EditorMissing));
     game.TopUpMoveLists();
     earlier = EditorWindows();
-    std::wstring commandLine = L"\"" + editor + L"\"";
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = SW_SHOWNORMAL;
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessW(editor.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &started)) {
-        const std::wstring reason = texts.Reason(GetLastError());
+    try {
+        StartProgram(editor);
+    } catch (const SystemError& error) {
+        const std::wstring reason = texts.Reason(error.Code());
         return messageBoxes.Inform(owner, texts.Compose(TextId::EditorNotStarted, editor, reason));
     }
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
     text = ListsOfGame();
     step = Step::Clipboard;
     deadline = GetTickCount64() + ClipboardPatience;

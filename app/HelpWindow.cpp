@@ -1,5 +1,6 @@
 #include "app/HelpWindow.h"
 
+#include "platform/Process.h"
 #include "platform/SystemError.h"
 
 namespace {
@@ -54,17 +55,12 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
     if (attributes == INVALID_FILE_ATTRIBUTES || attributes & FILE_ATTRIBUTE_DIRECTORY)
         return messageBoxes.Inform(owner, texts.Compose(TextId::HelpFileMissing, file));
 
-    std::wstring commandLine = L"\"" + viewer + L"\" \"" + address + L"\"";
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessW(viewer.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &started)) {
-        const std::wstring reason = texts.Reason(GetLastError());
-        return messageBoxes.Inform(owner, texts.Compose(TextId::HelpNotStarted, viewer, reason));
+    try {
+        process = StartProgram(viewer, L"\"" + viewer + L"\" \"" + address + L"\"");
+    } catch (const SystemError& error) {
+        const std::wstring reason = texts.Reason(error.Code());
+        messageBoxes.Inform(owner, texts.Compose(TextId::HelpNotStarted, viewer, reason));
     }
-    CloseHandle(started.hThread);
-    process.reset(started.hProcess);
 }
 
 void HelpWindow::Watch(HWND first) {

@@ -1,10 +1,8 @@
 #include "games/frmFiles.h"
 
 #include "platform/Ansi.h"
-#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "platform/Today.h"
-#include "resources/resource.h"
 #include "settings/ShownName.h"
 
 #include <commctrl.h>
@@ -61,7 +59,7 @@ void frmFiles::Open(HWND owner) {
     Create(owner, L"frmFiles", Of(mode).Title, L"DISKETTE.ICO", Width, Height, Items);
     for (const ModeTexts& texts : Modes) SetVisible(texts.Button, texts.Button == Of(mode).Button);
     SetText(lblHint, captions(Of(mode).Hint));
-    Subclass<NameProcedure>(Control(txtGameName), this);
+    nameField.Attach();
     toolTips.Create();
     FillGameList();
 }
@@ -117,15 +115,7 @@ void frmFiles::OnPick() {
 }
 
 void frmFiles::OnNameChange() {
-    if (settingText) return;
-    const std::wstring text = Text(txtGameName), changed = typed.Changed(text);
-    if (changed != text) {
-        const HWND field = Control(txtGameName);
-        settingText = true;
-        SetWindowTextW(field, changed.c_str());
-        SendMessageW(field, EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
-        settingText = false;
-    }
+    nameField.OnChange();
     toolTips.Set(txtGameName, typed.LastGood());
 }
 
@@ -193,14 +183,4 @@ void frmFiles::Tell(const std::wstring& text) const { messageBoxes.Inform(Window
 
 bool frmFiles::Ask(const std::wstring& text, bool yesIsDefault) const {
     return messageBoxes.Ask(Window(), text, yesIsDefault, Of(mode).Title);
-}
-
-LRESULT CALLBACK frmFiles::NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                         DWORD_PTR self) {
-    const auto& form = *reinterpret_cast<const frmFiles*>(self);
-    const auto character = static_cast<wchar_t>(wParam);
-    // The other codes below the blank are commands such as copying and pasting.
-    const bool key = message == WM_CHAR && (character >= L' ' || character == VK_BACK);
-    if (key && !form.typed.TakesKey(character, form.Text(txtGameName))) return 0;
-    return DefSubclassProc(field, message, wParam, lParam);
 }

@@ -4,7 +4,9 @@
 #include "games/GameName.h"
 #include "games/GameStore.h"
 #include "platform/Dialog.h"
+#include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
+#include "resources/resource.h"
 
 #include <functional>
 #include <optional>
@@ -49,15 +51,14 @@ class frmFiles : public Dialog {
     void Tell(const std::wstring& text) const;
     bool Ask(const std::wstring& text, bool yesIsDefault = true) const;
 
-    static LRESULT CALLBACK NameProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                          DWORD_PTR self);
-
     const GameStore& store;
     Game& game;
     FilesMode mode;
     std::function<void(HWND)> openHelp;
     std::optional<Chosen> loaded;
     GameName typed;
+    FilteredEdit nameField{
+        *this, txtGameName, [this](const std::wstring& text) { return typed.Changed(text); },
+        [this](wchar_t character, const std::wstring& text) { return typed.TakesKey(character, text); }};
     ToolTips toolTips{*this};
-    bool settingText = false;
 };

@@ -2,18 +2,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// A bitmap of 32 bits, so that the screen need not be asked for its format.
-UniqueBitmap MakeBitmap(LONG width, LONG height) {
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof(info.bmiHeader), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* pixels = nullptr;
-    return UniqueBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-}
-
-}  // namespace
-
 UniqueFont MakeFont(int height, bool bold) {
     return UniqueFont(CreateFontW(-std::max(height, 1), 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
                                   DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
@@ -34,8 +22,8 @@ Buffered::Buffered(const DRAWITEMSTRUCT& item)
     : target(item.hDC),
       at(item.rcItem),
       memory(CreateCompatibleDC(target)),
-      bitmap(MakeBitmap(Area().right, Area().bottom)),
-      selection(memory.get(), bitmap.get()) {
+      bitmap(std::max<LONG>(Area().right, 1), std::max<LONG>(Area().bottom, 1)),
+      selection(memory.get(), bitmap.Handle()) {
     SetBkMode(memory.get(), TRANSPARENT);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Handles.h"
+#include "platform/TopDownBitmap.h"
 
 #include <windows.h>
 
@@ -27,6 +28,6 @@ class Buffered {
     HDC target;
     RECT at;
     UniqueDc memory;
-    UniqueBitmap bitmap;
+    TopDownBitmap bitmap;  // a bitmap of the screen's form would take longer to make
     Selection selection;
 };

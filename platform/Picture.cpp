@@ -2,6 +2,7 @@
 
 #include "platform/Colours.h"
 #include "platform/SystemError.h"
+#include "platform/TopDownBitmap.h"
 
 #include <algorithm>
 #include <array>
@@ -10,36 +11,17 @@
 
 namespace {
 
-// A top-down 32-bit bitmap whose pixels can be reached.
-struct Canvas {
-    UniqueBitmap Bitmap;
-    uint32_t* Pixels = nullptr;
-
-    Canvas(int width, int height) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        Bitmap.reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        if (!Bitmap) throw SystemError(ERROR_NOT_ENOUGH_MEMORY, L"DIB");
-        Pixels = static_cast<uint32_t*>(bits);
-    }
-};
-
 // The pixels of what `draw` puts on a plain background.
 template <typename Drawing>
 std::vector<uint32_t> DrawnOn(uint32_t ground, int width, int height, Drawing draw) {
-    const Canvas canvas(width, height);
-    const size_t count = static_cast<size_t>(width) * static_cast<size_t>(height);
-    std::fill_n(canvas.Pixels, count, ground);
+    const TopDownBitmap bitmap(width, height);
+    const std::span<uint32_t> pixels = bitmap.Pixels();
+    std::fill(pixels.begin(), pixels.end(), ground);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
-    const Selection selection(dc.get(), canvas.Bitmap.get());
+    const Selection selection(dc.get(), bitmap.Handle());
     draw(dc.get());
     GdiFlush();
-    return {canvas.Pixels, canvas.Pixels + count};
+    return {pixels.begin(), pixels.end()};
 }
 
 // Drawing on black and on white tells how much of the background shows through each pixel, whatever form of
@@ -145,7 +127,7 @@ HBITMAP Picture::OfSize(int size) const {
 
 UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
     const std::vector<uint32_t> pixels = Unpacked();
-    Canvas canvas(size, size);
+    TopDownBitmap bitmap(size, size);
     for (int y = 0; y < size; ++y) {
         const int top = y * height / size, bottom = std::max((y + 1) * height / size, top + 1);
         for (int x = 0; x < size; ++x) {
@@ -162,10 +144,9 @@ UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
             uint32_t mean = 0;
             for (size_t channel = 0; channel < 4; ++channel)
                 mean |= ((sums[channel] + area / 2) / area) << (8 * channel);
-            canvas.Pixels[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
+            bitmap.Pixels()[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
         }
     }
-    if (outline != CLR_INVALID)
-        AddOutline({canvas.Pixels, static_cast<size_t>(size) * static_cast<size_t>(size)}, size, outline);
-    return std::move(canvas.Bitmap);
+    if (outline != CLR_INVALID) AddOutline(bitmap.Pixels(), size, outline);
+    return bitmap.Release();
 }

@@ -1,7 +1,6 @@
 #include "recorder/MoveField.h"
 
 #include "platform/Subclass.h"
-#include "resources/resource.h"
 
 #include <commctrl.h>
 
@@ -10,6 +9,7 @@ void MoveField::Create(UINT message) {
     const HWND field = form.AddControl(WC_EDITW, txtMove, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL);
     form.AddControl(WC_BUTTONW, cmdOK, WS_TABSTOP | BS_PUSHBUTTON);
     Subclass<Procedure>(field, this);
+    edit.Attach();
     toolTips.Create();
 }
 
@@ -30,21 +30,8 @@ void MoveField::Hide() {
 std::wstring MoveField::Text() const { return form.Text(txtMove); }
 
 void MoveField::OnChange() {
-    if (settingText) return;
-    const std::wstring text = Text(), changed = typed.Changed(text);
-    if (changed != text) {
-        settingText = true;
-        SetWindowTextW(form.Control(txtMove), changed.c_str());
-        SendMessageW(form.Control(txtMove), EM_SETSEL, changed.size(), static_cast<LPARAM>(changed.size()));
-        settingText = false;
-    }
+    edit.OnChange();
     toolTips.Set(txtMove, typed.LastGood());
-}
-
-bool MoveField::TakesCharacter(wchar_t character) {
-    if (character == VK_RETURN || character == VK_ESCAPE) return false;
-    // Codes below the blank are commands such as copying and pasting.
-    return character < L' ' || typed.TakesKey(character, Text());
 }
 
 LRESULT CALLBACK MoveField::Procedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
@@ -62,7 +49,7 @@ LRESULT CALLBACK MoveField::Procedure(HWND field, UINT message, WPARAM wParam, L
             if (ends) return SendMessageW(moveField.form.Window(), moveField.endMessage, wParam == VK_RETURN, 0);
             break;
         case WM_CHAR:
-            if (!moveField.TakesCharacter(static_cast<wchar_t>(wParam))) return 0;
+            if (ends) return 0;
             break;
         default: break;
     }

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
 #include "recorder/TypedMove.h"
+#include "resources/resource.h"
 
 #include <string>
 
@@ -24,13 +25,13 @@ class MoveField {
     void OnChange();
 
   private:
-    bool TakesCharacter(wchar_t character);
     static LRESULT CALLBACK Procedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                       DWORD_PTR self);
 
     Form& form;
     ToolTips toolTips;
     TypedMove typed;
+    FilteredEdit edit{form, txtMove, [this](const std::wstring& text) { return typed.Changed(text); },
+                      [this](wchar_t character, const std::wstring& text) { return typed.TakesKey(character, text); }};
     UINT endMessage = 0;
-    bool settingText = false;
 };

@@ -5,7 +5,6 @@
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
-#include "resources/resource.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -136,7 +135,7 @@ void frmSetup::Open(HWND owner) {
     FillLists();
     SetToolTips();
     ShowDraft();
-    for (Side side : BothSides) SetName(side, FromAnsi(draft.PlayerNames[side]));
+    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.PlayerNames[side]));
 }
 
 void frmSetup::FillLists() {
@@ -262,7 +261,7 @@ void frmSetup::OnCommand(int id, int notification) {
     switch (id) {
         case txtName:
         case txtName + 1:
-            if (notification == EN_CHANGE) OnName(id == txtName ? White : Black);
+            if (notification == EN_CHANGE) names[static_cast<size_t>(id - txtName)].OnChange();
             return;
         case cmbClockType:
         case cmbLanguage:
@@ -316,30 +315,15 @@ LRESULT CALLBACK frmSetup::ListProcedure(HWND list, UINT message, WPARAM wParam,
 }
 
 // A change that the settings file could not hold is undone.
-void frmSetup::OnName(Side side) {
-    if (settingName) return;
-    const HWND field = Control(ControlOf(txtName, side));
-    const std::wstring text = Text(ControlOf(txtName, side));
+std::wstring frmSetup::TakeName(Side side, const std::wstring& text) {
     std::string& name = draft.PlayerNames[side];
     const auto typed = ToAnsiExactly(text);
     const size_t other = draft.PlayerNames[Other(side)].size();
-    if (typed && typed->size() + other <= static_cast<size_t>(MaxNameCharacters)) {
+    if (typed && typed->size() + other <= static_cast<size_t>(MaxNameCharacters))
         name = *typed;
-        return;
-    }
-    MessageBeep(MB_OK);
-    DWORD end = 0;
-    SendMessageW(field, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
-    const std::wstring old = FromAnsi(name);
-    const auto caret = static_cast<LPARAM>(end) - static_cast<LPARAM>(text.size()) + static_cast<LPARAM>(old.size());
-    SetName(side, old);
-    SendMessageW(field, EM_SETSEL, static_cast<WPARAM>(std::max(caret, LPARAM{0})), std::max(caret, LPARAM{0}));
-}
-
-void frmSetup::SetName(Side side, const std::wstring& name) {
-    settingName = true;
-    SetText(ControlOf(txtName, side), name);
-    settingName = false;
+    else
+        MessageBeep(MB_OK);
+    return FromAnsi(name);
 }
 
 void frmSetup::OnScroll(int bar, int request) {

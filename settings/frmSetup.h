@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/Dialog.h"
+#include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
+#include "resources/resource.h"
 #include "settings/SettingsFile.h"
 #include "settings/SetupRules.h"
 
@@ -48,14 +50,13 @@ class frmSetup : public Dialog {
     void OnCommand(int id, int notification);
     void OnListNotification(int id, int notification);
     void OnChoice(int list, int position);
-    void OnName(Side side);
     void OnScroll(int bar, int request);
     bool OnWheel(short delta, POINT screenPoint);
     void OnOk();
 
     void AddEntry(int list, const std::wstring& text) const;
     int PositionOf(int list) const;
-    void SetName(Side side, const std::wstring& name);
+    std::wstring TakeName(Side side, const std::wstring& text);  // what the field then shall hold
 
     static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                           DWORD_PTR form);
@@ -65,7 +66,9 @@ class frmSetup : public Dialog {
     Settings draft;
     std::function<void(HWND)> openHelp;
     ToolTips toolTips{*this};
+    std::array<FilteredEdit, 2> names{
+        FilteredEdit(*this, txtName, [this](const std::wstring& text) { return TakeName(White, text); }),
+        FilteredEdit(*this, txtName + 1, [this](const std::wstring& text) { return TakeName(Black, text); })};
     int wheelRest = 0;  // of a notch
-    bool settingName = false;
     bool accepted = false;
 };
