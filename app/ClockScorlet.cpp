@@ -61,7 +61,8 @@ RECT ClockScorlet::PlaceBeside() const {
 void ClockScorlet::Close() {
     if (!scorlet) return;
     const std::wstring question = around.Wording(TextId::CloseScorletQuestion);
-    if (!around.Boxes.Ask(scorlet->Window(), question, true, TextId::CloseScorletTitle)) return;
+    // No is preselected: the key that presses the clock must not throw moves away.
+    if (!around.Boxes.Ask(scorlet->Window(), question, false, TextId::CloseScorletTitle)) return;
     if (scorlet) DestroyWindow(scorlet->Window());
 }
 

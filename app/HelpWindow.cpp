@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr UINT Patience = 200;  // with the viewer, in milliseconds
+
 // The folders of the languages in the help file.
 const wchar_t* FolderOf(int32_t language) {
     switch (language) {
@@ -42,7 +44,7 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
         process.reset();
     }
     if (held) {
-        if (IsIconic(held)) ShowWindow(held, SW_RESTORE);
+        if (IsIconic(held)) ShowWindowAsync(held, SW_RESTORE);
         SetForegroundWindow(held);
         return;
     }
@@ -79,6 +81,7 @@ void HelpWindow::Watch(HWND first) {
 
 void HelpWindow::Close(HWND first) {
     Watch(first);
-    if (held) SendMessageA(held, WM_CLOSE, 0, 0);
+    // A viewer that hangs must not hold up the clock.
+    if (held) SendMessageTimeoutA(held, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, Patience, nullptr);
     held = nullptr;
 }

@@ -74,7 +74,9 @@ bool Clock::CountUp(Side side) {
     const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
     // The bonus counts as time used, deliberately.
     const bool passed = CheckedAdd(state.Control.MoveBonus[side], used) > limit;
-    const bool granted = passed && state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled;
+    // A second period of no time is none.
+    const bool granted = passed && state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled &&
+                         state.Control.SecondPeriodTime[side] > 0;
     if (granted) {
         limit = CheckedAdd(limit, state.Control.SecondPeriodTime[side]);
         state.SecondPeriodDue[side] = false;

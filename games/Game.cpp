@@ -49,8 +49,11 @@ void Game::AskedReset() {
 }
 
 void Game::AskedResetIfStarted() {
-    const bool somethingToLose = clock.Clock().State().GameStarted || (record && record->MovesWritten());
-    if (!somethingToLose || clockView->AskReset()) Reset();
+    if (!SomethingToLose() || clockView->AskReset()) Reset();
+}
+
+bool Game::SomethingToLose() const {
+    return clock.Clock().State().GameStarted || (record && record->MovesWritten());
 }
 
 void Game::Reset() {

@@ -58,6 +58,8 @@ class Game final : public ScorletGame {
     void AskedReset();           // asks first, as a click on a flag does
     void AskedResetIfStarted();  // asks first when there is a game to lose
     void Reset();
+    // Whether a game is under way or moves are written.
+    bool SomethingToLose() const;
     // The settings have been changed while the clock was idle.
     void TakeSettings();
 

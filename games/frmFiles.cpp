@@ -132,7 +132,7 @@ void frmFiles::Act() {
 
 void frmFiles::OnLoad(const std::wstring& name) {
     if (!store.Exists(name)) return Tell(texts(TextId::GameBefore) + name + texts(TextId::NotFound));
-    if (!Ask(texts(TextId::GameBefore) + name + texts(TextId::WillBeLoaded))) return;
+    if (!Ask(texts(TextId::GameBefore) + name + texts(TextId::WillBeLoaded), !game.SomethingToLose())) return;
     Chosen chosen{name, {}};
     try {
         if (const auto error = store.LoadGame(name, game.Options(), chosen.Saved)) {
@@ -167,7 +167,7 @@ void frmFiles::OnSave(const std::wstring& name) {
 
 void frmFiles::OnDelete(const std::wstring& name) {
     if (!store.Exists(name)) return Tell(texts(TextId::SavedGameBefore) + name + texts(TextId::SavedGameNotFound));
-    if (!Ask(texts(TextId::SavedGameBefore) + name + texts(TextId::WillBeDeleted))) return;
+    if (!Ask(texts(TextId::SavedGameBefore) + name + texts(TextId::WillBeDeleted), false)) return;
     try {
         store.DeleteGame(name);
         SetText(txtGameName, L"");

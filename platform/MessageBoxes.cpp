@@ -21,8 +21,17 @@ class ButtonTexts {
 
   private:
     static LRESULT CALLBACK Procedure(int code, WPARAM wParam, LPARAM lParam) {
-        if (code == HCBT_ACTIVATE && current) current->Write(reinterpret_cast<HWND>(wParam));
+        const HWND window = reinterpret_cast<HWND>(wParam);
+        // The box's owner, too, is activated during the life of the box.
+        if (code == HCBT_ACTIVATE && current && IsMessageBox(window)) current->Write(window);
         return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    // By the class that the system gives all its dialogs; the program's own have others.
+    static bool IsMessageBox(HWND window) {
+        wchar_t name[8]{};
+        GetClassNameW(window, name, 8);
+        return lstrcmpW(name, L"#32770") == 0;
     }
 
     void Write(HWND box) {
