@@ -1,4 +1,3 @@
-#include "base/TimeText.h"
 #include "clock/modClock.h"
 
 #include <benchmark/benchmark.h>
@@ -42,14 +41,5 @@ void Press(benchmark::State& state) {
     for (auto _ : state) clock.PressClock(clock.TurnSide());
 }
 BENCHMARK(Press);
-
-void FormatFace(benchmark::State& state) {
-    int32_t seconds = 0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(FaceText(seconds));
-        seconds = (seconds + 1) % 360000;
-    }
-}
-BENCHMARK(FormatFace);
 
 }  // namespace

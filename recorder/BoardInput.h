@@ -33,7 +33,6 @@ class BoardInput {
 
     // A click on a square, or Enter on the cursor's. Gives the written line when that has made a move.
     std::optional<ChosenLine> Click(Square square);
-    std::optional<ChosenLine> Enter() { return Click(cursor); }
     // A click on a captured piece that is shown.
     void ClickCaptured(Piece piece, int slot);
     // Picks the first captured piece that is shown, or the one behind the one picked; none behind the last.

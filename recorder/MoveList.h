@@ -43,7 +43,6 @@ class MoveList {
     void SetText(size_t index, const std::string& text) { entries[index] = {static_cast<int32_t>(index) + 1, text}; }
     void SetResult(size_t index, const std::string& result) { entries[index] = {0, result}; }
     void RemoveLast() { entries.pop_back(); }
-    void Clear() { entries.clear(); }
 
     // What the list of a side shows: White's moves with their number, Black's alone, waiting ones with it in both.
     std::string Line(size_t index, Side side) const;

@@ -24,6 +24,8 @@ class Recorder {
     Side SideToMove() const { return sideToMove; }
     // The move last carried out, for showing it.
     const std::optional<Move>& LastMove() const { return lastMove; }
+    // That move in long form, "e2-e4"; empty without one.
+    const std::string& LastMoveLongForm() const { return lastMoveLongForm; }
     bool MovesWritten() const { return !lists[White].Empty() || !lists[Black].Empty(); }
 
     // The game so far in movetext, and the last move, which promotions and marks still reach. A result mark stands at
@@ -92,4 +94,5 @@ class Recorder {
     std::string pendingText;
     std::optional<Promotion> promotion;
     std::optional<Move> lastMove;
+    std::string lastMoveLongForm;
 };

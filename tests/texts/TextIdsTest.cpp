@@ -55,13 +55,21 @@ TEST(TextIdsTest, IdentifiersAreTakenOnce) {
     }
 }
 
-TEST(TextIdsTest, OrdinalsOfEachLanguage) {
-    const std::map<int32_t, TextId> english{
-        {1, TextId::OrdinalSt},  {2, TextId::OrdinalNd},   {3, TextId::OrdinalRd},
-        {4, TextId::OrdinalTh},  {11, TextId::OrdinalTh},  {12, TextId::OrdinalTh},
-        {21, TextId::OrdinalSt}, {101, TextId::OrdinalSt}, {113, TextId::OrdinalTh}};
-    for (const auto& [number, row] : english) {
-        EXPECT_EQ(OrdinalRow(number, English), row) << number;
-        EXPECT_EQ(OrdinalRow(number, French), number == 1 ? TextId::OrdinalSt : TextId::OrdinalTh) << number;
+TEST(TextIdsTest, OrdinalsAndCountsOfEachLanguage) {
+    struct Row {
+        int32_t Number;
+        TextId English, French, EnglishCount, FrenchCount;
+    };
+    constexpr auto st = TextId::OrdinalSt, nd = TextId::OrdinalNd, rd = TextId::OrdinalRd, th = TextId::OrdinalTh;
+    constexpr auto one = TextId::SpokenSecond, many = RowBehind(one, 1);
+    const Row rows[] = {{0, th, th, many, one},    {1, st, st, one, one},     {2, nd, th, many, many},
+                        {3, rd, th, many, many},   {4, th, th, many, many},   {11, th, th, many, many},
+                        {21, st, th, many, many},  {101, st, th, many, many}, {112, th, th, many, many},
+                        {113, th, th, many, many}, {200, th, th, many, many}};
+    for (const Row& row : rows) {
+        EXPECT_EQ(OrdinalRow(row.Number, English), row.English) << row.Number;
+        EXPECT_EQ(OrdinalRow(row.Number, French), row.French) << row.Number;
+        EXPECT_EQ(CountRow(one, row.Number, English), row.EnglishCount) << row.Number;
+        EXPECT_EQ(CountRow(one, row.Number, French), row.FrenchCount) << row.Number;
     }
 }
