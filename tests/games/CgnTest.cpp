@@ -1,75 +1,58 @@
 #include "games/Cgn.h"
 
 #include "tests/base/DamageText.h"
+#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
-constexpr const char* Head =
-    "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"0124-03-09\"]\r\n[Round \"\"]\r\n"
-    "[White \"Team 1. Anna\"]\r\n[Black \"Bob \"the Rook\"  \"]\r\n[Result \"";
-
-// The lists that a movetext is read as, and their movetext and result where those are others; or the damage with its
-// offset in the movetext.
-std::string Read(const std::string& movetext, Side toMove) {
-    const std::string start = Head + std::string("?\"]\r\n\r");
+// The lists that a movetext is read as, with the side to move before it, "_" for a missing move and "~" for a line end,
+// and the movetext that they are written as where that is another; or the damage with its offset in the movetext.
+std::string Read(const std::string& given) {
+    const std::string head =
+        "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"0124-03-09\"]\r\n[Round \"\"]\r\n"
+        "[White \"Team 1. Anna\"]\r\n[Black \"Bob \"the Rook\"  \"]\r\n[Result \"";
+    const Side toMove = given[0] == 'W' ? White : Black;
+    std::string movetext = given.size() > 3 ? given.substr(3) : "";
+    for (const auto& [sign, text] : {std::pair{'_', std::string(MissingMove)}, {'~', "\r\n"}}) {
+        for (size_t at; (at = movetext.find(sign)) != std::string::npos;) movetext.replace(at, 1, text);
+    }
+    const std::string start = head + "?\"]\r\n\r";
     MoveLists lists = Played("a2a3").Lists();
     if (const auto error = DecodeCgn(start + movetext, toMove, lists)) {
-        EXPECT_EQ(error->File, MovesFile);
-        EXPECT_EQ(ListText(lists), "1. a3 / ") << "nothing is taken";
+        EXPECT_EQ(ListText(lists) + std::string(ExtensionOf(error->File)), "1. a3 / .cgn") << "nothing is taken";
         return DamageText(error->What, error->Place - static_cast<int>(start.size()));
     }
-    const std::string written = EncodeCgn({{124, 3, 9}, {"Team 1. Anna", "Bob \"the Rook\"\r\n"}}, lists), head = Head;
-    EXPECT_EQ(written.substr(0, head.size()), head);
-    const std::string tail = written.substr(head.size()), gap = "\"]\r\n\r",
-                      again = tail.substr(tail.find(gap) + gap.size());
-    EXPECT_TRUE(again.ends_with(tail.substr(0, tail.find(gap)))) << tail;
+    const std::string written = EncodeCgn({{124, 3, 9}, {"Team 1. Anna", "Bob \"the Rook\"\r\n"}}, lists);
+    const std::string again = written.substr(written.rfind('\r') + 1), result = again.substr(again.rfind(' ') + 1);
+    EXPECT_EQ(written, head + result + "\"]\r\n\r" + again);
     MoveLists readAgain;
     EXPECT_FALSE(DecodeCgn(written, toMove, readAgain));
-    EXPECT_EQ(ListText(readAgain), ListText(lists));
+    EXPECT_EQ(readAgain, lists);
     return ListText(lists) + (again == movetext ? "" : " = " + again);
 }
 
 }  // namespace
 
 TEST(CgnTest, MovetextIsReadAndWritten) {
-    struct Row {
-        const char* Movetext;
-        Side ToMove;
-        const char* Read;
-    };
-    const Row rows[] = {
-        {"*", White, " / "},
-        {"1. e2-e4 1... e7-e5 2. g1-f3 *", Black, "1. e2-e4|2. g1-f3 / e7-e5"},
-        {"1. e4 1... \?\?-\?\? 2. \?\?-\?\? *", Black, "1. e4|2. _ / 1. _"},
-        // The result goes to the side to move, or to the one that has mated.
-        {"1. e4 1... e5 2. Nf3 1/2-1/2", Black, "1. e4|2. Nf3 / e5|[1/2-1/2]"},
-        {"1. e4 1... e5 2. Nf3 1/2-1/2", White, "1. e4|2. Nf3|[1/2-1/2] / e5"},
-        {"1. f3 1... e5 2. g4 2... Qh4# 0-1", White, "1. f3|2. g4 / e5|Qh4#|[0-1]"},
-        {"1. e4# 1... \?\?-\?\? 1-0", Black, "1. e4#|[1-0] / 1. _"},
-        {"1... e5 2... d5 *", White, " / e5|d5"},
-        {"1-0", Black, " / [1-0]"},
-        // Read, but never written so.
-        {"1. 1-0 1... 0-1 *", White, "1. 1-0 / 0-1"},
-        {"1. e4 1/", Black, "1. e4 / [1/2-1/2] = 1. e4 1/2-1/2"},
-        {"1. e4 0-", Black, "1. e4 / [0-1] = 1. e4 0-1"},
-        {"\n1. e4\r\n1... e5 *\r\n", White, "1. e4 / e5 = 1. e4 1... e5 *"},
-        {"{opening} 1. e4 *", Black, "1. e4 /  = 1. e4 *"},
-        // Damaged.
-        {"", White, "EndsEarly 0"},
-        {"x", White, "UnexpectedText 0"},
-        {"1. e4 1...", White, "EndsEarly 10"},
-        {"1. e4", White, "EndsEarly 5"},
-        {"1. e4 e5 *", White, "UnexpectedText 6"},
-        {"1. e4 1.. e5 *", White, "UnexpectedText 6"},
-        {"1. e4 99999999999999999999. e5 *", White, "UnexpectedText 6"},
-        {"1. e4 3. e5 *", White, "WrongNumber 6"},
-        {"1. e4 1... e5 1... e5 *", White, "WrongNumber 14"},
-        {"1. e4 1-0 2. d4 *", White, "UnexpectedText 10"},
-    };
-    for (const Row& row : rows) EXPECT_EQ(Read(row.Movetext, row.ToMove), row.Read) << row.Movetext;
+    ExpectRows(Read, R"(
+        W: * =>  / | B: 1. e2-e4 1... e7-e5 2. g1-f3 * => 1. e2-e4|2. g1-f3 / e7-e5
+        B: 1. e4 1... _ 2. _ * => 1. e4|2. _ / 1. _ | W: 1... e5 2... d5 * =>  / e5|d5
+        The result goes to the side to move, or to the one that has mated.
+        B: 1. e4 1... e5 2. Nf3 1/2-1/2 => 1. e4|2. Nf3 / e5|[1/2-1/2]
+        W: 1. e4 1... e5 2. Nf3 1/2-1/2 => 1. e4|2. Nf3|[1/2-1/2] / e5
+        W: 1. f3 1... e5 2. g4 2... Qh4# 0-1 => 1. f3|2. g4 / e5|Qh4#|[0-1]
+        B: 1. e4# 1... _ 1-0 => 1. e4#|[1-0] / 1. _ | B: 1-0 =>  / [1-0]
+        Read, but never written so.
+        W: 1. 1-0 1... 0-1 * => 1. 1-0 / 0-1 | B: 1. e4 1/ => 1. e4 / [1/2-1/2] = 1. e4 1/2-1/2
+        B: 1. e4 0- => 1. e4 / [0-1] = 1. e4 0-1 | W: ~1. e4~1... e5 *~ => 1. e4 / e5 = 1. e4 1... e5 *
+        B: {opening} 1. e4 * => 1. e4 /  = 1. e4 *
+        Damaged.
+        W: => EndsEarly 0 | W: x => UnexpectedText 0 | W: 1. e4 1... => EndsEarly 10 | W: 1. e4 => EndsEarly 5
+        W: 1. e4 e5 * => UnexpectedText 6 | W: 1. e4 1.. e5 * => UnexpectedText 6
+        W: 1. e4 99999999999999999999. e5 * => UnexpectedText 6 | W: 1. e4 3. e5 * => WrongNumber 6
+        W: 1. e4 1... e5 1... e5 * => WrongNumber 14 | W: 1. e4 1-0 2. d4 * => UnexpectedText 10
+    )");
     MoveLists lists;
     EXPECT_EQ(DecodeCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Damage::NoHead, 7}));
 }

@@ -1,51 +1,46 @@
 #include "games/Diagram.h"
 
 #include "tests/base/DamageText.h"
+#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
-#include <gtest/gtest.h>
+namespace {
+
+const std::string Initial =
+    "BR  BN  BB  BQ  BK  BB  BN  BR  \r\n"
+    "BP  BP  BP  BP  BP  BP  BP  BP  \r\n"
+    "--  --  --  --  --  --  --  --  \r\n"
+    "--  --  --  --  --  --  --  --  \r\n"
+    "--  --  --  --  --  --  --  --  \r\n"
+    "--  --  --  --  --  --  --  --  \r\n"
+    "WP  WP  WP  WP  WP  WP  WP  WP  \r\n"
+    "WR  WN  WB  WQ  WK  WB  WN  WR  \r\n";
+
+// The piece on h1 after a text, "~" for a line end, has been put into the initial diagram, "place length text"; or the
+// damage.
+std::string Read(const std::string& given) {
+    std::istringstream words(given);
+    size_t place = 0, length = 0;
+    std::string text;
+    words >> place >> length >> text;
+    Board read = Position("WKa1");
+    const std::string changed = std::string(Initial).replace(place, length, text == "~" ? "\r\n" : text);
+    const auto error = DecodeDiagram(changed, read);
+    if (!error) return std::string(PieceCode(read.At(SquareNamed("h1"))));
+    EXPECT_EQ(BoardText(read) + std::string(ExtensionOf(error->File)), "WKa1 .txt") << "nothing is taken";
+    return DamageText(error->What, error->Place) + "," + std::to_string(error->Column);
+}
+
+}  // namespace
 
 TEST(DiagramTest, PositionsComeBackAndDamageIsNamedWithLineAndColumn) {
-    const std::string initial =
-        "BR  BN  BB  BQ  BK  BB  BN  BR  \r\n"
-        "BP  BP  BP  BP  BP  BP  BP  BP  \r\n"
-        "--  --  --  --  --  --  --  --  \r\n"
-        "--  --  --  --  --  --  --  --  \r\n"
-        "--  --  --  --  --  --  --  --  \r\n"
-        "--  --  --  --  --  --  --  --  \r\n"
-        "WP  WP  WP  WP  WP  WP  WP  WP  \r\n"
-        "WR  WN  WB  WQ  WK  WB  WN  WR  \r\n";
-    EXPECT_EQ(EncodeDiagram(Board()), initial);
-    struct Row {
-        size_t At, Length;
-        const char *Text, *Read;  // the square where something else is read, or the damage
-    };
-    const Row rows[] = {
-        {0, 0, "", ""},
-        {270, 2, "", ""},  // without the last line end
-        {7 * 34 + 28, 2, "--", "h1"},
-        {34 + 4, 2, "WX", "UnknownPiece 2,5"},
-        {34 + 6, 1, "x", "BrokenLine 2,7"},
-        {32, 1, "", "BrokenLine 1,33"},
-        {32, 0, "--  ", "BrokenLine 1,33"},
-        {34 * 6 + 32, 999, "", "BrokenLine 7,33"},
-        {34 * 7 + 1, 999, "", "BrokenLine 8,1"},
-        {272, 0, "\r\n", "BrokenLine 9,1"},
-        {0, 999, "", "BrokenLine 1,1"},
-    };
-    for (const Row& row : rows) {
-        Board read = Position("WKa1");
-        std::string text;
-        if (const auto error = DecodeDiagram(std::string(initial).replace(row.At, row.Length, row.Text), read)) {
-            EXPECT_EQ(error->File, DiagramFile);
-            EXPECT_EQ(BoardText(read), "WKa1 x ") << "nothing is taken";
-            text = DamageText(error->What, error->Place) + "," + std::to_string(error->Column);
-        } else {
-            for (int index = 11; index <= 88; ++index) {
-                const Square square{index};
-                if (read.At(square) != Board().At(square)) text += {FileLetter(square), RankDigit(square)};
-            }
-        }
-        EXPECT_EQ(text, row.Read);
-    }
+    EXPECT_EQ(EncodeDiagram(Board()), Initial);
+    Board read;
+    EXPECT_FALSE(DecodeDiagram(EncodeDiagram(Position("WKa1 BPh8")), read));
+    EXPECT_EQ(BoardText(read), "WKa1 BPh8 ");
+    ExpectRows(Read, R"(
+        270 2  => WR | 266 2 -- => O | 38 2 WX => UnknownPiece 2,5 | 40 1 x => BrokenLine 2,7 | 32 1  => BrokenLine 1,33
+        32 0 --   => BrokenLine 1,33 | 236 999  => BrokenLine 7,33 | 239 999  => BrokenLine 8,1
+        272 0 ~ => BrokenLine 9,1 | 0 999  => BrokenLine 1,1
+    )");
 }

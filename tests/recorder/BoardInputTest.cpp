@@ -1,5 +1,6 @@
 #include "recorder/BoardInput.h"
 
+#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +29,7 @@ std::string Shown(const std::string& script) {
             input.ClickCaptured(*PieceOfCode(word.substr(0, 2)), word[2] - '0');
         else
             line = input.Click(SquareNamed(word));
-        written = line ? " " + recorder.List(line->List).Line(line->Index, line->List) : "";
+        written = line ? recorder.List(line->List).Line(line->Index, line->List) : "";
     }
     std::string text;
     for (int index = 11; index <= 88; ++index) {
@@ -41,37 +42,21 @@ std::string Shown(const std::string& script) {
     text += input.PiecePicked() ? "picked " : "";
     if (const auto captured = input.Captured())
         text += std::string(PieceCode(captured->Captured)) + std::to_string(captured->Slot) + " ";
-    return text + "x " + TrayText(recorder.Position()) + written;
+    const std::string trays = TrayText(recorder.Position());
+    return text + (trays.empty() ? "" : "x " + trays + " ") + written;
 }
 
 }  // namespace
 
 TEST(BoardInputTest, ClicksAndKeys) {
-    const std::pair<const char*, const char*> rows[] = {
-        {"", "e2c x "},
-        {"7,-5", "h1c x "},
-        {"-1,5 -9,9", "a8c x "},
-        {"2,1 0,0", "g3c x "},
-        {"e4", "e4c x "},
-        {"e2", "e2oc picked x "},
-        {"e2 e2", "e2c x "},
-        {"e2 d2", "d2oc picked x "},
-        {"e2 esc", "e2c x "},
-        {"d2 reset", "e2c x "},
-        {"e2 e4", "e2l e4lc x  1. e4"},
-        {"e2 e4 a7 a5", "a5lc a7l x  a5"},
-        {"e2 e7", "e2l e7lc x BP0 1. exe7"},
-        {"e2 e7 BP1", "e2l e7lc x BP0"},
-        {"e2 e7 BP0", "e2l e7lc picked BP0 x BP0"},
-        {"e2 e7 d2 BP0", "d2c e2l e7l picked BP0 x BP0"},
-        {"e2 e7 BP0 BP0", "e2l e7lc x BP0"},
-        {"e2 e7 BP0 d2", "d2oc e2l e7l picked x BP0"},
-        {"e2 e7 BP0 e5", "e2l e5c e7l x "},
-        {"e2 e7 BP0 e5 e5 e4", "e4lc e5l x  e4"},
-        {"next", "e2c x "},
-        {"e2 e7 d8 e7 d2 d7 next", "d2l d7lc picked WP0 x WP0 BP0 BP1"},
-        {"e2 e7 d8 e7 d2 d7 next next next", "d2l d7lc picked BP1 x WP0 BP0 BP1"},
-        {"e2 e7 d8 e7 d2 d7 next next next next", "d2l d7lc x WP0 BP0 BP1"},
-    };
-    for (const auto& [script, wanted] : rows) EXPECT_EQ(Shown(script), wanted) << script;
+    ExpectRows(Shown, R"(
+        => e2c | 7,-5 => h1c | -1,5 -9,9 => a8c | 2,1 0,0 => g3c | e4 => e4c | e2 => e2oc picked | e2 e2 => e2c
+        e2 d2 => d2oc picked | e2 esc => e2c | d2 reset => e2c | e2 e4 => e2l e4lc 1. e4
+        e2 e4 a7 a5 => a5lc a7l a5 | e2 e7 => e2l e7lc x BP0 1. exe7 | e2 e7 BP1 => e2l e7lc x BP0
+        e2 e7 BP0 => e2l e7lc picked BP0 x BP0 | e2 e7 d2 BP0 => d2c e2l e7l picked BP0 x BP0
+        e2 e7 BP0 BP0 => e2l e7lc x BP0 | e2 e7 BP0 d2 => d2oc e2l e7l picked x BP0 | e2 e7 BP0 e5 => e2l e5c e7l
+        e2 e7 BP0 e5 e5 e4 => e4lc e5l e4 | next => e2c | e2 e7 d8 e7 d2 d7 next => d2l d7lc picked WP0 x WP0 BP0 BP1
+        e2 e7 d8 e7 d2 d7 next next next => d2l d7lc picked BP1 x WP0 BP0 BP1
+        e2 e7 d8 e7 d2 d7 next next next next => d2l d7lc x WP0 BP0 BP1
+    )");
 }

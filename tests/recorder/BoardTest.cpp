@@ -1,48 +1,34 @@
 #include "recorder/Board.h"
 
+#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
 #include <gtest/gtest.h>
 
+namespace {
+
+// The board after the move that the last four characters say.
+std::string AfterMove(const std::string& given) {
+    const size_t move = given.size() - 4;
+    Board board = Position(given.substr(0, move));
+    board.Carry(board.Classify(SquareNamed(given.substr(move, 2)), SquareNamed(given.substr(move + 2))));
+    return BoardText(board);
+}
+
+}  // namespace
+
 TEST(BoardTest, WhatAMoveDoesIsToldByTheSquaresAlone) {
-    struct Row {
-        const char *Name, *Before, *Move, *After;
-    };
-    const Row rows[] = {
-        {"a step", "WPe2", "e2e4", "WPe4 x "},
-        {"own piece", "WPe4 WPd5", "e4d5", "WPd5 x WP0"},
-        {"en passant White", "WPe5 BPd5", "e5d6", "WPd6 x BP0"},
-        {"en passant Black", "BPe4 WPf4", "e4f3", "BPf3 x WP0"},
-        {"a pawn of its own beside", "WPe5 WPd5", "e5d6", "WPd5 WPd6 x "},
-        {"wrong rank", "WPe4 BPd4", "e4d5", "BPd4 WPd5 x "},
-        {"Black's rank", "WPe4 BPd4", "e4d3", "WPd3 BPd4 x "},
-        {"to another rank", "WPe5 BPd5", "e5d7", "BPd5 WPd7 x "},
-        {"two files away", "WPe5 BPc5", "e5c6", "BPc5 WPc6 x "},
-        {"straight ahead", "WPe5 BPd5", "e5e6", "BPd5 WPe6 x "},
-        {"no pawn beside", "WPe5 BNd5", "e5d6", "BNd5 WPd6 x "},
-        {"a knight beside a pawn", "WNe5 BPd5", "e5d6", "BPd5 WNd6 x "},
-        {"occupied destination", "WPe5 BPd5 BNd6", "e5d6", "BPd5 WPd6 x BN0"},
-        {"castling White king side", "WKe1 WRh1", "e1g1", "WRf1 WKg1 x "},
-        {"castling White queen side", "WKe1 WRa1", "e1c1", "WKc1 WRd1 x "},
-        {"castling Black king side", "BKe8 BRh8", "e8g8", "BRf8 BKg8 x "},
-        {"castling Black queen side", "BKe8 BRa8", "e8c8", "BKc8 BRd8 x "},
-        {"a piece where the rook goes", "WKe1 WRh1 WBf1", "e1g1", "WBf1 WKg1 WRh1 x "},
-        {"also on the queen side", "WKe1 WRa1 WQd1", "e1c1", "WRa1 WKc1 WQd1 x "},
-        {"a piece where the rook passes", "WKe1 WRa1 WNb1", "e1c1", "WRa1 WNb1 WKc1 x "},
-        {"a capture on the way", "WKe1 WRh1 BNg1", "e1g1", "WKg1 WRh1 x BN0"},
-        {"the other side's rook", "WKe1 BRh1 BRa1", "e1g1", "BRa1 WKg1 BRh1 x "},
-        {"no rook", "WKe1", "e1c1", "WKc1 x "},
-        {"king elsewhere", "WKd1 WRh1", "d1g1", "WKg1 WRh1 x "},
-        {"a step of the king", "WKe1 WRh1 WRa1", "e1f1", "WRa1 WKf1 WRh1 x "},
-        {"White's king on Black's squares", "WKe8 WRh8", "e8g8", "WKg8 WRh8 x "},
-        {"queen on the king's squares", "WQe1 WRh1", "e1g1", "WQg1 WRh1 x "},
-    };
-    for (const Row& row : rows) {
-        const std::string move = row.Move;
-        Board board = Position(row.Before);
-        board.Carry(board.Classify(SquareNamed(move.substr(0, 2)), SquareNamed(move.substr(2))));
-        EXPECT_EQ(BoardText(board), row.After) << row.Name;
-    }
+    ExpectRows(AfterMove, R"(
+        WPe2 e2e4 => WPe4 | WPe4 WPd5 e4d5 => WPd5 WP0 | WPe5 BPd5 e5d6 => WPd6 BP0 | BPe4 WPf4 e4f3 => BPf3 WP0
+        WPe5 WPd5 e5d6 => WPd5 WPd6 | WPe4 BPd4 e4d5 => BPd4 WPd5 | WPe4 BPd4 e4d3 => WPd3 BPd4
+        WPe5 BPd5 e5d7 => BPd5 WPd7 | WPe5 BPc5 e5c6 => BPc5 WPc6 | WPe5 BPd5 e5e6 => BPd5 WPe6
+        WPe5 BNd5 e5d6 => BNd5 WPd6 | WNe5 BPd5 e5d6 => BPd5 WNd6 | WPe5 BPd5 BNd6 e5d6 => BPd5 WPd6 BN0
+        WKe1 WRh1 e1g1 => WRf1 WKg1 | WKe1 WRa1 e1c1 => WKc1 WRd1 | BKe8 BRh8 e8g8 => BRf8 BKg8
+        BKe8 BRa8 e8c8 => BKc8 BRd8 | WKe1 WRh1 WBf1 e1g1 => WBf1 WKg1 WRh1 | WKe1 WRa1 WQd1 e1c1 => WRa1 WKc1 WQd1
+        WKe1 WRa1 WNb1 e1c1 => WRa1 WNb1 WKc1 | WKe1 WRh1 BNg1 e1g1 => WKg1 WRh1 BN0
+        WKe1 BRh1 BRa1 e1g1 => BRa1 WKg1 BRh1 | WKe1 e1c1 => WKc1 | WKd1 WRh1 d1g1 => WKg1 WRh1
+        WKe1 WRh1 WRa1 e1f1 => WRa1 WKf1 WRh1 | WKe8 WRh8 e8g8 => WKg8 WRh8 | WQe1 WRh1 e1g1 => WQg1 WRh1
+    )");
 }
 
 TEST(BoardTest, TraysShowTheFirstHiddenSlotAndNoMoreThanTheyHave) {
@@ -61,7 +47,7 @@ TEST(BoardTest, TraysShowTheFirstHiddenSlotAndNoMoreThanTheyHave) {
     board.Reset();
     EXPECT_EQ(BoardText(board),
               "WRa1 WPa2 BPa7 BRa8 WNb1 WPb2 BPb7 BNb8 WBc1 WPc2 BPc7 BBc8 WQd1 WPd2 BPd7 BQd8 "
-              "WKe1 WPe2 BPe7 BKe8 WBf1 WPf2 BPf7 BBf8 WNg1 WPg2 BPg7 BNg8 WRh1 WPh2 BPh7 BRh8 x ");
+              "WKe1 WPe2 BPe7 BKe8 WBf1 WPf2 BPf7 BBf8 WNg1 WPg2 BPg7 BNg8 WRh1 WPh2 BPh7 BRh8 ");
     EXPECT_EQ(SlotOf(2 * SlotsPerSide - 1), (TraySlot{*PieceOfCode("BP"), 7}));
 
     // A promoted pawn is missing, and no kind lacks less than none.

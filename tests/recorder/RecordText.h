@@ -28,7 +28,7 @@ inline std::string TrayText(const Board& board) {
     return text;
 }
 
-// The pieces by file and rank, then those in the trays: "WKe1 BRh8 x WP0".
+// The pieces by file and rank, then those in the trays with their slots: "WKe1 BRh8 WP0".
 inline std::string BoardText(const Board& board) {
     std::string text;
     for (int index = 11; index <= 88; ++index) {
@@ -36,7 +36,7 @@ inline std::string BoardText(const Board& board) {
         if (piece == Piece::Empty) continue;
         text += std::string(PieceCode(piece)) + FileLetter(Square{index}) + RankDigit(Square{index}) + " ";
     }
-    return text + "x " + TrayText(board);
+    return text + TrayText(board);
 }
 
 // A missing move is shortened: "1. _".

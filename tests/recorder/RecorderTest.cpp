@@ -1,5 +1,6 @@
 #include "recorder/Recorder.h"
 
+#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
 #include <gtest/gtest.h>
@@ -20,77 +21,59 @@ std::string State(const std::string& script) {
 }  // namespace
 
 TEST(RecorderTest, Scripts) {
-    struct Row {
-        const char *Script, *State;
-    };
-    // clang-format off
-    const Row rows[] = {
-        {"", " / ; <> White"},
-        // Moves go into the list of the side to move, whatever the piece's colour.
-        {"e2e4", "1. e4 / ; <1. e4 > Black at W0"},
-        {"e2e4 e7e5 g1f3", "1. e4|2. Nf3 / e5; 1. e4 e5 <2. Nf3 > Black at W1"},
-        {"e2e4 e7e5 g1f3 f3e5", "1. e4|2. Nf3 / e5|Nxe5; 1. e4 e5 2. Nf3 <Nxe5 > White x BP0 at B1"},
-        {"e2e4 mate b7b5 reset", " / ; <> White"},
-        // A press gives the side that then runs its line.
-        {"first", "1. _ / ; <> White at W0"},
-        {"first first", "1. _ / ; <> White"},
-        {"first pressB", "1. _ / ; <> White"},
-        {"first e2e4 pressB", "1. e4 / 1. _; <1. e4 > Black at B0"},
-        {"first e2e4 pressB pressB", "1. e4 / 1. _; <1. e4 > Black"},
-        {"e2e4 e7e5 pressW", "1. e4|2. _ / e5; 1. e4 <e5 > White at W1"},
-        {"e2e4 e7e5 draw pressB", "1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White"},
-        {"flagW first", "[0-1] / ; 0-1<> White"},
-        // Missing lines: up to the counts, White's up to Black's, before a result.
-        {"top3,2", "1. _|2. _|3. _ / 1. _|2. _; <> White at W2 B1"},
-        {"top3,2 e2e4 e7e5", "1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0"},
-        {"e2e4 e7e5 top1,1", "1. e4 / e5; 1. e4 <e5 > White"},
-        {"e2e4 e7e5 resign top2,3", "1. e4|2. _|3. _|[0-1] / e5|2. _|3. _; 1. e4 e5 0-1<> White at W2 B2"},
-        {"top0,1 top-1,-1", "1. _ / 1. _; <> White"},
-        // Declarations mark the last move and end the game, once.
-        {"check mate", " / ; <> White"},
-        {"e2e4 check check", "1. e4+ / ; <1. e4+ > Black"},
-        {"e2e4 check mate mate", "1. e4#|[1-0] / ; 1. e4# 1-0<> Black"},
-        {"e2e4 mate check", "1. e4#|[1-0] / ; 1. e4# 1-0<> Black"},
-        {"e2e4 mate draw", "1. e4#|[1-0] / ; 1. e4# 1-0<> Black"},
-        {"e2e4 e7e5 mate", "1. e4 / e5#|[0-1]; 1. e4 e5# 0-1<> White"},
-        {"e2e4 mate e7e5", "1. e4# / e5; 1. e4# <e5 > White at B0"},
-        {"e2e4 draw e7e5", "1. e4 / e5; 1. e4 <e5 > White at B0"},
-        {"e2e4 resign2,1", "1. e4|2. _ / 1. _|[1-0]; 1. e4 1-0<> Black at W1 B0"},
-        {"e2e4 e7e5 draw2,1", "1. e4|2. _|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White at W1"},
-        {"flagW", "[0-1] / ; 0-1<> White"},
-        {"e2e4 flagB", "1. e4 / [1-0]; 1. e4 1-0<> Black"},
-        // A promotion can be chosen again until the next move.
-        {"e2e7 h7h6 e7f8", "1. exe7|2. exf8 / h6; 1. exe7 h6 <2. exf8 > Black promotes x BB0 BP0 at W1"},
-        {"e2e7 h7h6 e7f8 check =Q =N", "1. exe7|2. exf8=N+ / h6; 1. exe7 h6 <2. exf8=N+ > Black promotes x BB0 BP0"},
-        {"e2e7 h7h6 e7f8q mate =R", "1. exe7|2. exf8=R#|[1-0] / h6; 1. exe7 h6 2. exf8=R# 1-0<> Black promotes x BB0 BP0"},
-        {"e2e7 h7h6 e7f8 W1=f8= =R", "1. exe7|2. f8=R / h6; 1. exe7 h6 <2. f8=R > Black promotes x BB0 BP0"},
-        {"e2e7 h7h6 e7f8 W1= =R", "1. exe7|2. _ / h6; 1. exe7 <h6 > Black promotes x BB0 BP0"},
-        {"e2e7 h7h6 e7f8 deleteW =R", "1. exe7 / h6; 1. exe7 <h6 > Black promotes x BB0 BP0"},
-        {"e2e7 h7h6 e7f8 deleteB =R", "1. exe7|2. exf8=R / ; 1. exe7 <2. exf8=R > Black promotes x BB0 BP0"},
-        {"e2e7 h7h6 e7f8q h6h5 =R", "1. exe7|2. exf8=Q / h6|h5; 1. exe7 h6 2. exf8=Q <h5 > White x BB0 BP0"},
-        {"e2e4 =Q", "1. e4 / ; <1. e4 > Black"},
-        // Edits and deletions reach the text, and the board keeps no history.
-        {"e2e4 e7e5 g1f3 B0=0-0", "1. e4|2. Nf3 / O-O; 1. e4 O-O <2. Nf3 > Black"},
-        {"e2e4 e7e5 g1f3 B0=", "1. e4|2. Nf3 / 1. _; 1. e4 _ <2. Nf3 > Black"},
-        {"e2e4 e7e5 W1=Nf3", "1. e4 / e5; 1. e4 <e5 > White"},
-        {"e2e4 e7e5 g1f3 W0=1-0", "1. 1-0|2. Nf3 / e5; 1. 1-0 e5 <2. Nf3 > Black"},
-        {"e2e4 e7e5 g1f3 W1=1/2-1/2", "1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> Black"},
-        {"e2e4 e7e5 draw W1=1-0", "1. e4|[1-0] / e5; 1. e4 e5 1-0<> White"},
-        {"e2e4 e7e5 draw B0=1-0", "1. e4|[1/2-1/2] / 1-0; 1. e4 1-0 1/2-1/2<> White"},
-        {"e2e4 e7e5 draw W1=nc3", "1. e4|2. Nc3 / e5; 1. e4 e5 <2. Nc3 > White"},
-        {"top1,0 W0=e4", "1. e4 / ; <1. e4 > Black"},
-        {"top1,0 W0=1-0", "[1-0] / ; 1-0<> White"},
-        {"top1,0 W0=", "1. _ / ; <> White"},
-        {"e2e4 top1,1 B0=c5", "1. e4 / c5; 1. e4 <c5 > White"},
-        {"top1,1 B0=c5", "1. _ / c5; 1. _ <c5 > White"},
-        {"e2e4 e7e5 g1f3 deleteW", "1. e4 / e5; 1. e4 <e5 > Black"},
-        {"e2e4 e7e5 g1f3 deleteW d7d6 b1c3", "1. e4|2. Nc3 / e5|d6; 1. e4 e5 2. Nc3 <d6 > Black at W1"},
-        {"e2e4 e7e5 deleteW", " / e5; <1... e5 > White"},
-        {"e2e4 e7e5 deleteW deleteW deleteB deleteB", " / ; <> White"},
-        {"e2d7 c8d7 BP0@e2", "1. exd7 / Bxd7; 1. exd7 <Bxd7 > White x WP0"},
-        {"e2e4 d7d5 e4d5 BP0@h5", "1. e4|2. exd5 / d5; 1. e4 d5 <2. exd5 > Black"},
-    };
-    // clang-format on
-    for (const Row& row : rows) EXPECT_EQ(State(row.Script), row.State) << row.Script;
-    EXPECT_EQ(BoardText(Played("e2d7 e8d7 d2d3 d7e6 BP0@h5").Position()).find("BPh5") != std::string::npos, true);
+    ExpectRows(State, R"(
+        =>  / ; <> White
+        Moves go into the list of the side to move, whatever the piece's colour.
+        e2e4 => 1. e4 / ; <1. e4 > Black at W0 | e2e4 e7e5 g1f3 => 1. e4|2. Nf3 / e5; 1. e4 e5 <2. Nf3 > Black at W1
+        e2e4 e7e5 g1f3 f3e5 => 1. e4|2. Nf3 / e5|Nxe5; 1. e4 e5 2. Nf3 <Nxe5 > White x BP0 at B1
+        e2e4 mate b7b5 reset =>  / ; <> White
+        A press gives the side that then runs its line.
+        first => 1. _ / ; <> White at W0 | first first => 1. _ / ; <> White | first pressB => 1. _ / ; <> White
+        first e2e4 pressB => 1. e4 / 1. _; <1. e4 > Black at B0
+        first e2e4 pressB pressB => 1. e4 / 1. _; <1. e4 > Black
+        e2e4 e7e5 pressW => 1. e4|2. _ / e5; 1. e4 <e5 > White at W1
+        e2e4 e7e5 draw pressB => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White | flagW first => [0-1] / ; 0-1<> White
+        Missing lines: up to the counts, White's up to Black's, before a result.
+        top3,2 => 1. _|2. _|3. _ / 1. _|2. _; <> White at W2 B1
+        top3,2 e2e4 e7e5 => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0
+        e2e4 e7e5 top1,1 => 1. e4 / e5; 1. e4 <e5 > White
+        e2e4 e7e5 resign top2,3 => 1. e4|2. _|3. _|[0-1] / e5|2. _|3. _; 1. e4 e5 0-1<> White at W2 B2
+        top0,1 top-1,-1 => 1. _ / 1. _; <> White
+        Declarations mark the last move and end the game, once.
+        check mate =>  / ; <> White | e2e4 check check => 1. e4+ / ; <1. e4+ > Black
+        e2e4 check mate mate => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
+        e2e4 mate check => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black | e2e4 mate draw => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
+        e2e4 e7e5 mate => 1. e4 / e5#|[0-1]; 1. e4 e5# 0-1<> White
+        e2e4 mate e7e5 => 1. e4# / e5; 1. e4# <e5 > White at B0 | e2e4 draw e7e5 => 1. e4 / e5; 1. e4 <e5 > White at B0
+        e2e4 resign2,1 => 1. e4|2. _ / 1. _|[1-0]; 1. e4 1-0<> Black at W1 B0
+        e2e4 e7e5 draw2,1 => 1. e4|2. _|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White at W1 | flagW => [0-1] / ; 0-1<> White
+        e2e4 flagB => 1. e4 / [1-0]; 1. e4 1-0<> Black
+        A promotion can be chosen again until the next move.
+        e2e7 h7h6 e7f8 => 1. exe7|2. exf8 / h6; 1. exe7 h6 <2. exf8 > Black promotes x BB0 BP0 at W1
+        e2e7 h7h6 e7f8 check =Q =N => 1. exe7|2. exf8=N+ / h6; 1. exe7 h6 <2. exf8=N+ > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8q mate =R => 1. exe7|2. exf8=R#|[1-0] / h6; 1. exe7 h6 2. exf8=R# 1-0<> Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 W1=f8= =R => 1. exe7|2. f8=R / h6; 1. exe7 h6 <2. f8=R > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 W1= =R => 1. exe7|2. _ / h6; 1. exe7 <h6 > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 deleteW =R => 1. exe7 / h6; 1. exe7 <h6 > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 deleteB =R => 1. exe7|2. exf8=R / ; 1. exe7 <2. exf8=R > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8q h6h5 =R => 1. exe7|2. exf8=Q / h6|h5; 1. exe7 h6 2. exf8=Q <h5 > White x BB0 BP0
+        e2e4 =Q => 1. e4 / ; <1. e4 > Black
+        Edits and deletions reach the text, and the board keeps no history.
+        e2e4 e7e5 g1f3 B0=0-0 => 1. e4|2. Nf3 / O-O; 1. e4 O-O <2. Nf3 > Black
+        e2e4 e7e5 g1f3 B0= => 1. e4|2. Nf3 / 1. _; 1. e4 _ <2. Nf3 > Black
+        e2e4 e7e5 W1=Nf3 => 1. e4 / e5; 1. e4 <e5 > White
+        e2e4 e7e5 g1f3 W0=1-0 => 1. 1-0|2. Nf3 / e5; 1. 1-0 e5 <2. Nf3 > Black
+        e2e4 e7e5 g1f3 W1=1/2-1/2 => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> Black
+        e2e4 e7e5 draw W1=1-0 => 1. e4|[1-0] / e5; 1. e4 e5 1-0<> White
+        e2e4 e7e5 draw B0=1-0 => 1. e4|[1/2-1/2] / 1-0; 1. e4 1-0 1/2-1/2<> White
+        e2e4 e7e5 draw W1=nc3 => 1. e4|2. Nc3 / e5; 1. e4 e5 <2. Nc3 > White | top1,0 W0=e4 => 1. e4 / ; <1. e4 > Black
+        top1,0 W0=1-0 => [1-0] / ; 1-0<> White | top1,0 W0= => 1. _ / ; <> White
+        e2e4 top1,1 B0=c5 => 1. e4 / c5; 1. e4 <c5 > White | top1,1 B0=c5 => 1. _ / c5; 1. _ <c5 > White
+        e2e4 e7e5 g1f3 deleteW => 1. e4 / e5; 1. e4 <e5 > Black
+        e2e4 e7e5 g1f3 deleteW d7d6 b1c3 => 1. e4|2. Nc3 / e5|d6; 1. e4 e5 2. Nc3 <d6 > Black at W1
+        e2e4 e7e5 deleteW =>  / e5; <1... e5 > White | e2e4 e7e5 deleteW deleteW deleteB deleteB =>  / ; <> White
+        e2d7 c8d7 BP0@e2 => 1. exd7 / Bxd7; 1. exd7 <Bxd7 > White x WP0
+        e2e4 d7d5 e4d5 BP0@h5 => 1. e4|2. exd5 / d5; 1. e4 d5 <2. exd5 > Black
+    )");
+    EXPECT_EQ(PieceCode(Played("e2d7 e8d7 BP0@h5").Position().At(SquareNamed("h5"))), "BP");
 }

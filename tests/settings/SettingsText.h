@@ -11,7 +11,7 @@
 inline std::string SettingsText(const Settings& settings) {
     std::ostringstream text;
     const auto& control = settings.Control;
-    text << settings.PlayerNames[White] << '|' << settings.PlayerNames[Black];
+    text << settings.PlayerNames[White] << '/' << settings.PlayerNames[Black];
     for (const auto& times : {control.PeriodLimit, control.SecondPeriodTime, control.MoveBonus})
         text << ' ' << times[White] << ',' << times[Black];
     const std::pair<bool, const char*> options[] = {
@@ -23,21 +23,22 @@ inline std::string SettingsText(const Settings& settings) {
     return text.str();
 }
 
-// The slots of a record up to its last one that holds something: "2 1.5 true -", reals with a point, empty ones as "-".
-inline std::string SlotText(const SlotRecord& record) {
-    std::string text, gap;
-    for (const SlotValue& slot : record) {
-        std::ostringstream value;
-        value << std::showpoint << std::boolalpha;
-        if (const auto* number = std::get_if<int32_t>(&slot)) value << *number;
-        if (const auto* real = std::get_if<double>(&slot)) value << *real;
-        if (const auto* boolean = std::get_if<bool>(&slot)) value << *boolean;
-        gap += value.str().empty() ? "- " : "";
-        if (value.str().empty()) continue;
-        text += gap + value.str() + " ";
-        gap.clear();
+// A record with some fields changed: "bonus0=5", a real number "second1=0.5", an empty slot "type=-", or by number
+// "300=3". `first` is the slot of the first field after the names.
+inline SlotRecord Changed(SlotRecord record, const std::string& changes, size_t first) {
+    std::istringstream words(changes);
+    for (std::string word; words >> word;) {
+        const std::string name = word.substr(0, word.find('=')), value = word.substr(word.find('=') + 1);
+        size_t slot = name[0] <= '9' ? std::stoul(name) : first;
+        std::istringstream names(
+            "first0 first1 second0 second1 bonus0 bonus1 down turn number type open moves button flag "
+            "time0 time1 due0 due1 white black writer pgn white's started armed0 armed1 loaded");
+        for (std::string field; name[0] > '9' && names >> field && field != name;) ++slot;
+        record[slot] = value == "-"                                     ? SlotValue()
+                       : value.find_first_of(".n") == std::string::npos ? SlotValue(std::stoi(value))
+                                                                        : SlotValue(std::stod(value));
     }
-    return text;
+    return record;
 }
 
 inline std::span<const uint8_t> Bytes(const std::string& text) {
