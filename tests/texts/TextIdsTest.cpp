@@ -1,9 +1,8 @@
 #include "texts/TextIds.h"
 
-#include <gtest/gtest.h>
+#include "tests/base/Rows.h"
 
 #include <map>
-#include <string>
 #include <vector>
 
 namespace {
@@ -56,20 +55,22 @@ TEST(TextIdsTest, IdentifiersAreTakenOnce) {
 }
 
 TEST(TextIdsTest, OrdinalsAndCountsOfEachLanguage) {
-    struct Row {
-        int32_t Number;
-        TextId English, French, EnglishCount, FrenchCount;
+    // The English and the French ordinal, and whether both count it as one.
+    const auto rows = [](const std::string& text) {
+        const int32_t number = std::stoi(text);
+        const std::map<TextId, std::string> ordinals{
+            {TextId::OrdinalSt, "st"}, {TextId::OrdinalNd, "nd"}, {TextId::OrdinalRd, "rd"}, {TextId::OrdinalTh, "th"}};
+        const std::map<TextId, std::string> counts{{TextId::SpokenSecond, " one"},
+                                                   {RowBehind(TextId::SpokenSecond, 1), " many"}};
+        std::string said;
+        for (const int32_t language : {English, French})
+            said += ordinals.at(OrdinalRow(number, language)) +
+                    counts.at(CountRow(TextId::SpokenSecond, number, language)) + " ";
+        return said;
     };
-    constexpr auto st = TextId::OrdinalSt, nd = TextId::OrdinalNd, rd = TextId::OrdinalRd, th = TextId::OrdinalTh;
-    constexpr auto one = TextId::SpokenSecond, many = RowBehind(one, 1);
-    const Row rows[] = {{0, th, th, many, one},    {1, st, st, one, one},     {2, nd, th, many, many},
-                        {3, rd, th, many, many},   {4, th, th, many, many},   {11, th, th, many, many},
-                        {21, st, th, many, many},  {101, st, th, many, many}, {112, th, th, many, many},
-                        {113, th, th, many, many}, {200, th, th, many, many}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(OrdinalRow(row.Number, English), row.English) << row.Number;
-        EXPECT_EQ(OrdinalRow(row.Number, French), row.French) << row.Number;
-        EXPECT_EQ(CountRow(one, row.Number, English), row.EnglishCount) << row.Number;
-        EXPECT_EQ(CountRow(one, row.Number, French), row.FrenchCount) << row.Number;
-    }
+    ExpectRows(rows, R"(
+        0 => th many th one | 1 => st one st one | 2 => nd many th many | 3 => rd many th many | 4 => th many th many
+        11 => th many th many | 12 => th many th many | 21 => st many th many | 101 => st many th many
+        112 => th many th many | 113 => th many th many | 123 => rd many th many | 200 => th many th many
+    )");
 }
