@@ -8,44 +8,33 @@
 #include <stdlib.h>
 
 #include <filesystem>
+#include <map>
 
 // What another program makes of the PGN files: pgn-extract, which must be installed. Its exit status is always 0, so
 // its error stream is the judge.
 
 namespace {
 
-// A folder of its own, for as long as it is used.
-struct Folder {
-    std::string Path = std::filesystem::temp_directory_path() / "pgn-XXXXXX";
-
-    Folder() { EXPECT_TRUE(mkdtemp(Path.data())); }
-    ~Folder() { std::filesystem::remove_all(Path); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-
-    std::string Contents(const std::string& name) const {
-        std::ifstream file(Path + name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-};
-
 // Origin, destination and promotion letter of each move, with the result at the end, and then what was complained of.
 std::string ReadByExtract(const Recorder& recorder) {
-    const Folder folder;
     Settings settings;
     settings.PlayerNames = {"Kramer, J\xF6rg", "Team 1. Anna"};
     settings.WritePgn = true;
     const GameFiles files = EncodeGame(settings, modClock::ClockState(), &recorder, {2024, 3, 9});
-    std::ofstream(folder.Path + "/pgn", std::ios::binary) << *files[PgnFile];
+    // A folder of its own, for two runs may meet.
+    std::string folder = std::filesystem::temp_directory_path() / "pgn-XXXXXX", text;
+    EXPECT_TRUE(mkdtemp(folder.data()));
+    std::ofstream(folder + "/pgn", std::ios::binary) << *files[PgnFile];
     const std::string command =
-        "cd '" + folder.Path + "' && PATH=$PATH:/usr/games pgn-extract -s -Wuci --notags -w 99999 pgn >out 2>err";
+        "cd '" + folder + "' && PATH=$PATH:/usr/games pgn-extract -s -Wuci --notags -w 99999 pgn >out 2>err";
     EXPECT_EQ(std::system(command.c_str()), 0);
-    std::istringstream words(folder.Contents("/out"));
-    std::string text;
-    for (std::string word; words >> word; text += " ") {
+    std::ifstream moves(folder + "/out"), errors(folder + "/err");
+    for (std::string word; moves >> word; text += " ") {
         for (const char character : word) text += AsciiLower(character);
     }
-    return text + folder.Contents("/err");
+    text.append(std::istreambuf_iterator<char>(errors), {});
+    std::filesystem::remove_all(folder);
+    return text;
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include "recorder/Recorder.h"
 
 #include <algorithm>
-#include <map>
 #include <sstream>
 #include <string>
 
@@ -60,54 +59,46 @@ inline std::string ListText(const MoveLists& lists) {
 
 // Does what the words say: moves ("e2e4", "b7a8q"), the piece of a promotion ("=Q"), declarations and missing lines
 // with the clock's counts where they matter ("check", "draw2,1", "top3,3"), a fallen flag ("flagW"), the presses that
-// make a side run
-// ("first", "pressB"), edits ("W0=Nf3"), "deleteB", a captured piece put back ("WP0@e5"), "reset".
-// Returns the lines that the last word reports, "W1 B0".
+// make a side run ("first", "pressB"), edits ("W0=Nf3"), "deleteB", a captured piece put back ("WP0@e5"), "reset".
+// Returns the lines that the last word reports, " W1 B0".
 inline std::string Do(Recorder& recorder, const std::string& script) {
-    const std::map<std::string, Declaration> declarations{{"check", Declaration::Check},
-                                                          {"mate", Declaration::Mate},
-                                                          {"resign", Declaration::Resign},
-                                                          {"draw", Declaration::Draw}};
+    const std::array<std::string, 4> declarations{"check", "mate", "resign", "draw"};
     std::array<std::optional<size_t>, 2> lines;
     std::istringstream words(script);
     for (std::string word; words >> word;) {
-        lines = {};
-        const auto report = [&](const std::optional<ChosenLine>& line) {
-            if (line) lines[line->List] = line->Index;
-        };
         const size_t sign = word.find_first_of("=@"), number = word.find_first_of("0123456789"), comma = word.find(',');
         const Side ofFirst = word.front() == 'W' ? White : Black, ofLast = word.back() == 'W' ? White : Black;
+        const std::string name = word.substr(0, number), end = word.substr(sign + 1);
+        const auto declared = std::ranges::find(declarations, name);
         std::array<int32_t, 2> counts{};
+        std::optional<ChosenLine> line;
         if (comma != std::string::npos) counts = {std::stoi(word.substr(number)), std::stoi(word.substr(comma + 1))};
-        if (word == "reset") {
-            recorder.Reset();
-        } else if (const auto said = declarations.find(word.substr(0, number)); said != declarations.end()) {
-            lines = recorder.Declare(said->second, counts);
-        } else if (word.starts_with("top")) {
+        lines = {};
+        if (declared != declarations.end())
+            lines = recorder.Declare(static_cast<Declaration>(declared - declarations.begin()), counts);
+        else if (name == "top")
             lines = recorder.TopUpMoveLists(counts);
-        } else if (word.starts_with("flag")) {
+        else if (word == "reset")
+            recorder.Reset();
+        else if (word.starts_with("flag"))
             recorder.FlagFell(ofLast);
-        } else if (word.starts_with("delete")) {
+        else if (word.starts_with("delete"))
             recorder.DeleteLast(ofLast);
-        } else if (word == "first" || word.starts_with("press")) {
-            report(recorder.AddLineForPress(word == "first", word == "first" ? White : ofLast));
-        } else if (sign == 0) {
-            recorder.Promote(KindOfLetter(word.back()));
-        } else if (sign == std::string::npos) {
-            report(recorder.Play(SquareNamed(word.substr(0, 2)), SquareNamed(word.substr(2, 2))));
-            if (word.size() > 4) recorder.Promote(KindOfLetter(AsciiUpper(word[4])));
-        } else if (word[sign] == '=') {
-            recorder.Edit(ofFirst, std::stoul(word.substr(1)), word.substr(sign + 1));
-        } else {
-            recorder.PutBack(*PieceOfCode(word.substr(0, 2)), std::stoi(word.substr(2)),
-                             SquareNamed(word.substr(sign + 1)));
-        }
+        else if (word.starts_with("press") || word == "first")
+            line = recorder.AddLineForPress(word == "first", word == "first" ? White : ofLast);
+        else if (sign == 0)
+            recorder.Promote(KindOfLetter(word[1]));
+        else if (sign == std::string::npos)
+            line = recorder.Play(SquareNamed(word.substr(0, 2)), SquareNamed(word.substr(2, 2)));
+        else if (word[sign] == '=')
+            recorder.Edit(ofFirst, std::stoul(word.substr(1)), end);
+        else
+            recorder.PutBack(*PieceOfCode(word.substr(0, 2)), word[2] - '0', SquareNamed(end));
+        if (line) lines[line->List] = line->Index;
+        if (number == 1 && word.size() == 5) recorder.Promote(KindOfLetter(AsciiUpper(word[4])));
     }
-    std::string text;
-    for (const Side side : BothSides) {
-        if (lines[side]) text += (side == White ? " W" : " B") + std::to_string(*lines[side]);
-    }
-    return text;
+    return (lines[White] ? " W" + std::to_string(*lines[White]) : "") +
+           (lines[Black] ? " B" + std::to_string(*lines[Black]) : "");
 }
 
 inline Recorder Played(const std::string& script) {

@@ -38,11 +38,11 @@ TEST(RecorderTest, Scripts) {
         top3,2 e2e4 e7e5 => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0
         e2e4 e7e5 top1,1 => 1. e4 / e5; 1. e4 <e5 > White
         e2e4 e7e5 resign top2,3 => 1. e4|2. _|3. _|[0-1] / e5|2. _|3. _; 1. e4 e5 0-1<> White at W2 B2
-        top0,1 top-1,-1 => 1. _ / 1. _; <> White
+        top0,1 top0,-1 => 1. _ / 1. _; <> White
         Declarations mark the last move and end the game, once.
         check mate =>  / ; <> White | e2e4 check check => 1. e4+ / ; <1. e4+ > Black
         e2e4 check mate mate => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
-        e2e4 mate check => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black | e2e4 mate draw => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
+        e2e4 mate check draw => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
         e2e4 e7e5 mate => 1. e4 / e5#|[0-1]; 1. e4 e5# 0-1<> White
         e2e4 mate e7e5 => 1. e4# / e5; 1. e4# <e5 > White at B0 | e2e4 draw e7e5 => 1. e4 / e5; 1. e4 <e5 > White at B0
         e2e4 resign2,1 => 1. e4|2. _ / 1. _|[1-0]; 1. e4 1-0<> Black at W1 B0
