@@ -76,7 +76,7 @@ TEST(ClockRecordTest, EverythingComesBackButTheLanguage) {
 
     ClockRecord saved = UnderWay();
     saved.Options.PlayerNames = {std::string(200, 'a'), std::string(128, 'b')};
-    for (int32_t seconds = 60; seconds < 20000; seconds += 7) {
+    for (int32_t seconds = 60; seconds < 20000; seconds += 61) {
         saved.Clock.Control.PeriodLimit.fill(seconds);
         ASSERT_FALSE(DecodeClockRecord(Bytes(EncodeClockRecord(saved)), present, read));
         ASSERT_EQ(read.Clock.Control.PeriodLimit[Black], seconds) << "whatever the minutes are as a fraction";
