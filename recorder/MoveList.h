@@ -38,7 +38,7 @@ class MoveList {
     size_t Write(
         std::string_view move);  // into the first of the waiting lines at the end, or a new one; no result stays
     size_t AddWaiting();         // before a result
-    size_t AddResult(std::string_view result);
+    void AddResult(std::string_view result);
     // A text that is no result makes a move of an entry that was one.
     void SetText(size_t index, const std::string& text) { entries[index] = {static_cast<int32_t>(index) + 1, text}; }
     void SetResult(size_t index, const std::string& result) { entries[index] = {0, result}; }

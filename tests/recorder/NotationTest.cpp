@@ -29,7 +29,8 @@ TEST(NotationTest, MovesInShortAndLongForm) {
         WQa1 WQh1 a1e4 => Qae4 a1-e4 | WQa1 WQe8 a1e4 => Qae4 a1-e4 | WBa1 WBh8 a1d4 => Bad4 a1-d4
         WBa1 WBg1 a1d4 => Bad4 a1-d4 | WBa1 WBa7 a1d4 => Bad4 a1-d4 | WBb1 WBd8 b1d4 => Bd4 b1-d4
         WNb6 WNf4 BPd5 f4d5 => Nfxd5 f4xd5 | WNa2 WNh8 a2c4 => Nc4 a2-c4 | WNb4 WNf4 f4d5 => Nd5 f4-d5
-        WNb3 WNf4 f4d5 => Nfd5 f4-d5 | WNa8 WNf1 f1c1 => Nc1 f1-c1 | WNa2 WNe3 e3c4 => Nec4 e3-c4
+        WNb3 WNf4 f4d5 => Nfd5 f4-d5 | WNb3 WNe3 e3d1 => Nd1 e3-d1 | WNa2 WNe1 e1c2 => Nec2 e1-c2
+        WNa2 WNe3 e3c4 => Nec4 e3-c4
         WNa2 a2c4 => Nc4 a2-c4 | WKe1 WKg1 e1f1 => Kf1 e1-f1
     )");
     // The other knight on each square from which it could jump, but for the one that is looked for elsewhere.

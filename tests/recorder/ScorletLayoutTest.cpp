@@ -25,7 +25,8 @@ std::string Places(int width, int height, int dpi) {
 TEST(ScorletLayoutTest, NothingOverlapsOrLeavesTheWindowAtAnySize) {
     Places(ScorletLeastWidth, ScorletLeastHeight, 96);
     Places(1600, ScorletLeastHeight, 96);
-    Places(ScorletLeastWidth, 1200, 96);
+    const std::string narrow = Places(ScorletLeastWidth, 1200, 96);
+    EXPECT_TRUE(narrow.starts_with("28:10 29x29") && narrow.ends_with(" 45x45; 18 16 12")) << narrow;
     Places(ScorletWidth * 2, ScorletHeight * 2, 192);
     // As it was drawn.
     EXPECT_EQ(Places(ScorletWidth, ScorletHeight, 96),
