@@ -9,8 +9,6 @@ std::string TwoDigitText(int32_t part) {
     return std::to_string(part);
 }
 
-std::string FaceText(int32_t seconds) { return HoursMinutesText(seconds) + ":" + TwoDigitText(seconds % 60); }
-
 std::string HoursMinutesText(int32_t seconds) {
     return TwoDigitText(seconds / 3600) + ":" + TwoDigitText(seconds / 60 % 60);
 }

@@ -7,10 +7,7 @@
 // `part` must not be negative.
 std::string TwoDigitText(int32_t part);
 
-// Seconds as "HH:MM:SS". Hours are not limited to two digits.
-std::string FaceText(int32_t seconds);
-
-// Seconds as "HH:MM"; the seconds of a minute that is not full are not shown.
+// Seconds as "HH:MM"; hours are not limited to two digits, and what is left of the last minute is not shown.
 std::string HoursMinutesText(int32_t seconds);
 
 // Seconds as "MM:SS" for times under an hour; minutes are not limited to two digits.

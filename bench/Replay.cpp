@@ -15,11 +15,6 @@ std::string_view TakeWord(std::string_view& line) {
     return word;
 }
 
-Square ReadSquare(char file, char rank) {
-    const int fileNumber = file - 'a' + 1, rankNumber = rank - '0';
-    return OnBoard(fileNumber, rankNumber) ? SquareAt(fileNumber, rankNumber) : NoSquare;
-}
-
 PieceKind ReadPromotion(char letter) {
     switch (letter) {
         case 'q': return PieceKind::Queen;
@@ -32,7 +27,7 @@ PieceKind ReadPromotion(char letter) {
 
 bool ReplayMove(Board& board, std::string_view word, std::string& written) {
     if (word.size() != 4 && word.size() != 5) return false;
-    const Square origin = ReadSquare(word[0], word[1]), destination = ReadSquare(word[2], word[3]);
+    const Square origin = SquareNamed(word.substr(0, 2)), destination = SquareNamed(word.substr(2, 2));
     if (origin == NoSquare || destination == NoSquare || origin == destination) return false;
     if (board.At(origin) == Piece::Empty) return false;
 

@@ -111,8 +111,7 @@ std::optional<GameFileError> DecodeCgn(std::string_view bytes, Side sideToMove, 
         if (!number) return ErrorAt(Damage::UnexpectedText, words.Start());
         MoveList& list = read[number->Mover];
         if (number->Number != list.Moves() + 1) return ErrorAt(Damage::WrongNumber, words.Start());
-        const std::string_view move = words.Next();
-        if (move.empty()) return ErrorAt(Damage::EndsEarly, words.Start());
-        list.SetText(list.AddWaiting(), std::string(move));
+        // Where the text ends here, the next word is missing too.
+        list.SetText(list.AddWaiting(), std::string(words.Next()));
     }
 }

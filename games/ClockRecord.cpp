@@ -12,8 +12,8 @@ bool OutOfTime(const modClock::ClockState& clock, Side side) {
            int64_t{clock.Control.MoveBonus[side]} + clock.PlayerTime[side] > clock.Control.PeriodLimit[side];
 }
 
-// Counting up, a bonus may carry the time past the limit without the flag, which falls at the next second only. In games
-// of earlier versions a second period of no time did the same.
+// Counting up, a bonus may carry the time past the limit without the flag, which falls at the next second only. In
+// games of earlier versions a second period of no time did the same.
 bool MayWaitForTick(const modClock::ClockState& clock, Side side) {
     if (clock.Control.CountTimeDown) return false;
     const bool emptyPeriod = clock.Control.SecondPeriodEnabled && clock.Control.SecondPeriodTime[side] == 0;

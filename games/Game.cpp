@@ -52,9 +52,7 @@ void Game::AskedResetIfStarted() {
     if (!SomethingToLose() || clockView->AskReset()) Reset();
 }
 
-bool Game::SomethingToLose() const {
-    return clock.Clock().State().GameStarted || (record && record->MovesWritten());
-}
+bool Game::SomethingToLose() const { return clock.Clock().State().GameStarted || (record && record->MovesWritten()); }
 
 void Game::Reset() {
     ReplaceRecord({});

@@ -1,5 +1,7 @@
 #include "games/GameName.h"
 
+#include "base/AsciiCase.h"
+
 #include <array>
 
 namespace {
@@ -12,8 +14,8 @@ constexpr std::wstring_view Signs = L"+-_&%#!$()[]{}@'.,;~^";
 constexpr wchar_t Backspace = 8;
 
 bool IsLetterOrDigit(wchar_t character) {
-    return (character >= L'a' && character <= L'z') || (character >= L'A' && character <= L'Z') ||
-           (character >= L'0' && character <= L'9');
+    const wchar_t upper = AsciiUpper(character);
+    return (upper >= L'A' && upper <= L'Z') || (character >= L'0' && character <= L'9');
 }
 
 // The digits that number serial and parallel ports; the raised ones count too.
@@ -34,9 +36,7 @@ std::wstring GameName::Changed(const std::wstring& text) {
 
 bool IsDeviceName(std::wstring_view name) {
     std::wstring base;
-    for (wchar_t character : name.substr(0, name.find(L'.')))
-        base.push_back(character >= L'a' && character <= L'z' ? static_cast<wchar_t>(character - L'a' + L'A')
-                                                              : character);
+    for (wchar_t character : name.substr(0, name.find(L'.'))) base.push_back(AsciiUpper(character));
     // Blanks at the end do not count.
     base.erase(base.find_last_not_of(L' ') + 1);
     constexpr std::array<std::wstring_view, 6> devices{L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};

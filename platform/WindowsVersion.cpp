@@ -1,5 +1,7 @@
 #include "platform/WindowsVersion.h"
 
+#include "base/AsciiCase.h"
+
 std::string WindowsVersionName(uint32_t platform, uint32_t major, uint32_t minor) {
     if (platform == 0) return "Win32s";
     if (platform == 1 && major == 4) {
@@ -19,9 +21,7 @@ std::string WindowsVersionName(uint32_t platform, uint32_t major, uint32_t minor
 std::string OsNameOf(const std::string& versionName) {
     std::string name;
     for (char character : versionName) {
-        if (character == ' ') continue;
-        const bool lower = character >= 'a' && character <= 'z';
-        name.push_back(lower ? static_cast<char>(character - 'a' + 'A') : character);
+        if (character != ' ') name.push_back(AsciiUpper(character));
     }
     return name;
 }

@@ -33,7 +33,6 @@ class BoardInput {
 
     // A click on a square, or Enter on the cursor's square. Returns the written line if that has made a move.
     std::optional<ChosenLine> Click(Square square);
-    std::optional<ChosenLine> Enter() { return Click(cursor); }
     // A click on a captured piece that is shown.
     void ClickCaptured(Piece piece, int slot);
     // Picks the captured piece that is shown after the picked one, or the first if none is picked. After the last, none

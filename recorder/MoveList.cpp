@@ -23,10 +23,7 @@ size_t MoveList::AddWaiting() {
     return index;
 }
 
-size_t MoveList::AddResult(std::string_view result) {
-    entries.push_back({0, std::string(result)});
-    return entries.size() - 1;
-}
+void MoveList::AddResult(std::string_view result) { entries.push_back({0, std::string(result)}); }
 
 std::string MoveList::Line(size_t index, Side side) const {
     const MoveEntry& entry = entries[index];

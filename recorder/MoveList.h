@@ -34,16 +34,15 @@ class MoveList {
     // The last entry that holds a move; no value if none does.
     std::optional<size_t> LastWritten() const;
 
-    // These return the index of the entry that they have made or changed.
+    // Write and AddWaiting return the index of the entry that they have made or changed.
     // Writes into the first of the waiting lines at the end, or into a new line. A result is taken away.
     size_t Write(std::string_view move);
     size_t AddWaiting();  // before a result
-    size_t AddResult(std::string_view result);
+    void AddResult(std::string_view result);
     // A text that is no result makes a move of an entry that was one.
     void SetText(size_t index, const std::string& text) { entries[index] = {static_cast<int32_t>(index) + 1, text}; }
     void SetResult(size_t index, const std::string& result) { entries[index] = {0, result}; }
     void RemoveLast() { entries.pop_back(); }
-    void Clear() { entries.clear(); }
 
     // What the list of a side shows: White's moves with their numbers, Black's without, and waiting lines with the
     // number in both lists.

@@ -1,5 +1,7 @@
 #include "recorder/Notation.h"
 
+#include "base/AsciiCase.h"
+
 #include <span>
 
 namespace {
@@ -46,8 +48,6 @@ std::string_view CastlingText(MoveKind kind) { return kind == MoveKind::Castling
 bool IsCastling(MoveKind kind) { return kind == MoveKind::CastlingKingSide || kind == MoveKind::CastlingQueenSide; }
 
 bool IsFile(char letter) { return letter >= 'a' && letter <= 'h'; }
-char Lower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
-char Upper(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
 
 std::string_view Trimmed(std::string_view text) {
     const size_t first = text.find_first_not_of(' ');
@@ -58,7 +58,7 @@ std::string_view Trimmed(std::string_view text) {
 // "b" can mean a file or a Bishop; the characters around it tell which.
 char FileOrBishop(std::string_view text, size_t at) {
     if (at > 0) return text[at - 1] == '=' ? 'B' : 'b';
-    const char next = text.size() > 1 ? Lower(text[1]) : '\0';
+    const char next = text.size() > 1 ? AsciiLower(text[1]) : '\0';
     if (next >= '1' && next <= '8') return 'b';
     if (IsFile(next)) return 'B';
     return text[at];
@@ -140,7 +140,6 @@ void RemoveResultMark(std::string& gameText) {
 std::string NormaliseMove(std::string_view typed) {
     const std::string_view text = Trimmed(typed);
     if (text.empty()) return std::string(MissingMove);
-    if (IsResult(text)) return std::string(text);
 
     std::string castling;
     for (char character : text) castling += character == '0' || character == 'o' ? 'O' : character;
@@ -150,11 +149,11 @@ std::string NormaliseMove(std::string_view typed) {
 
     std::string move;
     for (size_t at = 0; at < text.size() && at < 8; ++at) {
-        const char lower = Lower(text[at]);
+        const char lower = AsciiLower(text[at]);
         if (lower == 'b')
             move += FileOrBishop(text, at);
         else if (lower == 'q' || lower == 'r' || lower == 'n')
-            move += Upper(lower);
+            move += AsciiUpper(lower);
         else if (IsFile(lower))
             move += lower;
         else

@@ -36,14 +36,10 @@ void Recorder::AwaitPromotionAgain() {
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
     if (!last) return;
-    for (const int rank : {1, 8}) {
-        for (int file = 1; file <= 8; ++file) {
-            const Square square = SquareAt(file, rank);
-            const std::string name{FileLetter(square), RankDigit(square)};
-            const bool movedTo = lists[mover].Entries()[*last].Text.find(name) != std::string::npos;
-            if (movedTo && Board::ReachesLastRank(board.At(square), square))
-                promotion = Promotion{square, ChosenLine{mover, *last}};
-        }
+    const std::string_view text = lists[mover].Entries()[*last].Text;
+    for (size_t at = 0; at < text.size(); ++at) {
+        const Square square = SquareNamed(text.substr(at, 2));
+        if (Board::ReachesLastRank(board.At(square), square)) promotion = Promotion{square, ChosenLine{mover, *last}};
     }
 }
 
@@ -63,6 +59,7 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     if (Board::ReachesLastRank(move.Moving, destination)) promotion = Promotion{destination, line};
     sideToMove = Other(sideToMove);
     lastMove = move;
+    lastMoveLongForm = WriteLongForm(move).View();
     return line;
 }
 

@@ -27,6 +27,8 @@ class Recorder {
     Side SideToMove() const { return sideToMove; }
     // The move last carried out, so that it can be shown.
     const std::optional<Move>& LastMove() const { return lastMove; }
+    // That move in long form, "e2-e4"; empty without one.
+    const std::string& LastMoveLongForm() const { return lastMoveLongForm; }
     bool MovesWritten() const { return !lists[White].Empty() || !lists[Black].Empty(); }
 
     // The game's movetext without the last move, and that move, which promotions and marks can still change. A result
@@ -95,4 +97,5 @@ class Recorder {
     std::string pendingText;
     std::optional<Promotion> promotion;
     std::optional<Move> lastMove;
+    std::string lastMoveLongForm;
 };

@@ -3,16 +3,21 @@
 #include <gtest/gtest.h>
 
 TEST(PrintedListTest, ColumnsStandSideBySide) {
-    const PrintedLabels labels{{L"WHITE", L"BLACK"}, L"Date"};
-    const std::wstring head =
-        L"WHITE: Ay\u015fe\r\n\r\nBLACK: B\r\n\r\nDate: 09/03/2024\r\nWHITE" + std::wstring(34, L' ') + L"BLACK\r\n";
-    const auto print = [&](std::vector<std::wstring> white, std::vector<std::wstring> black) {
-        return PrintedList(labels, {L"Ay\u015fe", L"B"}, {2024, 3, 9}, {white, black});
+    using Column = std::vector<std::wstring>;
+    const std::wstring gap(34, L' '), wide(39, L'x'), almost(38, L'x');
+    struct Row {
+        Column White, Black;
+        std::wstring Lines;
     };
-    EXPECT_EQ(print({}, {}), head);
-    EXPECT_EQ(print({L"1. e4", L"2. Nf3"}, {L"e5"}), head + L"1. e4" + std::wstring(34, L' ') + L"e5\r\n2. Nf3\r\n");
-    EXPECT_EQ(print({}, {L"e5"}), head + std::wstring(39, L' ') + L"e5\r\n") << "as many rows as the longer list";
-    const std::wstring wide(45, L'x');
-    EXPECT_EQ(print({wide, wide.substr(0, 39), wide.substr(0, 38)}, {L"a", L"b", L"c"}),
-              head + wide + L"a\r\n" + wide.substr(0, 39) + L"b\r\n" + wide.substr(0, 38) + L" c\r\n");
+    const Row rows[] = {
+        {{}, {}, L""},
+        {{L"1. e4", L"2. Nf3"}, {L"e5"}, L"1. e4" + gap + L"e5\r\n2. Nf3\r\n"},
+        {{}, {L"e5"}, gap + L"     e5\r\n"},
+        {{wide + L"x", wide, almost}, {L"a", L"b", L"c"}, wide + L"xa\r\n" + wide + L"b\r\n" + almost + L" c\r\n"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(
+            PrintedList({{L"WHITE", L"BLACK"}, L"Date"}, {L"Ay\u015fe", L"B"}, {24, 3, 9}, {row.White, row.Black}),
+            L"WHITE: Ay\u015fe\r\n\r\nBLACK: B\r\n\r\nDate: 09/03/0024\r\nWHITE" + gap + L"BLACK\r\n" + row.Lines);
+    }
 }

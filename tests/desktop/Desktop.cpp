@@ -1,6 +1,7 @@
 #include "tests/desktop/Desktop.h"
 
 #include "platform/Ansi.h"
+#include "recorder/Square.h"
 #include "settings/SettingsRecord.h"
 
 #include <gtest/gtest.h>
@@ -317,8 +318,7 @@ void ProgramRun::ExpectLists(const std::string& wanted) const {
 
 void ProgramRun::Play(std::string_view move) const {
     const HWND scorlet = FindWindowNow(L"frmScorlet");
-    for (const size_t at : {0, 2})
-        Click(GetDlgItem(scorlet, picBoard + (move[at] - 'a' + 1) * 10 + move[at + 1] - '0'));
+    for (const size_t at : {0, 2}) Click(GetDlgItem(scorlet, picBoard + SquareNamed(move.substr(at, 2))));
 }
 
 void ProgramRun::Click(HWND window, bool rightButton) const {

@@ -27,7 +27,7 @@ class ScorletTest : public testing::Test {
     }
 
     HWND Part(int id) const { return GetDlgItem(scorlet, id); }
-    HWND Cell(std::string_view square) const { return Part(picBoard + (square[0] - 'a' + 1) * 10 + (square[1] - '0')); }
+    HWND Cell(std::string_view square) const { return Part(picBoard + SquareNamed(square)); }
     std::wstring Code(std::string_view square) const { return TextOf(Cell(square)); }
     bool Shown(int id) const { return IsWindowVisible(Part(id)); }
 

@@ -1,5 +1,8 @@
 #include "games/Game.h"
 
+#include "tests/base/Rows.h"
+#include "tests/recorder/RecordText.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -70,18 +73,8 @@ SavedGame Saved(int32_t white, int32_t black, bool started) {
     saved.Clock.MoveCount = {white, black};
     saved.Clock.PlayerTime = {white * 15, black * 15};
     saved.Clock.GameStarted = saved.Clock.TurnFlag = started;
-    saved.Scorlet.Play(SquareAt(4, 2), SquareAt(4, 4));
+    saved.Scorlet.Play(SquareNamed("d2"), SquareNamed("d4"));
     return saved;
-}
-
-std::string Lines(const Recorder& record) {
-    std::string text;
-    for (Side side : BothSides) {
-        if (side == Black) text += " / ";
-        for (size_t i = 0; i < record.List(side).Entries().size(); ++i)
-            text += (i ? "|" : "") + record.List(side).Line(i, side);
-    }
-    return text;
 }
 
 // Plays the words of a script with 60 seconds for each side. The answer: what the last word made the windows do; for
@@ -141,12 +134,12 @@ std::string Played(const std::string& script) {
                 game.Tick();
             }
         else if (word.size() == 4 && isdigit(word[1]) && isdigit(word[3]))
-            record->Play(SquareAt(word[0] - 'a' + 1, word[1] - '0'), SquareAt(word[2] - 'a' + 1, word[3] - '0'));
+            record->Play(SquareNamed(word.substr(0, 2)), SquareNamed(word.substr(2)));
         else
             words.at(word)();
     }
     const ClockCommands& clock = game.Clock();
-    std::string shown = around.Said + " |";
+    std::string shown = (around.Said.empty() ? "nothing" : around.Said) + ";";
     for (Side side : BothSides) {
         const std::pair<bool, const char*> marks[] = {
             {clock.ClockButtonEnabled(side), "C"},
@@ -154,98 +147,98 @@ std::string Played(const std::string& script) {
             {clock.TurnMarksVisible(side), "T"},
             {clock.FlagFallen(side), "F"},
             {clock.BlinkingSide() == side, clock.BlinkText() == BlinkMark::Paused ? "p" : "m"}};
-        shown += ' ';
-        for (const auto& [set, letter] : marks) shown += set ? letter : "";
+        std::string letters;
+        for (const auto& [set, letter] : marks) letters += set ? letter : "";
+        shown += " " + (letters.empty() ? "-" : letters);
     }
     shown += (clock.SetupEnabled() ? " S " : " ") + clock.Clock().Face(White);
     if (around.Timers != (clock.Clock().State().TimerRunning ? 1 : 0)) shown += " and a timer is left";
-    return game.Record() ? shown + " | " + Lines(*game.Record()) : shown;
+    return game.Record() ? shown + "; " + ListText(game.Record()->Lists()) : shown;
 }
 
 }  // namespace
 
 TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
-    const std::pair<const char*, const char*> rows[] = {
-        // Presses.
-        {"W", "click, show B all | CPTm  00:01:00"},
-        {"B", "click, show B all | CPTm  00:01:00"},
-        {"W W", "click, show W all |  CPTm 00:01:00"},
-        {"W B", " | CPTm  00:01:00"},
-        {"W space space", "click, show B all | CPTm  00:01:00"},
-        {"W 1s", "show W | CPTm  00:00:59"},
-        {"no-timer W", "click, not created | CP CP S 00:01:00"},
-        {"W 59s slow-sound W", "click, show W all, gong | F  00:00:00"},
-        // A press gives the side that then runs its line, once the other has written its move.
-        {"open W", "click, show B all, lists W0 | CPTm  00:01:00 | 1. ?\?-?\? / "},
-        {"open W W", "click, show W all |  CPTm 00:01:00 | 1. ?\?-?\? / "},
-        {"open W e2e4 W", "click, show W all, lists B0 |  CPTm 00:01:00 | 1. e4 / 1. ?\?-?\?"},
-        {"open W e2e4 W e7e5 B", "click, show B all, lists W1 | CPTm  00:01:00 | 1. e4|2. ?\?-?\? / e5"},
-        {"W open W", "click, show W all |  CPTm 00:01:00 |  / "},
-        {"open W e2e4 W close B", "click, show B all | CPTm  00:01:00"},
-        // Pause and resume.
-        {"W W p", "show all |  Rp 00:01:00"},
-        {"W W p p", " |  Rp 00:01:00"},
-        {"W W p B", " |  Rp 00:01:00"},
-        {"W W pause no-timer pause", "not resumed |  Rp 00:01:00"},
-        {"W W pause pauseB", "show all |  CPTm 00:01:00"},
-        {"W pauseB", " | CPTm  00:01:00"},
-        {"W pauseW", "show all | Rp  00:01:00"},
-        {"W pause timer-1 pause p", " | CPTm  00:01:00"},
-        {"p", " | CP CP S 00:01:00"},
-        {"pauseB", "how to begin | CP CP S 00:01:00"},
-        // A fallen flag writes the result.
-        {"W 60s", "show W all, gong | F  00:00:00"},
-        {"W W 60s", "show B all, gong |  F 00:01:00"},
-        {"open W 60s", "lists, show W all, gong | F  00:00:00 | 1. ?\?-?\?|0-1 / "},
-        {"open W e2e4 W 60s", "lists, show B all, gong |  F 00:01:00 | 1. e4 / 1. ?\?-?\?|1-0"},
-        {"W 60s W", "how to restart | F  00:00:00"},
-        {"W 60s space", "how to restart | F  00:00:00"},
-        {"W 60s pauseB", "how to restart | F  00:00:00"},
-        {"W 60s p", " | F  00:00:00"},
-        // Declarations: a result pauses the clock, and fills the lists where it ends the game at once.
-        {"open W e2e4 check", "lists | CPTm  00:01:00 | 1. e4+ / "},
-        {"open W e2e4 mate", "lists, show all | Rp  00:01:00 | 1. e4#|1-0 / "},
-        {"open W W resign", "lists B0, show all |  Rp 00:01:00 | 1. ?\?-?\?|0-1 / 1. ?\?-?\?"},
-        {"open W W B draw", "lists W1 B0, show all | Rp  00:01:00 | 1. ?\?-?\?|2. ?\?-?\?|1/2-1/2 / 1. ?\?-?\?"},
-        {"open draw", "lists | CP CP S 00:01:00 | 1/2-1/2 / "},
-        {"open W draw pause resign", "lists | CPTm  00:01:00 | 1. ?\?-?\?|1/2-1/2 / "},
-        // Saving fills the lists up to the counts.
-        {"open W W B top", "lists W1 B0 | CPTm  00:01:00 | 1. ?\?-?\?|2. ?\?-?\? / 1. ?\?-?\?"},
-        {"W W top", " |  CPTm 00:01:00"},
-        // Start, reset and setup.
-        {"start", "click, show B all | CPTm  00:01:00"},
-        {"W start", "ask | CPTm  00:01:00"},
-        {"W yes start", "ask, read, show W B all, click, show B all | CPTm  00:01:00"},
-        {"W pause no-timer pause timer start", "read, show W B all, click, show B all | CPTm  00:01:00"},
-        {"W 60s start", "read, show W B all, click, show B all | CPTm  00:01:00"},
-        {"reset", "read, show W B all | CP CP S 00:01:00"},
-        {"flag", "ask | CP CP S 00:01:00"},
-        {"open reset", "new record, read, show W B all, lists | CP CP S 00:01:00 |  / "},
-        {"open e2e4 reset", "ask | CP CP S 00:01:00 | 1. e4 / "},
-        {"open e2e4 yes flag", "ask, new record, read, show W B all, lists | CP CP S 00:01:00 |  / "},
-        {"W 1s reset", "ask | CPTm  00:00:59"},
-        {"W 1s yes reset", "ask, read, show W B all | CP CP S 00:01:00"},
-        {"W 60s reset", "read, show W B all | CP CP S 00:01:00"},
-        {"setup", "show W B all | CP CP S 00:02:00"},
-        {"open e2e4 setup", "show W B all, lists | CP CP S 00:02:00 | 1. e4 / "},
-        {"setup reset", "read, show W B all | CP CP S 00:01:00"},
-        // A loaded game takes the place of clock, record and settings.
-        {"open W load", "show W B all, new record | Rp  00:00:45 | 1. d4 / "},
-        {"open load pause", "show all | CPTm  00:00:45 | 1. d4 / "},
-        {"open loadW", "show W B all, new record | F  00:00:45 | 1. d4 / "},
-        {"open load1", "show W B all, new record | F  00:00:15 | 1. d4 / "},
-        {"open load0 setup", "show W B all, lists | CP CP S 00:11:00 | 1. d4 / "},
-        {"open loadB", "show W B all, new record |  F 00:00:45 | 1. d4 / "},
-        {"open W load0", "show W B all, new record | CP CP S 00:10:00 | 1. d4 / "},
-        {"open load0 start", "click, show B all | CPTm  00:10:00 | 1. d4 / "},
-        {"open load yes reset", "ask, new record, read, show W B all, lists | CP CP S 00:01:00 |  / "},
-        // What goes wrong.
-        {"W unload", "show all | Rm  00:01:00"},
-        {"W no-kill unload", "not killed | Rm  00:01:00"},
-        {"up great-bonus W 1s", "show W all, overflow | Rp  00:00:00"},
-        {"great-bonus W W", "click, show B all, overflow | Rp  00:01:00"},
-    };
-    for (const auto& [script, wanted] : rows) EXPECT_EQ(Played(script), wanted) << script;
+    ExpectRows(Played, R"(
+        Presses.
+        W => click, show B all; CPTm - 00:01:00
+        B => click, show B all; CPTm - 00:01:00
+        W W => click, show W all; - CPTm 00:01:00
+        W B => nothing; CPTm - 00:01:00
+        W space space => click, show B all; CPTm - 00:01:00
+        W 1s => show W; CPTm - 00:00:59
+        no-timer W => click, not created; CP CP S 00:01:00
+        W 59s slow-sound W => click, show W all, gong; F - 00:00:00
+        A press gives the side that then runs its line, once the other has written its move.
+        open W => click, show B all, lists W0; CPTm - 00:01:00; 1. _ /
+        open W W => click, show W all; - CPTm 00:01:00; 1. _ /
+        open W e2e4 W => click, show W all, lists B0; - CPTm 00:01:00; 1. e4 / 1. _
+        open W e2e4 W e7e5 B => click, show B all, lists W1; CPTm - 00:01:00; 1. e4|2. _ / e5
+        W open W => click, show W all; - CPTm 00:01:00;  /
+        open W e2e4 W close B => click, show B all; CPTm - 00:01:00
+        Pause and resume.
+        W W p => show all; - Rp 00:01:00
+        W W p p => nothing; - Rp 00:01:00
+        W W p B => nothing; - Rp 00:01:00
+        W W pause no-timer pause => not resumed; - Rp 00:01:00
+        W W pause pauseB => show all; - CPTm 00:01:00
+        W pauseB => nothing; CPTm - 00:01:00
+        W pauseW => show all; Rp - 00:01:00
+        W pause timer-1 pause p => nothing; CPTm - 00:01:00
+        p => nothing; CP CP S 00:01:00
+        pauseB => how to begin; CP CP S 00:01:00
+        A fallen flag writes the result.
+        W 60s => show W all, gong; F - 00:00:00
+        W W 60s => show B all, gong; - F 00:01:00
+        open W 60s => lists, show W all, gong; F - 00:00:00; 1. _|[0-1] /
+        open W e2e4 W 60s => lists, show B all, gong; - F 00:01:00; 1. e4 / 1. _|[1-0]
+        W 60s W => how to restart; F - 00:00:00
+        W 60s space => how to restart; F - 00:00:00
+        W 60s pauseB => how to restart; F - 00:00:00
+        W 60s p => nothing; F - 00:00:00
+        Declarations: a result pauses the clock, and fills the lists where it ends the game at once.
+        open W e2e4 check => lists; CPTm - 00:01:00; 1. e4+ /
+        open W e2e4 mate => lists, show all; Rp - 00:01:00; 1. e4#|[1-0] /
+        open W W resign => lists B0, show all; - Rp 00:01:00; 1. _|[0-1] / 1. _
+        open W W B draw => lists W1 B0, show all; Rp - 00:01:00; 1. _|2. _|[1/2-1/2] / 1. _
+        open draw => lists; CP CP S 00:01:00; [1/2-1/2] /
+        open W draw pause resign => lists; CPTm - 00:01:00; 1. _|[1/2-1/2] /
+        Saving fills the lists up to the counts.
+        open W W B top => lists W1 B0; CPTm - 00:01:00; 1. _|2. _ / 1. _
+        W W top => nothing; - CPTm 00:01:00
+        Start, reset and setup.
+        start => click, show B all; CPTm - 00:01:00
+        W start => ask; CPTm - 00:01:00
+        W yes start => ask, read, show W B all, click, show B all; CPTm - 00:01:00
+        W pause no-timer pause timer start => read, show W B all, click, show B all; CPTm - 00:01:00
+        W 60s start => read, show W B all, click, show B all; CPTm - 00:01:00
+        reset => read, show W B all; CP CP S 00:01:00
+        flag => ask; CP CP S 00:01:00
+        open reset => new record, read, show W B all, lists; CP CP S 00:01:00;  /
+        open e2e4 reset => ask; CP CP S 00:01:00; 1. e4 /
+        open e2e4 yes flag => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
+        W 1s reset => ask; CPTm - 00:00:59
+        W 1s yes reset => ask, read, show W B all; CP CP S 00:01:00
+        W 60s reset => read, show W B all; CP CP S 00:01:00
+        setup => show W B all; CP CP S 00:02:00
+        open e2e4 setup => show W B all, lists; CP CP S 00:02:00; 1. e4 /
+        setup reset => read, show W B all; CP CP S 00:01:00
+        A loaded game takes the place of clock, record and settings.
+        open W load => show W B all, new record; Rp - 00:00:45; 1. d4 /
+        open load pause => show all; CPTm - 00:00:45; 1. d4 /
+        open loadW => show W B all, new record; F - 00:00:45; 1. d4 /
+        open load1 => show W B all, new record; F - 00:00:15; 1. d4 /
+        open load0 setup => show W B all, lists; CP CP S 00:11:00; 1. d4 /
+        open loadB => show W B all, new record; - F 00:00:45; 1. d4 /
+        open W load0 => show W B all, new record; CP CP S 00:10:00; 1. d4 /
+        open load0 start => click, show B all; CPTm - 00:10:00; 1. d4 /
+        open load yes reset => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
+        What goes wrong.
+        W unload => show all; Rm - 00:01:00
+        W no-kill unload => not killed; Rm - 00:01:00
+        up great-bonus W 1s => show W all, overflow; Rp - 00:00:00
+        great-bonus W W => click, show B all, overflow; Rp - 00:01:00
+    )");
 }
 
 TEST(GameTest, FilesAreFilledUpAndTheRecordIsNot) {
@@ -259,6 +252,6 @@ TEST(GameTest, FilesAreFilledUpAndTheRecordIsNot) {
     const GameFiles files = game.Encode({"Ann", "Bob"}, {2026, 11, 21});
     EXPECT_NE(files[MovesFile]->find("[White \"Ann\"]"), std::string::npos);
     EXPECT_NE(files[MovesFile]->find("1. ?\?-?\? 1... ?\?-?\? *"), std::string::npos);
-    EXPECT_EQ(Lines(record), " / ");
+    EXPECT_EQ(ListText(record.Lists()), " / ");
     EXPECT_EQ(around.Options.PlayerNames[White], "");
 }

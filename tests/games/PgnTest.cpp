@@ -1,46 +1,43 @@
 #include "games/Pgn.h"
 
-#include "tests/games/GameText.h"
+#include "tests/base/Rows.h"
+#include "tests/recorder/RecordText.h"
 
 namespace {
 
-const std::string Lines =
-    "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"2024-12-31\"]\r\n[Round \"\"]\r\n[White \"A\"]\r\n[Black \"B\"]\r\n";
-
-std::string File(const std::string& text, const std::string& result) {
-    return Lines + "[Result \"" + result + "\"]\r\n\r\n" + text + "\r\n";
+// The result and the text that a script of play is written as; a recorder that is given the text writes the same.
+std::string Written(const std::string& script) {
+    const GameHead names{{2024, 12, 31}, {"A", "B"}};
+    const std::string head =
+        "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"2024-12-31\"]\r\n[Round \"\"]\r\n"
+        "[White \"A\"]\r\n[Black \"B\"]\r\n[Result \"";
+    const Recorder played = Played(script);
+    const std::string file = EncodePgn(names, played);
+    EXPECT_EQ(file.substr(0, head.size()), head);
+    std::string text;
+    EXPECT_FALSE(DecodePgn(file, text));
+    Recorder restored;
+    restored.Restore(played.Position(), played.Lists(), played.SideToMove(), text);
+    EXPECT_EQ(EncodePgn(names, restored), file);
+    for (const auto& [length, damage] : {std::pair<size_t, Damage>{0, Damage::NoHead},
+                                         {head.size() + 5, Damage::NoHead},
+                                         {file.size() - 2, Damage::EndsEarly},
+                                         {file.size() - 1, Damage::EndsEarly}}) {
+        std::string kept = "kept";
+        EXPECT_EQ(DecodePgn(file.substr(0, length), kept),
+                  (GameFileError{PgnFile, damage, static_cast<int32_t>(length)}));
+        EXPECT_EQ(kept, "kept");
+    }
+    const std::string result = file.substr(head.size(), file.find('"', head.size()) - head.size());
+    EXPECT_EQ(file, head + result + "\"]\r\n\r\n" + text + "\r\n");
+    return result + ": " + text;
 }
-
-std::string Written(const Recorder& recorder) { return EncodePgn({{2024, 12, 31}, {"A", "B"}}, recorder); }
 
 }  // namespace
 
 TEST(PgnTest, TextAndResultAreWrittenAndComeBack) {
-    Recorder recorder = Played("e2e4 e7e5 g1f3");
-    EXPECT_EQ(Written(recorder), File("1. e4 e5 2. Nf3 *", "*"));
-    recorder.Declare(Declaration::Check, {});
-    EXPECT_EQ(Written(recorder), File("1. e4 e5 2. Nf3+ *", "*"));
-    recorder.Declare(Declaration::Mate, {});
-    const std::string ended = File("1. e4 e5 2. Nf3# 1-0", "1-0");
-    EXPECT_EQ(Written(recorder), ended);
-    EXPECT_EQ(Written(Recorder()), File("*", "*"));
-
-    std::string text;
-    ASSERT_FALSE(DecodePgn(ended, text));
-    EXPECT_EQ(text, "1. e4 e5 2. Nf3# 1-0");
-    Recorder restored;
-    restored.Restore(recorder.Position(), recorder.Lists(), Black, text);
-    EXPECT_EQ(Written(restored), ended) << "one result, not two";
-}
-
-TEST(PgnTest, DamagedFilesAreRefused) {
-    const std::string whole = File("1. e4 *", "*");
-    std::string text = "kept";
-    for (const auto& [bytes, rule] : {std::pair{std::string(), Damage::NoHead},
-                                      {Lines, Damage::NoHead},
-                                      {whole.substr(0, whole.size() - 1), Damage::EndsEarly},
-                                      {whole.substr(0, whole.size() - 9), Damage::EndsEarly}}) {
-        EXPECT_EQ(DecodePgn(bytes, text), (GameFileError{PgnFile, rule, static_cast<int32_t>(bytes.size())}));
-        EXPECT_EQ(text, "kept");
-    }
+    ExpectRows(Written, R"(
+        => *: * | e2e4 e7e5 g1f3 => *: 1. e4 e5 2. Nf3 * | e2e4 e7e5 check => *: 1. e4 e5+ *
+        e2e4 mate => 1-0: 1. e4# 1-0 | e2e4 e7e5 mate => 0-1: 1. e4 e5# 0-1 | e2e4 draw => 1/2-1/2: 1. e4 1/2-1/2
+    )");
 }

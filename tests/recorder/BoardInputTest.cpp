@@ -1,64 +1,62 @@
 #include "recorder/BoardInput.h"
-#include "recorder/TypedMove.h"
+
+#include "tests/base/Rows.h"
+#include "tests/recorder/RecordText.h"
 
 #include <gtest/gtest.h>
 
-class BoardInputTest : public testing::Test {
-  protected:
+namespace {
+
+// Clicks squares ("e2") and captured pieces ("BP0"), picks the next of them ("next"), moves the cursor ("-1,5"), "esc",
+// "reset"; then what the squares show (o picked, l last move, c cursor), the captured piece picked, what the last word
+// has written, and the trays.
+std::string Shown(const std::string& script) {
     Recorder recorder;
-    BoardInput input{recorder};
-};
-
-TEST_F(BoardInputTest, CursorStaysOnTheBoardAndResetsWithTheRecord) {
-    input.MoveCursor(7, -5);
-    EXPECT_EQ(input.Cursor(), SquareAt(8, 1));
-    EXPECT_FALSE(input.Enter());
-    EXPECT_TRUE(input.PiecePicked());
-    input.Reset();
-    EXPECT_FALSE(input.PiecePicked());
-    EXPECT_EQ(input.Cursor(), SquareAt(5, 2));
-}
-
-TEST_F(BoardInputTest, CapturedPieceIsPutBackOnEmptySquaresOnly) {
-    recorder.Play(SquareAt(5, 2), SquareAt(5, 7));
-    const Piece pawn = PieceOf(Black, PieceKind::Pawn);
-    input.ClickCaptured(pawn, 1);
-    EXPECT_FALSE(input.PiecePicked()) << "not shown";
-    input.ClickCaptured(pawn, 0);
-    EXPECT_TRUE(input.IsPicked(pawn, 0));
-    input.Click(SquareAt(4, 2));  // a piece: that one is picked instead
-    EXPECT_EQ(input.Origin(), SquareAt(4, 2));
-    input.ClickCaptured(pawn, 0);
-    EXPECT_FALSE(input.Click(SquareAt(5, 5)));
-    EXPECT_EQ(recorder.Position().At(SquareAt(5, 5)), pawn);
-    EXPECT_FALSE(recorder.Position().CapturedShown(pawn, 0));
-    EXPECT_EQ(recorder.SideToMove(), Black) << "no move";
-}
-
-TEST_F(BoardInputTest, CapturedPiecesArePickedInTurn) {
-    input.PickNextCaptured();
-    EXPECT_FALSE(input.PiecePicked()) << "none is captured";
-    const Piece queen = PieceOf(White, PieceKind::Queen), pawn = PieceOf(Black, PieceKind::Pawn);
-    recorder.Play(SquareAt(5, 2), SquareAt(5, 7));
-    recorder.Play(SquareAt(4, 2), SquareAt(4, 7));
-    recorder.Play(SquareAt(5, 8), SquareAt(4, 1));
-    for (const TraySlot& slot : {TraySlot{queen, 0}, TraySlot{pawn, 0}, TraySlot{pawn, 1}}) {
-        input.PickNextCaptured();
-        EXPECT_EQ(input.Captured(), slot);
+    BoardInput input(recorder);
+    std::string written;
+    std::istringstream words(script);
+    for (std::string word; words >> word;) {
+        std::optional<ChosenLine> line;
+        if (word == "next")
+            input.PickNextCaptured();
+        else if (word == "esc")
+            input.Cancel();
+        else if (word == "reset")
+            input.Reset();
+        else if (const size_t comma = word.find(','); comma != std::string::npos)
+            input.MoveCursor(std::stoi(word), std::stoi(word.substr(comma + 1)));
+        else if (word.size() == 3)
+            input.ClickCaptured(*PieceOfCode(word.substr(0, 2)), word[2] - '0');
+        else
+            line = input.Click(SquareNamed(word));
+        written = line ? recorder.List(line->List).Line(line->Index, line->List) : "";
     }
-    input.PickNextCaptured();
-    EXPECT_FALSE(input.PiecePicked());
+    std::string text;
+    for (int index = 11; index <= 88; ++index) {
+        const CellLook look = input.LookOf(Square{index});
+        const std::string marks =
+            std::string(look.Origin ? "o" : "") + (look.LastMove ? "l" : "") + (look.Cursor ? "c" : "");
+        if (IsSquare(index) && !marks.empty())
+            text += std::string{FileLetter(Square{index}), RankDigit(Square{index})} + marks + " ";
+    }
+    text += input.PiecePicked() ? "picked " : "";
+    if (const auto captured = input.Captured())
+        text += std::string(PieceCode(captured->Captured)) + std::to_string(captured->Slot) + " ";
+    const std::string trays = TrayText(recorder.Position());
+    return text + (trays.empty() ? "" : "x " + trays + " ") + written;
 }
 
-TEST(TypedMoveTest, KeysAndChanges) {
-    TypedMove typed;
-    for (wchar_t key : std::wstring(L"aHqN19ox=p+#?!-\b"))
-        EXPECT_TRUE(typed.TakesKey(key, L"")) << static_cast<int>(key);
-    for (wchar_t key : std::wstring(L"0kK Pi*\u00E9")) EXPECT_FALSE(typed.TakesKey(key, L"")) << static_cast<int>(key);
-    EXPECT_FALSE(typed.TakesKey(L'a', std::wstring(199, L'a')));
-    EXPECT_TRUE(typed.TakesKey(L'\b', std::wstring(199, L'a')));
+}  // namespace
 
-    EXPECT_EQ(typed.Changed(L"axb8=Q+!"), L"axb8=Q+!");
-    EXPECT_EQ(typed.Changed(L"axb8=Q+!?"), L"axb8=Q+!") << "too long";
-    EXPECT_EQ(typed.Changed(L"Nf3 e5"), L"") << "a blank empties it";
+TEST(BoardInputTest, ClicksAndKeys) {
+    ExpectRows(Shown, R"(
+        => e2c | 7,-5 => h1c | -1,5 -9,9 => a8c | 2,1 0,0 => g3c | e4 => e4c | e2 => e2oc picked | e2 e2 => e2c
+        e2 d2 => d2oc picked | e2 esc => e2c | d2 reset => e2c | e2 e4 => e2l e4lc 1. e4
+        e2 e4 a7 a5 => a5lc a7l a5 | e2 e7 => e2l e7lc x BP0 1. exe7 | e2 e7 BP1 => e2l e7lc x BP0
+        e2 e7 BP0 => e2l e7lc picked BP0 x BP0 | e2 e7 d2 BP0 => d2c e2l e7l picked BP0 x BP0
+        e2 e7 BP0 BP0 => e2l e7lc x BP0 | e2 e7 BP0 d2 => d2oc e2l e7l picked x BP0 | e2 e7 BP0 e5 => e2l e5c e7l
+        e2 e7 BP0 e5 e5 e4 => e4lc e5l e4 | next => e2c | e2 e7 d8 e7 d2 d7 next => d2l d7lc picked WP0 x WP0 BP0 BP1
+        e2 e7 d8 e7 d2 d7 next next next => d2l d7lc picked BP1 x WP0 BP0 BP1
+        e2 e7 d8 e7 d2 d7 next next next next => d2l d7lc x WP0 BP0 BP1
+    )");
 }

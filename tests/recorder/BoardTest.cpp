@@ -1,99 +1,60 @@
 #include "recorder/Board.h"
 
-#include "tests/recorder/Positions.h"
+#include "tests/base/Rows.h"
+#include "tests/recorder/RecordText.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace {
 
-std::string Codes(const Board& board, const std::vector<std::string>& squares) {
-    std::string codes;
-    for (const std::string& square : squares) codes += std::string(PieceCode(board.At(At(square)))) + " ";
-    return codes;
+// The board after the move that the last four characters say.
+std::string AfterMove(const std::string& given) {
+    const size_t move = given.size() - 4;
+    Board board = Position(given.substr(0, move));
+    board.Carry(board.Classify(SquareNamed(given.substr(move, 2)), SquareNamed(given.substr(move + 2))));
+    return BoardText(board);
 }
 
 }  // namespace
 
-TEST(BoardTest, KindsOfMovesAreToldByTheSquaresAlone) {
-    struct Row {
-        const char *Name, *Pieces, *Origin, *Destination;
-        MoveKind Kind;
-    };
-    const Row rows[] = {
-        {"own piece", "WPe4 WPd5", "e4", "d5", MoveKind::Capture},
-        {"en passant White", "WPe5 BPd5", "e5", "d6", MoveKind::EnPassant},
-        {"en passant Black", "BPe4 WPf4", "e4", "f3", MoveKind::EnPassant},
-        {"a pawn of its own beside", "WPe5 WPd5", "e5", "d6", MoveKind::Ordinary},
-        {"wrong rank", "WPe4 BPd4", "e4", "d5", MoveKind::Ordinary},
-        {"no pawn beside", "WPe5 BNd5", "e5", "d6", MoveKind::Ordinary},
-        {"occupied destination", "WPe5 BPd5 BNd6", "e5", "d6", MoveKind::Capture},
-        {"castling White king side", "WKe1 WRh1", "e1", "g1", MoveKind::CastlingKingSide},
-        {"castling White queen side", "WKe1 WRa1", "e1", "c1", MoveKind::CastlingQueenSide},
-        {"castling Black king side", "BKe8 BRh8", "e8", "g8", MoveKind::CastlingKingSide},
-        {"castling Black queen side", "BKe8 BRa8", "e8", "c8", MoveKind::CastlingQueenSide},
-        {"a piece where the rook goes", "WKe1 WRh1 WBf1", "e1", "g1", MoveKind::Ordinary},
-        {"a piece where the rook passes", "WKe1 WRa1 WNb1", "e1", "c1", MoveKind::Ordinary},
-        {"a capture on the way", "WKe1 WRh1 BNg1", "e1", "g1", MoveKind::Capture},
-        {"the other side's rook", "WKe1 BRh1", "e1", "g1", MoveKind::Ordinary},
-        {"king elsewhere", "WKd1 WRh1", "d1", "g1", MoveKind::Ordinary},
-        {"White's king on Black's squares", "WKe8 WRh8", "e8", "g8", MoveKind::Ordinary},
-        {"queen on the king's squares", "WQe1 WRh1", "e1", "g1", MoveKind::Ordinary},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Name);
-        EXPECT_EQ(Position(row.Pieces).Classify(At(row.Origin), At(row.Destination)).Kind, row.Kind);
-    }
-}
-
-TEST(BoardTest, SideEffectsAreCarriedOut) {
-    Board board = Position("WPe5 BPd5 WKe1 WRh1 BKe8 BRa8");
-    board.Carry(board.Classify(At("e5"), At("d6")));
-    board.Carry(board.Classify(At("e1"), At("g1")));
-    board.Carry(board.Classify(At("e8"), At("c8")));
-    EXPECT_EQ(Codes(board, {"e5", "d5", "d6"}), "O O WP ");
-    EXPECT_EQ(Codes(board, {"e1", "f1", "g1", "h1"}), "O WR WK O ");
-    EXPECT_EQ(Codes(board, {"a8", "c8", "d8", "e8"}), "O BK BR O ");
-    EXPECT_TRUE(board.CapturedShown(PieceOf(Black, PieceKind::Pawn), 0));
+TEST(BoardTest, WhatAMoveDoesIsToldByTheSquaresAlone) {
+    ExpectRows(AfterMove, R"(
+        WPe2 e2e4 => WPe4 | WPe4 WPd5 e4d5 => WPd5 WP0 | WPe5 BPd5 e5d6 => WPd6 BP0 | BPe4 WPf4 e4f3 => BPf3 WP0
+        WPe5 WPd5 e5d6 => WPd5 WPd6 | WPe4 BPd4 e4d5 => BPd4 WPd5 | WPe4 BPd4 e4d3 => WPd3 BPd4
+        WPe5 BPd5 e5d7 => BPd5 WPd7 | WPe5 BPc5 e5c6 => BPc5 WPc6 | WPe5 BPd5 e5e6 => BPd5 WPe6
+        WPe5 BNd5 e5d6 => BNd5 WPd6 | WNe5 BPd5 e5d6 => BPd5 WNd6 | WPe5 BPd5 BNd6 e5d6 => BPd5 WPd6 BN0
+        WKe1 WRh1 e1g1 => WRf1 WKg1 | WKe1 WRa1 e1c1 => WKc1 WRd1 | BKe8 BRh8 e8g8 => BRf8 BKg8
+        BKe8 BRa8 e8c8 => BKc8 BRd8 | WKe1 WRh1 WBf1 e1g1 => WBf1 WKg1 WRh1 | WKe1 WRa1 WQd1 e1c1 => WRa1 WKc1 WQd1
+        WKe1 WRa1 WNb1 e1c1 => WRa1 WNb1 WKc1 | WKe1 WRh1 BNg1 e1g1 => WKg1 WRh1 BN0
+        WKe1 BRh1 BRa1 e1g1 => BRa1 WKg1 BRh1 | WKe1 e1c1 => WKc1 | WKd1 WRh1 d1g1 => WKg1 WRh1
+        WKe1 WRh1 WRa1 e1f1 => WRa1 WKf1 WRh1 | WKe8 WRh8 e8g8 => WKg8 WRh8 | WQe1 WRh1 e1g1 => WQg1 WRh1
+    )");
 }
 
 TEST(BoardTest, TraysShowTheFirstHiddenSlotAndNoMoreThanTheyHave) {
-    Board board;
-    const Piece rook = PieceOf(White, PieceKind::Rook), king = PieceOf(Black, PieceKind::King);
-    const auto shown = [&](Piece piece) {
-        std::string slots;
-        for (int slot = 0; slot < 8; ++slot) slots += board.CapturedShown(piece, slot) ? '1' : '0';
-        return slots;
+    Board board = Position("");
+    const auto capture = [&](int times, const char* code) {
+        for (int i = 0; i < times; ++i) board.AddCaptured(*PieceOfCode(code));
+        return TrayText(board);
     };
-    for (int i = 0; i < 3; ++i) board.AddCaptured(rook);
-    EXPECT_EQ(shown(rook), "11000000");
-    board.HideCaptured(rook, 0);
-    EXPECT_EQ(shown(rook), "01000000");
-    board.AddCaptured(rook);
-    EXPECT_EQ(shown(rook), "11000000");
-    for (int i = 0; i < 10; ++i) board.AddCaptured(PieceOf(Black, PieceKind::Pawn));
-    EXPECT_EQ(shown(PieceOf(Black, PieceKind::Pawn)), "11111111");
-    board.AddCaptured(king);
-    EXPECT_EQ(shown(king), "00000000");
+    EXPECT_EQ(capture(3, "WR"), "WR0 WR1");
+    board.HideCaptured(*PieceOfCode("WR"), 0);
+    EXPECT_EQ(TrayText(board), "WR1");
+    EXPECT_EQ(capture(1, "WR"), "WR0 WR1");
+    EXPECT_EQ(capture(2, "BQ"), "WR0 WR1 BQ0");
+    EXPECT_EQ(capture(1, "BK"), "WR0 WR1 BQ0");
+    EXPECT_EQ(capture(9, "WP"), "WR0 WR1 WP0 WP1 WP2 WP3 WP4 WP5 WP6 WP7 BQ0");
     board.Reset();
-    EXPECT_EQ(shown(rook), "00000000");
-}
+    EXPECT_EQ(BoardText(board),
+              "WRa1 WPa2 BPa7 BRa8 WNb1 WPb2 BPb7 BNb8 WBc1 WPc2 BPc7 BBc8 WQd1 WPd2 BPd7 BQd8 "
+              "WKe1 WPe2 BPe7 BKe8 WBf1 WPf2 BPf7 BBf8 WNg1 WPg2 BPg7 BNg8 WRh1 WPh2 BPh7 BRh8 ");
+    EXPECT_EQ(SlotOf(2 * SlotsPerSide - 1), (TraySlot{*PieceOfCode("BP"), 7}));
 
-TEST(BoardTest, WhatAPositionLacksIsShownAsCaptured) {
-    const auto shown = [](const Board& board, Side side) {
-        std::string pieces;
-        for (const PieceKind kind : TrayKinds) {
-            for (int slot = 0; slot < 8; ++slot) {
-                if (board.CapturedShown(PieceOf(side, kind), slot)) pieces += PieceLetter(kind);
-            }
-        }
-        return pieces;
-    };
-    Board board = Position("WKe1 WQd1 WQd8 WQa8 WNb1 WNc1 WNe2 WPa2 WPb2 BKe8");
-    board.AddCaptured(PieceOf(White, PieceKind::Queen));
+    // A promoted pawn is missing, and no kind lacks less than none.
+    board = Position("WKe1 WQd1 WQd8 WQa8 WNb1 WNc1 WNe2 WPa2 WPb2 BKe8");
+    board.AddCaptured(*PieceOfCode("WQ"));
     board.ShowMissingAsCaptured();
-    EXPECT_EQ(shown(board, White), "RRBBPPPPPP") << "promoted pawns are missing, and no kind has less than none";
-    EXPECT_EQ(shown(board, Black), "QRRBBNNPPPPPPPP");
+    EXPECT_EQ(TrayText(board),
+              "WR0 WR1 WB0 WB1 WP0 WP1 WP2 WP3 WP4 WP5 "
+              "BQ0 BR0 BR1 BB0 BB1 BN0 BN1 BP0 BP1 BP2 BP3 BP4 BP5 BP6 BP7");
 }

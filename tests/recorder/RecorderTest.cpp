@@ -1,147 +1,79 @@
 #include "recorder/Recorder.h"
 
-#include "tests/games/GameText.h"
+#include "tests/base/Rows.h"
+#include "tests/recorder/RecordText.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
-class RecorderTest : public testing::Test {
-  protected:
+// The lists, the text with its pending part, the side to move, what waits for its promotion, the trays, and the lines
+// that the last word reports.
+std::string State(const std::string& script) {
     Recorder recorder;
-
-    void Play(const std::string& moves) { EnterAll(recorder, moves); }
-    std::string Lists() const { return ListText(recorder.Lists()); }
-    std::string Text() const { return recorder.RunningText() + "<" + recorder.PendingText() + ">"; }
-    void Declare(Declaration declaration, std::array<int32_t, 2> counts = {}) { recorder.Declare(declaration, counts); }
-};
-
-const std::string Waiting = "\?\?-\?\?";
+    const std::string lines = Do(recorder, script);
+    const std::string trays = TrayText(recorder.Position());
+    return ListText(recorder.Lists()) + "; " + Shortened(recorder.RunningText() + "<" + recorder.PendingText() + ">") +
+           (recorder.SideToMove() == White ? " White" : " Black") + (recorder.AwaitsPromotion() ? " promotes" : "") +
+           (trays.empty() ? "" : " x " + trays) + (lines.empty() ? "" : " at" + lines);
+}
 
 }  // namespace
 
-TEST_F(RecorderTest, MovesGoIntoTheListOfTheSideToMove) {
-    Play("e2e4 e7e5 g1f3");
-    EXPECT_EQ(Text(), "1. e4 e5 <2. Nf3 >");
-    // The pad is no referee: a piece of the other side is written as Black's move.
-    Play("f3e5");
-    EXPECT_EQ(Lists(), "1. e4|2. Nf3 / e5|Nxe5");
-    recorder.Reset();
-    EXPECT_EQ(Lists() + Text(), " / <>");
-}
-
-TEST_F(RecorderTest, PressesAddTheLineOfTheMoveThatBegins) {
-    EXPECT_TRUE(recorder.AddLineForPress(true, White));
-    EXPECT_EQ(Lists(), "1. " + Waiting + " / ");
-    EXPECT_FALSE(recorder.AddLineForPress(false, Black)) << "White has not written its move";
-    Play("e2e4");
-    EXPECT_EQ(Lists(), "1. e4 / ");
-    EXPECT_TRUE(recorder.AddLineForPress(false, Black));
-    EXPECT_FALSE(recorder.AddLineForPress(false, Black)) << "the line is there";
-    EXPECT_EQ(Lists(), "1. e4 / 1. " + Waiting);
-    Play("e7e5");
-    EXPECT_EQ(recorder.AddLineForPress(false, White)->Index, 1u);
-    EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + " / e5");
-    EXPECT_EQ(Text(), "1. e4 <e5 >");
-    Declare(Declaration::Draw);
-    EXPECT_FALSE(recorder.AddLineForPress(false, Black)) << "not behind a result";
-}
-
-TEST_F(RecorderTest, APadThatLagsBehindCatchesUp) {
-    recorder.TopUpMoveLists({3, 2});
-    EXPECT_EQ(Lists(), "1. " + Waiting + "|2. " + Waiting + "|3. " + Waiting + " / 1. " + Waiting + "|2. " + Waiting);
-    EXPECT_EQ(Text(), "<>") << "waiting lines are no part of the text";
-    Play("e2e4 e7e5");
-    EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + "|3. " + Waiting + " / e5|2. " + Waiting);
-}
-
-TEST_F(RecorderTest, TopUpLevelsWhiteWithBlackAndGoesBeforeAResult) {
-    Play("e2e4 e7e5");
-    Declare(Declaration::Resign);
-    EXPECT_EQ(Lists(), "1. e4|[0-1] / e5");
-    const auto added = recorder.TopUpMoveLists({2, 3});
-    EXPECT_EQ(Lists(), "1. e4|2. " + Waiting + "|3. " + Waiting + "|[0-1] / e5|2. " + Waiting + "|3. " + Waiting);
-    EXPECT_EQ(added[White], 2u);
-    EXPECT_EQ(added[Black], 2u);
-}
-
-TEST_F(RecorderTest, DeclarationsMarkTheLastMoveAndEndTheGame) {
-    Declare(Declaration::Check);
-    Declare(Declaration::Mate);
-    EXPECT_EQ(Lists(), " / ") << "nothing to mark";
-    Play("e2e4");
-    Declare(Declaration::Check);
-    Declare(Declaration::Check);
-    EXPECT_EQ(Lists(), "1. e4+ / ");
-    EXPECT_EQ(Text(), "<1. e4+ >");
-    Declare(Declaration::Mate);
-    Declare(Declaration::Mate);
-    EXPECT_EQ(Lists(), "1. e4#|[1-0] / ");
-    EXPECT_EQ(Text(), "1. e4# 1-0<>");
-    Declare(Declaration::Draw);
-    EXPECT_EQ(Lists(), "1. e4#|[1-0] / ") << "one result";
-    Play("e7e5");
-    EXPECT_EQ(Lists(), "1. e4# / e5") << "play goes on";
-    EXPECT_EQ(Text(), "1. e4# <e5 >");
-    Declare(Declaration::Resign, {1, 1});
-    EXPECT_EQ(Lists(), "1. e4#|[0-1] / e5") << "the side to move loses";
-    recorder.Reset();
-    recorder.FlagFell(White);
-    EXPECT_EQ(Lists(), "[0-1] / ");
-}
-
-TEST_F(RecorderTest, PromotionCanBeChosenAgainUntilTheNextMove) {
-    Play("a2a4 b7b5 a4b5 h7h6 b5b6 h6h5 b6b7 h5h4 b7a8");
-    ASSERT_TRUE(recorder.AwaitsPromotion());
-    EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WP");
-    Declare(Declaration::Check);
-    recorder.Promote(PieceKind::Queen);
-    recorder.Promote(PieceKind::Knight);
-    EXPECT_EQ(recorder.List(White).Entries().back().Text, "bxa8=N+");
-    EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(1, 8))), "WN");
-    EXPECT_EQ(recorder.PendingText(), "5. bxa8=N+ ");
-    Declare(Declaration::Mate);
-    recorder.Promote(PieceKind::Rook);
-    EXPECT_TRUE(recorder.RunningText().ends_with("5. bxa8=R# 1-0"));
-    Play("h4h3");
-    EXPECT_FALSE(recorder.AwaitsPromotion());
-}
-
-TEST_F(RecorderTest, TextStaysThatOfTheListsBehindADeletion) {
-    Play("e2e4 e7e5 g1f3");
-    recorder.DeleteLast(White);
-    Play("d7d6 b1c3");
-    EXPECT_EQ(Lists(), "1. e4|2. Nc3 / e5|d6");
-    EXPECT_EQ(Text(), "1. e4 e5 2. Nc3 <d6 >");
-
-    recorder.Reset();
-    Play("e2e7 h7h6 e7f8");
-    recorder.DeleteLast(White);
-    ASSERT_TRUE(recorder.AwaitsPromotion());
-    recorder.Promote(PieceKind::Queen);
-    EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(6, 8))), "WQ") << "the board takes the choice all the same";
-    EXPECT_EQ(Lists(), "1. exe7 / h6");
-}
-
-TEST_F(RecorderTest, EditsAndDeletionsReachTheText) {
-    Play("e2e4 e7e5 g1f3");
-    recorder.Edit(Black, 0, "0-0");
-    EXPECT_EQ(Lists(), "1. e4|2. Nf3 / O-O");
-    EXPECT_EQ(Text(), "1. e4 O-O <2. Nf3 >");
-    recorder.Edit(Black, 0, "");
-    EXPECT_EQ(Text(), "1. e4 " + Waiting + " <2. Nf3 >");
-    recorder.Edit(White, 0, "1-0");
-    EXPECT_EQ(Lists(), "1. 1-0|2. Nf3 / 1. " + Waiting) << "not the last entry: a text like any other";
-    recorder.Edit(White, 1, "1/2-1/2");
-    EXPECT_TRUE(recorder.HasResult());
-    EXPECT_EQ(recorder.SideToMove(), Black) << "a result is nobody's move";
-    recorder.Edit(White, 1, "nc3");
-    EXPECT_EQ(Lists(), "1. 1-0|2. Nc3 / 1. " + Waiting);
-    recorder.Edit(Black, 0, "c5");
-    EXPECT_EQ(recorder.SideToMove(), White) << "a waiting line of the side to move was its move";
-    recorder.DeleteLast(White);
-    EXPECT_EQ(Text(), "1. 1-0 <c5 >");
-    EXPECT_EQ(PieceCode(recorder.Position().At(SquareAt(6, 3))), "WN") << "the board keeps no history";
-    recorder.DeleteLast(White);
-    EXPECT_EQ(Text(), "<1... c5 >");
-    recorder.DeleteLast(White);
-    EXPECT_EQ(Lists(), " / c5");
+TEST(RecorderTest, Scripts) {
+    ExpectRows(State, R"(
+        =>  / ; <> White
+        Moves go into the list of the side to move, whatever the piece's colour.
+        e2e4 => 1. e4 / ; <1. e4 > Black at W0 | e2e4 e7e5 g1f3 => 1. e4|2. Nf3 / e5; 1. e4 e5 <2. Nf3 > Black at W1
+        e2e4 e7e5 g1f3 f3e5 => 1. e4|2. Nf3 / e5|Nxe5; 1. e4 e5 2. Nf3 <Nxe5 > White x BP0 at B1
+        e2e4 mate b7b5 reset =>  / ; <> White
+        A press gives the side that then runs its line.
+        first => 1. _ / ; <> White at W0 | first first => 1. _ / ; <> White | first pressB => 1. _ / ; <> White
+        first e2e4 pressB => 1. e4 / 1. _; <1. e4 > Black at B0
+        first e2e4 pressB pressB => 1. e4 / 1. _; <1. e4 > Black
+        e2e4 e7e5 pressW => 1. e4|2. _ / e5; 1. e4 <e5 > White at W1
+        e2e4 e7e5 draw pressB => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White | flagW first => [0-1] / ; 0-1<> White
+        Missing lines: up to the counts, White's up to Black's, before a result.
+        top3,2 => 1. _|2. _|3. _ / 1. _|2. _; <> White at W2 B1
+        top3,2 e2e4 e7e5 => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0
+        e2e4 e7e5 top1,1 => 1. e4 / e5; 1. e4 <e5 > White
+        e2e4 e7e5 resign top2,3 => 1. e4|2. _|3. _|[0-1] / e5|2. _|3. _; 1. e4 e5 0-1<> White at W2 B2
+        top0,1 top0,-1 => 1. _ / 1. _; <> White
+        Declarations mark the last move and end the game, once.
+        check mate =>  / ; <> White | e2e4 check check => 1. e4+ / ; <1. e4+ > Black
+        e2e4 check mate mate => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
+        e2e4 mate check draw => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
+        e2e4 e7e5 mate => 1. e4 / e5#|[0-1]; 1. e4 e5# 0-1<> White
+        e2e4 mate e7e5 => 1. e4# / e5; 1. e4# <e5 > White at B0 | e2e4 draw e7e5 => 1. e4 / e5; 1. e4 <e5 > White at B0
+        e2e4 resign2,1 => 1. e4|2. _ / 1. _|[1-0]; 1. e4 1-0<> Black at W1 B0
+        e2e4 e7e5 draw2,1 => 1. e4|2. _|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White at W1 | flagW => [0-1] / ; 0-1<> White
+        e2e4 flagB => 1. e4 / [1-0]; 1. e4 1-0<> Black
+        A promotion can be chosen again until the next move.
+        e2e7 h7h6 e7f8 => 1. exe7|2. exf8 / h6; 1. exe7 h6 <2. exf8 > Black promotes x BB0 BP0 at W1
+        e2e7 h7h6 e7f8 check =Q =N => 1. exe7|2. exf8=N+ / h6; 1. exe7 h6 <2. exf8=N+ > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8q mate =R => 1. exe7|2. exf8=R#|[1-0] / h6; 1. exe7 h6 2. exf8=R# 1-0<> Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 W1=f8= =R => 1. exe7|2. f8=R / h6; 1. exe7 h6 <2. f8=R > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 W1= =R => 1. exe7|2. _ / h6; 1. exe7 <h6 > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 deleteW =R => 1. exe7 / h6; 1. exe7 <h6 > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8 deleteB =R => 1. exe7|2. exf8=R / ; 1. exe7 <2. exf8=R > Black promotes x BB0 BP0
+        e2e7 h7h6 e7f8q h6h5 =R => 1. exe7|2. exf8=Q / h6|h5; 1. exe7 h6 2. exf8=Q <h5 > White x BB0 BP0
+        e2e4 =Q => 1. e4 / ; <1. e4 > Black
+        Edits and deletions reach the text, and the board keeps no history.
+        e2e4 e7e5 g1f3 B0=0-0 => 1. e4|2. Nf3 / O-O; 1. e4 O-O <2. Nf3 > Black
+        e2e4 e7e5 g1f3 B0= => 1. e4|2. Nf3 / 1. _; 1. e4 _ <2. Nf3 > Black
+        e2e4 e7e5 W1=Nf3 => 1. e4 / e5; 1. e4 <e5 > White
+        e2e4 e7e5 g1f3 W0=1-0 => 1. 1-0|2. Nf3 / e5; 1. 1-0 e5 <2. Nf3 > Black
+        e2e4 e7e5 g1f3 W1=1/2-1/2 => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> Black
+        e2e4 e7e5 draw W1=1-0 => 1. e4|[1-0] / e5; 1. e4 e5 1-0<> White
+        e2e4 e7e5 draw B0=1-0 => 1. e4|[1/2-1/2] / 1-0; 1. e4 1-0 1/2-1/2<> White
+        e2e4 e7e5 draw W1=nc3 => 1. e4|2. Nc3 / e5; 1. e4 e5 <2. Nc3 > White | top1,0 W0=e4 => 1. e4 / ; <1. e4 > Black
+        top1,0 W0=1-0 => [1-0] / ; 1-0<> White | top1,0 W0= => 1. _ / ; <> White
+        e2e4 top1,1 B0=c5 => 1. e4 / c5; 1. e4 <c5 > White | top1,1 B0=c5 => 1. _ / c5; 1. _ <c5 > White
+        e2e4 e7e5 g1f3 deleteW => 1. e4 / e5; 1. e4 <e5 > Black
+        e2e4 e7e5 g1f3 deleteW d7d6 b1c3 => 1. e4|2. Nc3 / e5|d6; 1. e4 e5 2. Nc3 <d6 > Black at W1
+        e2e4 e7e5 deleteW =>  / e5; <1... e5 > White | e2e4 e7e5 deleteW deleteW deleteB deleteB =>  / ; <> White
+        e2d7 c8d7 BP0@e2 => 1. exd7 / Bxd7; 1. exd7 <Bxd7 > White x WP0
+        e2e4 d7d5 e4d5 BP0@h5 => 1. e4|2. exd5 / d5; 1. e4 d5 <2. exd5 > Black
+    )");
+    EXPECT_EQ(PieceCode(Played("e2d7 e8d7 BP0@h5").Position().At(SquareNamed("h5"))), "BP");
 }

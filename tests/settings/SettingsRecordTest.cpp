@@ -1,125 +1,78 @@
 #include "settings/SettingsRecord.h"
 
 #include "base/RunTimeError.h"
+#include "tests/base/DamageText.h"
+#include "tests/base/Rows.h"
+#include "tests/settings/SettingsText.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-#include <map>
+#include <set>
 
 namespace {
 
 Settings Unusual() {
     Settings settings;
-    settings.PlayerNames = {"Ana\xF1", ""};
-    settings.Control.PeriodLimit = {60, 10800};
-    settings.Control.SecondPeriodTime = {0, 600};
-    settings.Control.MoveBonus = {3599, 7};
-    settings.Control.CountTimeDown = false;
-    settings.TurnClock = true;
-    settings.ShowMoveNumber = false;
-    settings.SetClockType(2);
-    settings.OpenScorletAtStart = false;
-    settings.Control.MovesFirstPeriod = 1;
+    settings.PlayerNames = {"Ann", "B"};
+    settings.Control = {{60, 10800}, {0, 600}, {3599, 7}, false, true, 1};
+    settings.TurnClock = settings.WritePgn = true;
+    settings.ShowMoveNumber = settings.OpenScorletAtStart = false;
+    settings.ClockType = 2;
     settings.SetButtonSound(4);
     settings.SetFlagSound(5);
-    settings.WritePgn = true;
     settings.LanguageIndex = French;
     return settings;
 }
 
-constexpr int32_t Most = std::numeric_limits<int32_t>::max();
+// The first of the DEFAULT settings that differs from the unusual ones after their record has been read with some
+// changes, and the damage before it.
+std::string Read(const std::string& changes) {
+    SlotRecord record = Changed(EncodeSettings(Unusual()), changes.starts_with("cut") ? "" : changes, 6);
+    std::optional<RecordError> cut;
+    if (changes.starts_with("cut")) cut = {Damage::ShortFile, std::stoi(changes.substr(4))};
+    Settings read;
+    const auto error = DecodeSettings({record, cut}, read);
+    read.LanguageIndex = DecodeLanguage(record);
+    std::istringstream usual(SettingsText(Unusual())), words(SettingsText(read));
+    const std::set<std::string> known{std::istream_iterator<std::string>(usual), {}};
+    std::string text = error ? DamageText(error->What, error->Slot) + " " : "", word;
+    while (words >> word) {
+        if (!known.contains(word)) return text + word;
+    }
+    return text;
+}
 
 }  // namespace
 
-TEST(SettingsRecordTest, RoundTripKeepsEverything) {
-    const SlotRecord record = EncodeSettings(Unusual());
-    Settings read;
-    EXPECT_FALSE(DecodeSettings({record, {}}, read));
-    read.LanguageIndex = DecodeLanguage(record);
-    EXPECT_EQ(EncodeSettings(read), record);
-    EXPECT_EQ(read.Control.PeriodLimit, (std::array{60, 10800}));
-    EXPECT_TRUE(read.Control.SecondPeriodEnabled && read.TurnClock && read.WritePgn);
-    EXPECT_FALSE(read.Control.CountTimeDown || read.ShowMoveNumber || read.OpenScorletAtStart);
-}
-
-TEST(SettingsRecordTest, FieldsFollowTheNames) {
-    const SlotRecord record = EncodeSettings(Unusual());
-    const std::map<size_t, int32_t> wanted{{0, 4}, {4, 0xF1}, {5, 0}, {6, 1}, {7, 180}, {13, 1}, {19, 5}, {300, 3}};
-    for (const auto& [slot, value] : wanted) EXPECT_EQ(record[slot], SlotValue(value)) << slot;
-    EXPECT_EQ(record[20], SlotValue());
-    EXPECT_EQ(record[301], SlotValue(int32_t{1}));
-
-    const SlotRecord plain = EncodeSettings(Settings());
-    EXPECT_EQ(plain[2], SlotValue(int32_t{20})) << "an empty White name moves everything down";
-    EXPECT_EQ(plain[301], SlotValue());
-}
-
-TEST(SettingsRecordTest, AnyNumericTagServesAsANumber) {
-    SlotRecord record = EncodeSettings(Settings());
-    record[2] = 30.0;
-    record[8] = true;          // a check box
-    record[11] = SlotValue();  // clock type 0
-    Settings read;
-    EXPECT_FALSE(DecodeSettings({record, {}}, read));
-    EXPECT_EQ(read.Control.PeriodLimit[White], 1800);
-    EXPECT_TRUE(read.Control.CountTimeDown);
-    EXPECT_EQ(read.ClockType, 0);
-    EXPECT_FALSE(read.Control.SecondPeriodEnabled);
-    record[300] = SlotValue();
-    EXPECT_EQ(DecodeLanguage(record), English);
-    record[300] = 3.0;
-    EXPECT_EQ(DecodeLanguage(record), French);
-}
-
-TEST(SettingsRecordTest, BadSlotsAreNamedAndStopTheReading) {
-    struct Row {
-        const char* Name;
-        int32_t Slot;
-        SlotValue Value;
-        Damage What;
-    };
-    const Row rows[] = {
-        {"negative name length", 0, int32_t{-1}, Damage::OutOfRange},
-        {"name into the language's slot", 0, int32_t{285}, Damage::OutOfRange},
-        {"first period of no minute", 2, int32_t{0}, Damage::OutOfRange},
-        {"first period too long for seconds", 3, int32_t{Most / 60 + 1}, Damage::Overflow},
-        {"negative second period", 4, int32_t{-1}, Damage::OutOfRange},
-        {"negative bonus", 7, int32_t{-1}, Damage::OutOfRange},
-        {"bonus that is no 32-bit number", 7, 1e10, Damage::Overflow},
-        {"bonus that is no number", 7, std::nan(""), Damage::Overflow},
-        {"move amount below 1", 13, int32_t{-1}, Damage::OutOfRange},
-        {"move amount that cannot grow", 13, Most, Damage::OutOfRange},
-        {"button sound", 14, int32_t{5}, Damage::OutOfRange},
-        {"flag sound", 15, int32_t{6}, Damage::OutOfRange},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Name);
-        SlotRecord record = EncodeSettings(Settings());
-        record[static_cast<size_t>(row.Slot)] = row.Value;
-        Settings read;
-        const auto error = DecodeSettings({record, {}}, read);
-        ASSERT_TRUE(error);
-        EXPECT_EQ(error->Slot, row.Slot);
-        EXPECT_EQ(error->What, row.What);
-    }
-
-    const RecordError cut{Damage::ShortFile, 18};
-    Settings readOfCut;
-    const auto error = DecodeSettings({EncodeSettings(Unusual()), cut}, readOfCut);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->Slot, 18);
-    EXPECT_EQ(readOfCut.Control.MoveBonus, Unusual().Control.MoveBonus) << "what was read before it stays";
-    EXPECT_EQ(readOfCut.ButtonSoundIndex, 1) << "what comes behind it is as it was";
+TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
+    ExpectRows(Read, R"(
+        => | bonus0=30.5 => 30,7 | bonus0=31.5 => 32,7 | second0=0.5 => 30,600 | down=1 => down | number=-1 => number
+        type=- => 0:1 | type=7 => 7:1 | open=1 => open | button=0 => NOSOUND | moves=2147483645 => 2:2147483646
+        first0=35791394 => 2147483640,10800 | 300=- => 2 | 300=1.0 => 1 | 300=99999999999. => 2
+        0=-1 => OutOfRange 0 / | 0=285 => OutOfRange 0 / | 1=256 => OutOfRange 1 / | 1=-1 => OutOfRange 1 /
+        4=282 => OutOfRange 4 Ann/ | first0=0 => OutOfRange 6 1200,1200 | first1=35791395 => Overflow 7 60,1200
+        second0=-1 => OutOfRange 8 1200,1200 | bonus1=-1 => OutOfRange 11 3599,0
+        bonus1=99999999999. => Overflow 11 3599,0 | bonus1=-99999999999. => Overflow 11 3599,0
+        bonus1=nan => Overflow 11 3599,0 | moves=-1 => OutOfRange 17 2:40 | moves=2147483646 => OutOfRange 17 2:40
+        button=5 => OutOfRange 18 BUTTONPUSHED | button=-1 => OutOfRange 18 BUTTONPUSHED
+        flag=6 => OutOfRange 19 PIECEMOVED | 301=99999999999. => Overflow 301 | cut 18 => ShortFile 18 BUTTONPUSHED
+        cut 900 => ShortFile 900
+    )");
+    EXPECT_EQ(EncodeSettings(Unusual()),
+              Changed({},
+                      "0=3 1=65 2=110 3=110 4=1 5=66 6=1 7=180 8=0 9=10 10=3599 11=7 12=0 13=1 14=0 15=2 16=0 "
+                      "17=0 18=4 19=5 300=3 301=1",
+                      0));
+    EXPECT_EQ(EncodeSettings(Settings())[301], SlotValue());
 }
 
 TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
-    Settings settings;
-    settings.PlayerNames = {std::string(200, 'a'), std::string(84, 'b')};
-    Settings read;
+    Settings settings, read;
+    settings.PlayerNames = {std::string(200, 'a'), std::string(84, '\xFF')};
     EXPECT_FALSE(DecodeSettings({EncodeSettings(settings), {}}, read));
-    EXPECT_EQ(read.PlayerNames, settings.PlayerNames);
+    EXPECT_EQ(SettingsText(read), SettingsText(settings));
     settings.PlayerNames[Black] += 'b';
     EXPECT_THROW(EncodeSettings(settings), RunTimeError);
+    EXPECT_THROW(settings.SetButtonSound(5), RunTimeError);
+    EXPECT_THROW(settings.SetFlagSound(-1), RunTimeError);
 }

@@ -1,49 +1,32 @@
 #include "settings/SlotRecord.h"
 
+#include "tests/settings/SettingsText.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-namespace {
-
-std::span<const uint8_t> Bytes(const std::string& text) {
-    return {reinterpret_cast<const uint8_t*>(text.data()), text.size()};
-}
-
-SlotRecord Mixed() {
-    SlotRecord record;
-    record[0] = int32_t{-2};
-    record[1] = 20.5;
-    record[2] = true;
-    record[998] = false;
-    record[999] = int32_t{0x12345678};
-    return record;
-}
-
-}  // namespace
-
 TEST(SlotRecordTest, BytesAreLittleEndianTagsAndValues) {
-    const std::string bytes = EncodeRecord(Mixed());
-    EXPECT_EQ(bytes.size(), 2000u + 4 + 8 + 2 + 2 + 4);
-    const std::string start("\x03\0\xFE\xFF\xFF\xFF\x05\0\0\0\0\0\0\x80\x34\x40\x0B\0\xFF\xFF\0\0", 22);
-    EXPECT_EQ(bytes.substr(0, start.size()), start);
-    EXPECT_EQ(bytes.substr(bytes.size() - 10), std::string("\x0B\0\0\0\x03\0\x78\x56\x34\x12", 10));
+    SlotRecord mixed;
+    mixed[0] = -2;
+    mixed[1] = 20.5;
+    mixed[2] = true;
+    mixed[998] = false;
+    mixed[999] = 0x12345678;
+    const std::string bytes = EncodeRecord(mixed);
+    EXPECT_EQ(bytes, std::string("\x03\0\xFE\xFF\xFF\xFF\x05\0\0\0\0\0\0\x80\x34\x40\x0B\0\xFF\xFF", 20) +
+                         std::string(2 * 995, '\0') + std::string("\x0B\0\0\0\x03\0\x78\x56\x34\x12", 10));
+    const std::string longer = bytes + "an older, longer record's tail";
+    EXPECT_FALSE(DecodeRecord(Bytes(longer)).Error);
+    EXPECT_EQ(DecodeRecord(Bytes(longer)).Slots, mixed);
 
-    const std::string withTail = bytes + "an older, longer record's tail";
-    const DecodedRecord read = DecodeRecord(Bytes(withTail));
-    EXPECT_FALSE(read.Error);
-    EXPECT_EQ(read.Slots, Mixed());
-}
-
-TEST(SlotRecordTest, CutAtEveryLengthIsAnErrorAndKeepsTheSlotsBefore) {
-    const std::string bytes = EncodeRecord(Mixed());
+    // Cut at any length it is an error, and the slots before the cut are kept.
     for (size_t length = 0; length < bytes.size(); ++length) {
         const DecodedRecord read = DecodeRecord(Bytes(bytes).first(length));
-        ASSERT_TRUE(read.Error) << length;
-        ASSERT_EQ(read.Error->What, Damage::ShortFile) << length;
-        const auto good = static_cast<size_t>(read.Error->Slot);
-        SlotRecord wanted = Mixed();
-        std::fill(wanted.begin() + static_cast<std::ptrdiff_t>(good), wanted.end(), SlotValue());
+        ASSERT_TRUE(read.Error && read.Error->What == Damage::ShortFile) << length;
+        SlotRecord wanted = mixed;
+        std::fill(wanted.begin() + read.Error->Slot, wanted.end(), SlotValue());
         ASSERT_EQ(read.Slots, wanted) << length;
+        ASSERT_LE(EncodeRecord(wanted).size() - 2 * static_cast<size_t>(SlotCount - read.Error->Slot), length);
     }
 }

@@ -1,9 +1,8 @@
 #include "texts/TextIds.h"
 
-#include <gtest/gtest.h>
+#include "tests/base/Rows.h"
 
 #include <map>
-#include <string>
 #include <vector>
 
 namespace {
@@ -55,13 +54,23 @@ TEST(TextIdsTest, IdentifiersAreTakenOnce) {
     }
 }
 
-TEST(TextIdsTest, OrdinalsOfEachLanguage) {
-    const std::map<int32_t, TextId> english{
-        {1, TextId::OrdinalSt},  {2, TextId::OrdinalNd},   {3, TextId::OrdinalRd},
-        {4, TextId::OrdinalTh},  {11, TextId::OrdinalTh},  {12, TextId::OrdinalTh},
-        {21, TextId::OrdinalSt}, {101, TextId::OrdinalSt}, {113, TextId::OrdinalTh}};
-    for (const auto& [number, row] : english) {
-        EXPECT_EQ(OrdinalRow(number, English), row) << number;
-        EXPECT_EQ(OrdinalRow(number, French), number == 1 ? TextId::OrdinalSt : TextId::OrdinalTh) << number;
-    }
+TEST(TextIdsTest, OrdinalsAndCountsOfEachLanguage) {
+    // The English and the French ordinal, and whether both count it as one.
+    const auto rows = [](const std::string& text) {
+        const int32_t number = std::stoi(text);
+        const std::map<TextId, std::string> ordinals{
+            {TextId::OrdinalSt, "st"}, {TextId::OrdinalNd, "nd"}, {TextId::OrdinalRd, "rd"}, {TextId::OrdinalTh, "th"}};
+        const std::map<TextId, std::string> counts{{TextId::SpokenSecond, " one"},
+                                                   {RowBehind(TextId::SpokenSecond, 1), " many"}};
+        std::string said;
+        for (const int32_t language : {English, French})
+            said += ordinals.at(OrdinalRow(number, language)) +
+                    counts.at(CountRow(TextId::SpokenSecond, number, language)) + " ";
+        return said;
+    };
+    ExpectRows(rows, R"(
+        0 => th many th one | 1 => st one st one | 2 => nd many th many | 3 => rd many th many | 4 => th many th many
+        11 => th many th many | 12 => th many th many | 21 => st many th many | 101 => st many th many
+        112 => th many th many | 113 => th many th many | 123 => rd many th many | 200 => th many th many
+    )");
 }
