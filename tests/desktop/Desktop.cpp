@@ -318,7 +318,7 @@ void ProgramRun::ExpectLists(const std::string& wanted) const {
 
 void ProgramRun::Play(std::string_view move) const {
     const HWND scorlet = FindWindowNow(L"frmScorlet");
-    for (const size_t at : {0, 2}) Click(GetDlgItem(scorlet, picBoard + SquareNamed(move.substr(at, 2))));
+    for (const size_t at : {0, 2}) Click(GetDlgItem(scorlet, picBoard + static_cast<int>(SquareNamed(move.substr(at, 2)))));
 }
 
 void ProgramRun::Click(HWND window, bool rightButton) const {

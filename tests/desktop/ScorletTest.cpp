@@ -27,7 +27,7 @@ class ScorletTest : public testing::Test {
     }
 
     HWND Part(int id) const { return GetDlgItem(scorlet, id); }
-    HWND Cell(std::string_view square) const { return Part(picBoard + SquareNamed(square)); }
+    HWND Cell(std::string_view square) const { return Part(picBoard + static_cast<int>(SquareNamed(square))); }
     std::wstring Code(std::string_view square) const { return TextOf(Cell(square)); }
     bool Shown(int id) const { return IsWindowVisible(Part(id)); }
 
