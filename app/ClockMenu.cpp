@@ -25,6 +25,8 @@ constexpr std::array GameEntries{
     Entry{mnuSave, TextId::MenuSave},
     Entry{mnuDelete, TextId::MenuDelete},
     Separator,
+    Entry{mnuBringBack, TextId::MenuBringBack, NoKey, false},
+    Separator,
     Entry{mnuExit, TextId::MenuExit},
 };
 

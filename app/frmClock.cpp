@@ -33,7 +33,8 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       help(around),
       panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
       scorlet(around, *this, game),
-      printer(around, game) {
+      printer(around, game),
+      kept(around, *this, game) {
     timer.Calls([this] { Tick(); });
 }
 
@@ -62,6 +63,7 @@ void frmClock::Open() {
     // As a command of its own: what stops it does not stop the clock.
     if (settings.OpenScorletAtStart) PostMessageW(Window(), WM_COMMAND, mnuShowScorlet, 0);
     PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
+    PostMessageW(Window(), WM_OFFERGAME, 0, 0);
 }
 
 void frmClock::LoadPictures() {
@@ -113,17 +115,25 @@ void frmClock::ShowFiles(FilesMode mode) {
     frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
     files.Open(Window());
     files.RunModal();
-    if (files.Loaded()) TakeLoadedGame(*files.Loaded());
+    if (!files.Loaded()) return;
+    const std::wstring name = L"- [" + files.Loaded()->Name + texts(TextId::LoadedGame) + L"]";
+    TakeGame(files.Loaded()->Saved, texts(TextId::ProductTitle) + name);
 }
 
-void frmClock::TakeLoadedGame(const frmFiles::Chosen& chosen) {
+void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title) {
     // First what can fail. No message may come between: the running game goes on behind one.
     const std::wstring problem = scorlet.Open();
-    game.TakeLoadedGame(chosen.Saved);
+    game.TakeLoadedGame(saved);
     panels.ShowSettings();
-    const std::wstring name = L"- [" + chosen.Name + texts(TextId::LoadedGame) + L"]";
-    SetWindowTextW(Window(), (texts(TextId::ProductTitle) + name).c_str());
+    SetWindowTextW(Window(), title.c_str());
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+}
+
+void frmClock::BringBack(const SavedGame& saved) {
+    if (saved.ScorletLoaded) return TakeGame(saved, captions(TextId::ProductTitle));
+    game.TakeLoadedGame(saved);
+    panels.ShowSettings();
+    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
 }
 
 void frmClock::PlaceWindow() {
@@ -220,6 +230,11 @@ void frmClock::ReadSettings() {
     panels.ShowSettings();
 }
 
+// When all is drawn: the press comes first.
+void frmClock::GameChanged() {
+    if (!std::exchange(toKeep, true)) PostMessageW(Window(), WM_KEEPGAME, 0, 0);
+}
+
 LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam)); return 0;
@@ -248,6 +263,24 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
         case WM_TELLPROBLEMS: TellProblems(); return 0;
+        case WM_OFFERGAME: kept.Offer([this](const SavedGame& saved) { BringBack(saved); }); return 0;
+        case WM_KEEPGAME:
+            toKeep = false;
+            kept.Keep();
+            return 0;
+        case WM_KEEPFAILED:
+            messageBoxes.Inform(Window(), texts.Compose(TextId::GameNotKept, around.System.DataFolder,
+                                                        texts.Reason(static_cast<DWORD>(wParam))));
+            return 0;
+        case WM_QUERYENDSESSION: return TRUE;
+        case WM_ENDSESSION:
+            if (wParam) kept.Finish();
+            return 0;
+        case WM_POWERBROADCAST: OnPower(wParam); return TRUE;
+        case WM_TELLSLEEP: messageBoxes.Inform(Window(), texts(TextId::PausedForSleep)); return 0;
+        case WM_INITMENUPOPUP:
+            EnableMenuItem(GetMenu(Window()), mnuBringBack, MF_BYCOMMAND | (kept.HasLast() ? MF_ENABLED : MF_GRAYED));
+            return 0;
         case WM_SCORLETGONE:
             scorlet.Forget();
             UpdateMenu();
@@ -267,6 +300,7 @@ void frmClock::OnCommand(int id) {
         case mnuLoad: return ShowFiles(FilesMode::Load);
         case mnuSave: return ShowFiles(FilesMode::Save);
         case mnuDelete: return ShowFiles(FilesMode::Delete);
+        case mnuBringBack: return kept.BringBackLast([this](const SavedGame& saved) { BringBack(saved); });
         case mnuExit: DestroyWindow(Window()); return;
         case mnuReset: return game.AskedResetIfStarted();
         case mnuPause: return game.PauseOrResume();
@@ -391,7 +425,17 @@ void frmClock::FocusRightfulButton() {
     SetFocus(Window());
 }
 
+void frmClock::OnPower(WPARAM event) {
+    if (event == PBT_APMSUSPEND) {
+        slept = game.PauseIfRunning() || slept;
+    } else if (event == PBT_APMRESUMEAUTOMATIC || event == PBT_APMRESUMESUSPEND) {
+        // Posted: the system waits for the answer.
+        if (std::exchange(slept, false)) PostMessageW(Window(), WM_TELLSLEEP, 0, 0);
+    }
+}
+
 void frmClock::Unload() {
+    kept.Finish();
     help.Close(GetWindow(Window(), GW_HWNDFIRST));
     game.Unload();
     SetThreadExecutionState(ES_CONTINUOUS);

@@ -4,6 +4,7 @@
 #include "app/ClockScorlet.h"
 #include "app/EditorPrinter.h"
 #include "app/HelpWindow.h"
+#include "app/KeptGames.h"
 #include "clock/TickTimer.h"
 #include "games/Game.h"
 #include "games/frmFiles.h"
@@ -37,12 +38,15 @@ class frmClock : public Form, private ClockView {
     void Inform(ClockEvent event) override;
     bool AskReset() override;
     void ReadSettings() override;
+    void GameChanged() override;
+    void LosingGame() override { kept.PutAside(); }
 
     void LoadPictures();
     void ShowSetup();
     void ShowAbout();
     void ShowFiles(FilesMode mode);
-    void TakeLoadedGame(const frmFiles::Chosen& chosen);
+    void TakeGame(const SavedGame& saved, const std::wstring& title);
+    void BringBack(const SavedGame& saved);
     void UpdateMenu();
     void PlaceWindow();
     void ShowPhase();
@@ -57,6 +61,7 @@ class frmClock : public Form, private ClockView {
     bool OnSetCursor();
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnTimer(UINT_PTR id);
+    void OnPower(WPARAM event);
     void FocusRightfulButton();
     void Unload();
 
@@ -73,6 +78,9 @@ class frmClock : public Form, private ClockView {
     ClockPanels panels;
     ClockScorlet scorlet;
     EditorPrinter printer;
+    KeptGames kept;
+    bool toKeep = false;  // WM_KEEPGAME is on its way
+    bool slept = false;   // a clock that ran was paused for it
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told

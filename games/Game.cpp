@@ -1,5 +1,11 @@
 #include "games/Game.h"
 
+namespace {
+
+constexpr int TicksToKeep = 5;  // while nothing but the time changes
+
+}  // namespace
+
 void Game::Begin(ClockView& view) {
     clockView = &view;
     Reset();
@@ -42,6 +48,7 @@ void Game::Tick() {
     const ClockEvent event = clock.Tick();
     change.Phase = event != ClockEvent::Ticked;
     Show(event, change);
+    if (event == ClockEvent::Ticked && ++ticksSinceChange == TicksToKeep) Changed();
 }
 
 void Game::AskedReset() {
@@ -54,7 +61,16 @@ void Game::AskedResetIfStarted() {
 
 bool Game::SomethingToLose() const { return clock.Clock().State().GameStarted || (record && record->MovesWritten()); }
 
+bool Game::WorthKeeping() const { return !clock.Clock().Untouched() || (record && record->MovesWritten()); }
+
+bool Game::PauseIfRunning() {
+    const ClockEvent event = clock.PauseIfRunning();
+    Show(event);
+    return event == ClockEvent::Changed;
+}
+
 void Game::Reset() {
+    LeaveGame();
     ReplaceRecord({});
     clockView->ReadSettings();
     TakeSettings();
@@ -64,6 +80,7 @@ void Game::TakeSettings() {
     clock.Initialise(settings.Control);
     ShowWhole();
     if (record) recordView->RecordChanged({});
+    Changed();
 }
 
 Recorder& Game::OpenRecord(RecordView& view) {
@@ -72,18 +89,23 @@ Recorder& Game::OpenRecord(RecordView& view) {
 }
 
 void Game::CloseRecord() {
+    if (record && record->MovesWritten()) LeaveGame();
     record.reset();
     recordView = nullptr;
+    Changed();
 }
 
 void Game::Declare(Declaration declaration) {
     const bool over = record->HasResult();
     recordView->RecordChanged(record->Declare(declaration, clock.Clock().State().MoveCount));
     if (!over && record->HasResult()) Show(clock.PauseIfRunning());
+    Changed();
 }
 
 void Game::TopUpMoveLists() {
-    if (record) recordView->RecordChanged(record->TopUpMoveLists(clock.Clock().State().MoveCount));
+    if (!record) return;
+    recordView->RecordChanged(record->TopUpMoveLists(clock.Clock().State().MoveCount));
+    Changed();
 }
 
 GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const {
@@ -96,27 +118,39 @@ GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDa
 }
 
 void Game::TakeLoadedGame(const SavedGame& saved) {
+    LeaveGame();
     settings = saved.Options;
     clock.TakeLoadedGame(saved.Clock);
     ShowWhole();
     ReplaceRecord(saved.Scorlet);
+    Changed();
 }
 
 void Game::Show(ClockEvent event, ClockChange change) {
     switch (event) {
         case ClockEvent::Ignored: return;
-        case ClockEvent::Ticked:
-        case ClockEvent::Changed: return clockView->ClockChanged(change);
+        case ClockEvent::Ticked: return clockView->ClockChanged(change);
+        case ClockEvent::Changed: clockView->ClockChanged(change); return Changed();
         case ClockEvent::FlagFell:
             if (record) {
                 record->FlagFell(clock.Clock().State().ActiveSide);
                 recordView->RecordChanged({});
             }
             clockView->ClockChanged(change);
+            Changed();
             return clockView->PlaySound(ClockSound::Flag);
         case ClockEvent::Overflow: clockView->ClockChanged(change); return clockView->Inform(event);
         default: return clockView->Inform(event);
     }
+}
+
+void Game::Changed() {
+    ticksSinceChange = 0;
+    clockView->GameChanged();
+}
+
+void Game::LeaveGame() {
+    if (WorthKeeping()) clockView->LosingGame();
 }
 
 void Game::ShowWhole() { clockView->ClockChanged({.Faces = {true, true}, .Phase = true}); }

@@ -23,6 +23,8 @@ class ClockView {
     virtual void Inform(ClockEvent event) = 0;     // one that the players are to be told of
     virtual bool AskReset() = 0;                   // true: the players want the reset
     virtual void ReadSettings() = 0;               // the user's own, into those that the game was made with
+    virtual void GameChanged() = 0;                // it is to be kept, soon
+    virtual void LosingGame() = 0;                 // it is about to be thrown away
 
   protected:
     ~ClockView() = default;
@@ -60,11 +62,16 @@ class Game final : public ScorletGame {
     void Reset();
     // Whether a game is under way or moves are written.
     bool SomethingToLose() const;
+    // Whether somebody has pressed or written, so that there is a game to be kept, a finished one too.
+    bool WorthKeeping() const;
+    // True: it ran, and is paused now.
+    bool PauseIfRunning();
     // The settings have been changed while the clock was idle.
     void TakeSettings();
 
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
+    void RecordEdited() override { Changed(); }
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();
@@ -72,7 +79,7 @@ class Game final : public ScorletGame {
     // The files of the game as it is, with its lists filled up to the clock's counts; the record itself stays as it is.
     // `names` are those that the clock shows, in the ANSI code page.
     GameFiles Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const;
-    // Takes the place of what was, the settings included. The Scorlet must be open.
+    // Takes the place of what was, the settings included. Where it has a record the Scorlet must be open.
     void TakeLoadedGame(const SavedGame& saved);
 
     // Stops the timer before the program ends.
@@ -81,6 +88,8 @@ class Game final : public ScorletGame {
   private:
     void Show(ClockEvent event, ClockChange change = {.Phase = true});
     void ShowWhole();
+    void Changed();
+    void LeaveGame();
     void ReplaceRecord(const Recorder& other);
 
     Settings& settings;
@@ -88,4 +97,5 @@ class Game final : public ScorletGame {
     ClockView* clockView = nullptr;
     std::optional<Recorder> record;
     RecordView* recordView = nullptr;
+    int ticksSinceChange = 0;
 };

@@ -60,7 +60,8 @@ std::optional<GameFileError> DecodeGame(const GameFileReader& read, const Settin
     ClockRecord saved;
     if (const auto error = DecodeClockRecord(record, present, saved)) return error;
     try {
-        game = {saved.Options, saved.Clock, saved.ScorletLoaded ? ReadScorlet(read, saved) : Recorder()};
+        game = {saved.Options, saved.Clock, saved.ScorletLoaded ? ReadScorlet(read, saved) : Recorder(),
+                saved.ScorletLoaded};
     } catch (const GameFileError& error) {
         return error;
     }

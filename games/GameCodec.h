@@ -19,7 +19,8 @@ GameFiles EncodeGame(const Settings& settings, const modClock::ClockState& clock
 struct SavedGame {
     Settings Options;  // with the language that was in use
     modClock::ClockState Clock;
-    Recorder Scorlet;  // the initial position where none was saved
+    Recorder Scorlet;            // the initial position where none was saved
+    bool ScorletLoaded = false;  // it was saved with the Scorlet
 };
 
 // Gives the first `limit` bytes of a file, nothing when there is none. It may throw; DecodeGame lets that through.

@@ -68,6 +68,16 @@ std::vector<std::wstring> FilesIn(const std::wstring& folder) {
     return names;
 }
 
+SYSTEMTIME LastChangeOf(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    SYSTEMTIME universal{}, local{};
+    if (!GetFileAttributesExW(Long(path).c_str(), GetFileExInfoStandard, &data) ||
+        !FileTimeToSystemTime(&data.ftLastWriteTime, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+        throw SystemError(GetLastError(), path);
+    return local;
+}
+
 void MakeFolder(const std::wstring& path) { CreateDirectoryW(Long(path).c_str(), nullptr); }
 
 void ExpectReplaceable(const std::wstring& path) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +18,9 @@ bool FileExists(const std::wstring& path);
 
 // Names of the files in a folder, given with its trailing backslash; none where there is no such folder.
 std::vector<std::wstring> FilesIn(const std::wstring& folder);
+
+// When a file was last written to, by the user's clock. Throws SystemError.
+SYSTEMTIME LastChangeOf(const std::wstring& path);
 
 // Makes a folder if there is none. A failure is not reported: whatever uses the folder next will fail.
 void MakeFolder(const std::wstring& path);

@@ -2,6 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/Automation.h"
+#include "platform/Today.h"
 #include "resources/Version.h"
 
 #include <objbase.h>
@@ -20,14 +21,10 @@ const wchar_t* DateMember(clsFileSystem::DateKind kind) {
     return L"DateLastAccessed";
 }
 
-// The present date and time in the user's short formats.
 std::wstring Now() {
     SYSTEMTIME time;
     GetLocalTime(&time);
-    wchar_t date[80], clock[80];
-    if (!GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, date, 80)) date[0] = L'\0';
-    if (!GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &time, nullptr, clock, 80)) clock[0] = L'\0';
-    return std::wstring(date) + L" " + clock;
+    return DateAndTime(time);
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ class ScorletGame {
     virtual Recorder& OpenRecord(RecordView& view) = 0;
     virtual void CloseRecord() = 0;
 
+    virtual void RecordEdited() = 0;  // the window has changed the record
     virtual void Declare(Declaration declaration) = 0;
     virtual void PressEnabledButton() = 0;  // the clock button that can be pressed
 

@@ -238,7 +238,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 void frmScorlet::OnCommand(int id, int notification) {
     if (IsPromotion(id)) {
         recorder.Promote(PromotionKinds[static_cast<size_t>(id - imgPromotionQ)]);
-        ShowRecord();
+        ShowEdit();
         SetFocus(Control(picBoard));
         return;
     }
@@ -254,7 +254,7 @@ void frmScorlet::OnCommand(int id, int notification) {
         case mnuPrintMoveList: SendMessageW(shell, WM_COMMAND, mnuPrint, 0); return;
         case mnuDeleteLastMove:
             recorder.DeleteLast(menuList);
-            ShowRecord();
+            ShowEdit();
             if (const size_t count = recorder.List(menuList).Entries().size(); count > 0)
                 ChooseLine({menuList, count - 1});
             return;
@@ -277,11 +277,18 @@ void frmScorlet::OnMouseDown(POINT point) {
 }
 
 void frmScorlet::OnSquare(Square square) {
+    const bool puttingBack = input.Captured().has_value();
     const auto line = input.Click(square);
     if (line)
-        ShowRecord(line);
+        ShowEdit(line);
     else
         ShowBoard();
+    if (puttingBack) game.RecordEdited();
+}
+
+void frmScorlet::ShowEdit(std::optional<ChosenLine> chosen) {
+    ShowRecord(chosen);
+    game.RecordEdited();
 }
 
 bool frmScorlet::OnBoardKey(WPARAM key) {
@@ -353,7 +360,7 @@ void frmScorlet::EndEdit(bool accept) {
     const bool stands = line.Index < list.Entries().size() && list.Entries()[line.Index].IsResult() == wasResult;
     if (accept && stands) recorder.Edit(line.List, line.Index, ToAnsi(field.Text()));
     field.Hide();
-    ShowRecord(line);
+    ShowEdit(line);
     SetFocus(Control(picBoard));
 }
 

@@ -38,6 +38,8 @@ class frmScorlet : public Form, private RecordView {
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
+    // After the window has changed it.
+    void ShowEdit(std::optional<ChosenLine> chosen = std::nullopt);
     void CreateControls();
     void ApplyTexts();
     void Arrange();

@@ -43,6 +43,7 @@ enum ClockControl : int {
     mnuContents,
     mnuAbout,
     mnuNextWindow,  // has a key, but no menu entry
+    mnuBringBack,
 };
 
 // The Scorlet.
@@ -142,6 +143,10 @@ enum ClockMessage : unsigned {
     WM_BUTTONKEY = 0x8001,  // a button was pressed with the key in wParam, 0 for the mouse; its number is in lParam
     WM_TELLPROBLEMS,        // the window is open and can show what has gone wrong before
     WM_SCORLETGONE,         // the Scorlet's window has been destroyed
+    WM_OFFERGAME,           // the window is open, and a game that was kept can be offered
+    WM_KEEPGAME,            // the game has changed and is to be kept, when all is drawn
+    WM_KEEPFAILED,          // it could not be, for the reason with the code in wParam
+    WM_TELLSLEEP,           // the computer is awake again: a clock was paused
 };
 enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board

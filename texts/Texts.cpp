@@ -58,13 +58,14 @@ std::wstring Texts::LookUp(int64_t identifier) const {
     return length > 0 ? std::wstring(text, static_cast<size_t>(length)) : std::wstring();
 }
 
-std::wstring Texts::Compose(TextId row, const std::wstring& first, const std::wstring& second) const {
+std::wstring Texts::ComposeOf(TextId row, std::initializer_list<std::wstring> parts) const {
     const std::wstring pattern = (*this)(row);
     std::wstring text;
     for (size_t i = 0; i < pattern.size(); ++i) {
         const wchar_t next = i + 1 < pattern.size() ? pattern[i + 1] : L'\0';
-        if (pattern[i] == L'%' && (next == L'1' || next == L'2')) {
-            text += next == L'1' ? first : second;
+        if (pattern[i] == L'%' && next >= L'1' && next <= L'9') {
+            const auto part = static_cast<size_t>(next - L'1');
+            if (part < parts.size()) text += parts.begin()[part];
             ++i;
         } else {
             text += pattern[i];

@@ -6,6 +6,7 @@
 
 #include <windows.h>
 
+#include <initializer_list>
 #include <string>
 
 // The string table in the program's resources, in the language of the settings.
@@ -19,8 +20,11 @@ class Texts {
 
     std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, language)); }
 
-    // Text of a row with its %1 and %2 replaced.
-    std::wstring Compose(TextId row, const std::wstring& first, const std::wstring& second = {}) const;
+    // Text of a row with its %1 to %9 replaced.
+    template <typename... Parts>
+    std::wstring Compose(TextId row, const Parts&... parts) const {
+        return ComposeOf(row, {parts...});
+    }
 
     // "White" or "Black", to be spoken.
     std::wstring SideName(Side side) const;
@@ -37,5 +41,7 @@ class Texts {
     int32_t LanguageIndex() const { return language; }
 
   private:
+    std::wstring ComposeOf(TextId row, std::initializer_list<std::wstring> parts) const;
+
     const int32_t& language;
 };

@@ -21,7 +21,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
     int Timers = 0;
     bool KillWorks = true, Yes = false;
     std::function<void()> DuringSound = [] {};
-    std::string Said;
+    std::string Said, Kept;
 
     void Say(const std::string& what) { Said += (Said.empty() ? "" : ", ") + what; }
     int32_t Set() override {
@@ -53,6 +53,8 @@ struct Around final : modClock::Timer, ClockView, RecordView {
         Say("ask");
         return Yes;
     }
+    void GameChanged() override { Kept += "keep"; }
+    void LosingGame() override { Kept += "aside "; }
     void ReadSettings() override {
         Say("read");
         Options = Own;

@@ -1,0 +1,57 @@
+#include "platform/BackgroundFile.h"
+
+#include "platform/Files.h"
+#include "platform/SystemError.h"
+
+#include <utility>
+
+BackgroundFile::BackgroundFile(std::wstring path, std::function<void(DWORD)> failed)
+    : path(std::move(path)), failed(std::move(failed)), thread([this] { Run(); }) {}
+
+BackgroundFile::~BackgroundFile() {
+    {
+        const std::lock_guard lock(mutex);
+        ending = true;
+    }
+    changed.notify_all();
+    thread.join();
+}
+
+void BackgroundFile::Order(Content content) {
+    {
+        const std::lock_guard lock(mutex);
+        ordered = std::move(content);
+    }
+    changed.notify_all();
+}
+
+void BackgroundFile::Finish() {
+    std::unique_lock lock(mutex);
+    changed.wait(lock, [this] { return !ordered && !busy; });
+}
+
+void BackgroundFile::Run() {
+    std::unique_lock lock(mutex);
+    for (;;) {
+        changed.wait(lock, [this] { return ordered || ending; });
+        if (!ordered) return;
+        const Content content = *std::exchange(ordered, std::nullopt);
+        busy = true;
+        lock.unlock();
+        Write(content);
+        lock.lock();
+        busy = false;
+        changed.notify_all();
+    }
+}
+
+void BackgroundFile::Write(const Content& content) const {
+    try {
+        if (content)
+            ReplaceFileBytes(path, *content);
+        else if (FileExists(path))
+            DeleteFileAt(path);
+    } catch (const SystemError& error) {
+        failed(error.Code());
+    }
+}
