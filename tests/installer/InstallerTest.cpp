@@ -1,4 +1,7 @@
-#include "tests/installer/Packages.h"
+#include "platform/Ansi.h"
+#include "platform/Process.h"
+#include "resources/Version.h"
+#include "tests/desktop/Steps.h"
 
 #include <gtest/gtest.h>
 #include <shlobj.h>
@@ -43,21 +46,19 @@ std::wstring TargetOf(const std::wstring& shortcut) {
 }
 
 // Runs a program to its end; its exit code.
-DWORD Execute(std::wstring commandLine) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
-        return GetLastError() + 1000;
-    const UniqueFile process(started.hProcess);
-    CloseHandle(started.hThread);
+DWORD Execute(const std::wstring& commandLine) {
+    const UniqueFile process = StartProgram({}, commandLine);
     DWORD code = 0;
     if (WaitForSingleObject(process.get(), 30000) != WAIT_OBJECT_0) TerminateProcess(process.get(), 98);
     GetExitCodeProcess(process.get(), &code);
     return code;
 }
 
-DWORD Install(const std::wstring& parameters = L"") { return Execute(L"\"" + SetupFile() + L"\" /S" + parameters); }
+// The installer in dist/, of the version that the tests are built with.
+DWORD Install(const std::wstring& parameters = L"") {
+    return Execute(L"\"" + BuildFolder() + L"..\\..\\dist\\TORVANIX-" + FromAnsi(TORVANIX_VERSION) +
+                   L"-setup.exe\" /S" + parameters);
+}
 
 // The uninstaller goes on as a copy of itself, since it deletes its own file, so its end is seen by what it does last.
 void StartUninstalling(const std::wstring& folder, const wchar_t* parameters) {
@@ -71,21 +72,6 @@ bool Uninstalled() {
 void PutGame(const std::wstring& folder) {
     CreateDirectoryW((folder + L"SavedGames").c_str(), nullptr);
     WriteFileText(folder + L"SavedGames\\kept.bin", "a game");
-}
-
-// Pauses the running game and saves it as "kept", by mouse and keys.
-void SaveRunningGame(ProgramRun& run) {
-    run.Click(ControlOf(cmdPause, White));
-    ASSERT_TRUE(Eventually([&] { return run.Text(cmdPause) == L"Resume"; }));
-    constexpr int gameMenu = 0, saveEntry = 2;
-    run.Choose(gameMenu, saveEntry);
-    const HWND files = run.WaitWindow(L"frmFiles");
-    ASSERT_TRUE(Eventually([&] { return run.Focused() == txtGameName; }));
-    for (WORD key : {'K', 'E', 'P', 'T'}) run.Key(key);
-    ASSERT_TRUE(Eventually([&] { return TextOf(GetDlgItem(files, txtGameName)) == L"kept"; }));
-    run.Key(VK_RETURN);
-    run.Answer(IDYES);
-    ASSERT_TRUE(Eventually([&] { return !IsWindow(files); }));
 }
 
 void ExpectNoProgramFiles(const std::wstring& folder) {
@@ -111,19 +97,15 @@ TEST(InstallerTest, InstalledProgramIsPlayedAndItsGamesOutliveIt) {
     EXPECT_EQ(Listed(L"UninstallString"), L"\"" + folder + L"Uninstall.exe\"");
 
     WriteSettingsFile(folder, QuietSettings());
-    std::string game;
-    {
-        ProgramRun run(folder + L"torvanix.exe");
-        run.Click(ControlOf(cmdClock, Black));
-        EXPECT_TRUE(Eventually([&] { return run.Text(lblMoveCount) == L"1."; }));
-        SaveRunningGame(run);
-        game = ReadFileText(folder + L"SavedGames\\kept.bin");
-        EXPECT_FALSE(game.empty());
-        EXPECT_EQ(Install(), 2u) << "over the running program";
-        EXPECT_EQ(Execute(L"\"" + folder + L"Uninstall.exe\" /S _?=" + folder), 2u) << "while it runs";
-        EXPECT_TRUE(Exists(folder + L"TORVANIX.chm") && !Listed(L"DisplayName").empty());
-        EXPECT_TRUE(run.Close());
-    }
+    Steps steps;
+    steps.Launch(folder + L"torvanix.exe");
+    steps.Do("click cmdClock.B / turn 1 0 / click cmdPause.W / see cmdPause.W Resume / save kept");
+    const std::string game = ReadFileText(folder + L"SavedGames\\kept.bin");
+    EXPECT_FALSE(game.empty());
+    EXPECT_EQ(Install(), 2u) << "over the running program";
+    EXPECT_EQ(Execute(L"\"" + folder + L"Uninstall.exe\" /S _?=" + folder), 2u) << "while it runs";
+    EXPECT_TRUE(Exists(folder + L"TORVANIX.chm") && !Listed(L"DisplayName").empty());
+    steps.Do("close frmClock / ended 0");
     EXPECT_EQ(Install(), 0u) << "over itself";
     EXPECT_EQ(Listed(L"UninstallString"), L"\"" + folder + L"Uninstall.exe\"");
     ExpectKept(folder, game);
@@ -184,4 +166,19 @@ TEST(InstallerTest, FolderThatCannotBeWrittenToEndsInAnErrorCode) {
     EXPECT_EQ(Install(L" /D=Z:\\proc\\TORVANIX"), 2u);
     EXPECT_EQ(Listed(L"DisplayName"), L"");
     EXPECT_FALSE(Exists(StartMenuEntry()));
+}
+
+// uxtheme.dll is bound by the system's comctl32.dll. The script that runs the tests has Wine prefer what lies beside a
+// program, as Windows does.
+TEST(InstallerTest, LibrariesBesideTheProgramAreNotLoaded) {
+    Steps steps;
+    for (const wchar_t* name : {L"winmm.dll", L"uxtheme.dll"})
+        ASSERT_TRUE(CopyFileW((BuildFolder() + L"planted.dll").c_str(), (steps.Folder() + name).c_str(), FALSE));
+    // The planted library works: from another program's own folder it is loaded and leaves its mark.
+    const HMODULE planted = LoadLibraryW((steps.Folder() + L"uxtheme.dll").c_str());
+    ASSERT_TRUE(planted);
+    FreeLibrary(planted);
+    ASSERT_TRUE(DeleteFileW((steps.Folder() + L"uxtheme.dll.loaded").c_str()));
+    // The button sound comes from one of the libraries.
+    steps.Do("start ButtonSound=1 / click cmdClock.B / turn 1 0 / close frmClock / ended 0 / sh \"! ls *.loaded\"");
 }
