@@ -1,4 +1,4 @@
 #include "tests/desktop/Steps.h"
 
-// The tests of the real program are the scenarios in the files of steps.
-[[maybe_unused]] static const bool registered = (RegisterScenarios(), true);
+// The tests are the scenarios in a folder's files of steps.
+[[maybe_unused]] static const bool registered = (RegisterScenarios(SCENARIOS), true);

@@ -1,15 +1,12 @@
 #include "tests/desktop/Steps.h"
 
-#include "bench/Replay.h"
 #include "platform/Ansi.h"
-#include "recorder/Notation.h"
+#include "platform/Process.h"
 
 #include <commctrl.h>
 
 #include <array>
 #include <cstring>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 // The words of the steps.
@@ -63,67 +60,43 @@ void Until(const Condition& condition, const std::string& otherwise, int millise
 }
 
 // "Field=value", or "Field=White's,Black's".
-void Set(Settings& settings, const std::string& field) {
-    const size_t sign = field.find('=');
-    const std::string name = field.substr(0, sign), value = field.substr(sign + 1), black = "," + value;
+void Set(Settings& settings, const std::string& assigned) {
+    const size_t sign = assigned.find('=');
+    const std::string name = assigned.substr(0, sign), value = assigned.substr(sign + 1), black = "," + value;
     if (name == "White" || name == "Black") {
         settings.PlayerNames[name == "White" ? White : Black] = ToAnsi(Wide(value));
         return;
     }
     const int32_t number = std::stoi(value);
     const std::array<int32_t, 2> pair{number, std::stoi(black.substr(black.rfind(',') + 1))};
-    const std::map<std::string, std::function<void()>> fields{
-        {"ClockType",
-         [&] {
-             settings.SetClockType(number);
-         }},
-        {"FirstPeriod",
-         [&] {
-             settings.Control.PeriodLimit = pair;
-         }},
-        {"SecondPeriod",
-         [&] {
-             settings.Control.SecondPeriodTime = pair;
-         }},
-        {"Bonus",
-         [&] {
-             settings.Control.MoveBonus = pair;
-         }},
-        {"CountDown",
-         [&] {
-             settings.Control.CountTimeDown = number;
-         }},
-        {"TurnClock",
-         [&] {
-             settings.TurnClock = number;
-         }},
-        {"Scorlet",
-         [&] {
-             settings.OpenScorletAtStart = number;
-         }},
-        {"Pgn",
-         [&] {
-             settings.WritePgn = number;
-         }},
-        {"Language",
-         [&] {
-             settings.LanguageIndex = number;
-         }},
-        {"ButtonSound",
-         [&] {
-             settings.SetButtonSound(number);
-         }},
-        {"FlagSound",
-         [&] {
-             settings.SetFlagSound(number);
-         }},
+    bool known = false;
+    const auto field = [&](const char* which, auto set) {
+        if (name != which) return;
+        known = true;
+        set();
     };
-    fields.at(name)();
+    field("ClockType", [&] { settings.SetClockType(number); });
+    field("FirstPeriod", [&] { settings.Control.PeriodLimit = pair; });
+    field("Bonus", [&] { settings.Control.MoveBonus = pair; });
+    field("CountDown", [&] { settings.Control.CountTimeDown = number; });
+    field("TurnClock", [&] { settings.TurnClock = number; });
+    field("Scorlet", [&] { settings.OpenScorletAtStart = number; });
+    field("Pgn", [&] { settings.WritePgn = number; });
+    field("Language", [&] { settings.LanguageIndex = number; });
+    field("ButtonSound", [&] { settings.SetButtonSound(number); });
+    field("FlagSound", [&] { settings.SetFlagSound(number); });
+    if (!known) Fail("no setting " + name);
 }
 
 HWND EditorText() {
     const HWND editor = FindWindowW(L"Notepad", nullptr);
     return editor && IsWindowVisible(editor) ? GetWindow(editor, GW_CHILD) : nullptr;
+}
+
+DWORD ExitCodeOf(HANDLE process) {
+    DWORD code = 0;
+    GetExitCodeProcess(process, &code);
+    return code;
 }
 
 DWORD ProcessOf(HWND window) {
@@ -156,19 +129,6 @@ int Steps::TimeLeft() const {
     return SecondsOf(ValueOf(white ? "lblFace.W" : "lblFace.B"));
 }
 
-std::string Steps::AllShown() const {
-    std::string all;
-    const auto add = [&](int first, int last) {
-        for (int id = first; id <= last; ++id) all += ValueOf(std::to_string(id)) + "|";
-    };
-    add(lblFace, lblBonusTime + 1);
-    add(picBoard + 11, picBoard + 88);
-    add(lstMoves, lstMoves + 1);
-    for (int id = imgCapturedWQ; id < imgCapturedWQ + 2 * CapturedSlots; ++id)
-        all += IsWindowVisible(Find(std::to_string(id))) ? "x" : "-";
-    return all;
-}
-
 void Steps::AddLooks() {
     const auto each = [this](const char* word, bool (*holds)(HWND)) {
         Add(word, [this, holds](Words& words) {
@@ -184,9 +144,6 @@ void Steps::AddLooks() {
         const std::string name = words.Take();
         Await([&] { return ValueOf(name); }, words.Take());
     });
-    // All that the clock and the Scorlet show, to be the same later.
-    Add("note", [this](Words&) { noted = AllShown(); });
-    Add("as-noted", [this](Words&) { Await([this] { return AllShown(); }, noted); });
     // To a screen reader.
     Add("says", [this](Words& words) {
         const HWND control = Shown(words.Take());
@@ -238,24 +195,14 @@ void Steps::AddLooks() {
         const auto wanted = static_cast<size_t>(words.Number());
         Until([&] { return LoudSamples() > wanted; }, "less");
     });
-    // The viewer of the help: "opens" anew, "in-front" or "closed".
-    Add("help", [this](Words& words) {
-        const std::map<std::string, Condition> states{
-            {"opens",
-             [&, before = viewer] {
-                 return (viewer = OpenViewer()) && viewer != before && !IsWindow(before);
-             }},
-            {"in-front",
-             [&] {
-                 return GetForegroundWindow() == viewer;
-             }},
-            {"closed",
-             [&] {
-                 return !IsWindow(viewer);
-             }},
-        };
-        Until(states.at(words.Take()), "it does not come so");
+    // The viewer of the help, a new one each time that it opens.
+    Add("help-opens", [this](Words&) {
+        const HWND before = viewer;
+        Until([&] { return (viewer = OpenViewer()) && viewer != before && !IsWindow(before); }, "no new viewer");
     });
+    Add("help-in-front", [this](Words&) { Until([this] { return GetForegroundWindow() == viewer; }, "it is not"); });
+    Add("help-closed", [this](Words&) { Until([this] { return !IsWindow(viewer); }, "it is open"); });
+    Add("close-help", [this](Words&) { PostMessageW(viewer, WM_CLOSE, 0, 0); });
     // The text in the editor, which then is ended.
     Add("editor", [](Words& words) {
         Until([] { return EditorText() != nullptr; }, "no editor");
@@ -264,7 +211,9 @@ void Steps::AddLooks() {
         TerminateProcess(editor.get(), 0);
         WaitForSingleObject(editor.get(), 5000);
     });
-    Add("ended", [this](Words& words) { Await([this] { return std::to_string(program->ExitCode()); }, words.Take()); });
+    Add("ended", [this](Words& words) {
+        Await([this] { return std::to_string(ExitCodeOf(program->Process())); }, words.Take());
+    });
 }
 
 void Steps::AddInput() {
@@ -360,28 +309,31 @@ void Steps::AddInput() {
             for (const size_t at : {0, 2}) Click(Shown(move.substr(at, 2)));
         }
     });
-    Add("play-game", [this](Words& words) { PlayGame(words.Take()); });
-}
-
-// The first line of a file of moves, the clock pressed after each.
-void Steps::PlayGame(const std::string& file) {
-    std::ifstream lines(TEST_DATA + file);
-    std::string line, text, move, word;
-    if (!std::getline(lines, line) || !ReplayLine(line, text)) Fail("no game");
-    std::istringstream moves(line), written(text);
-    std::array<std::string, 2> lists{"1. ", ""};
-    for (int half = 0; moves >> move && written >> word && !IsResult(move); ++half) {
-        Do("play " + move + " / see " + move.substr(0, 2) + " O / key Space");
-        const size_t side = static_cast<size_t>(half % 2), other = 1 - side;
-        lists[side] += word;
-        // The side that the press has set going has a line that waits; White's lines have their numbers.
-        const std::string number = std::to_string((half + 1) / 2 + 1) + ". ";
-        lists[other] += half > 0 ? "|" : "";
-        const std::array before = lists;
-        lists[other] += number + "\?\?-\?\?";
-        Await([this] { return Lists(); }, lists[White] + " / " + lists[Black]);
-        lists[other] = before[other] + (other == White ? number : "");
-    }
+    // Moves by clicks, the clock pressed after each.
+    Add("move", [this](Words& words) {
+        while (words.More()) {
+            const std::string move = words.Take(), before = Counts();
+            Do("play " + move + " / see " + move.substr(0, 2) + " O / key Space");
+            Until([&] { return Counts() != before; }, "the clock is not pressed after " + move);
+        }
+    });
+    // So many by messages, as fast as the program takes them: most of the time of others goes into painting.
+    Add("presses", [this](Words& words) {
+        ShowWindow(program->Clock(), SW_MINIMIZE);
+        const int count = words.Number();
+        for (int done = 0; done < count; ++done)
+            PostMessageW(Find(done % 2 == 0 ? "cmdClock.B" : "cmdClock.W"), WM_LBUTTONDOWN, MK_LBUTTON,
+                         MAKELPARAM(5, 5));
+        Do("counts " + std::to_string((count + 1) / 2) + "." + std::to_string(count / 2) + ".");
+        ShowWindow(program->Clock(), SW_RESTORE);
+        Do("front frmClock");
+    });
+    Add("resize", [this](Words& words) {
+        const HWND window = Shown(words.Take());
+        const int width = words.Number();
+        SetWindowPos(window, nullptr, 0, 0, width, words.Number(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        UpdateWindow(window);
+    });
 }
 
 void Steps::AddFaults() {
@@ -401,6 +353,38 @@ void Steps::AddFaults() {
         Remove(CaptureFile());
     });
     Add("no-sound", [](Words&) { Await([] { return Exists(CaptureFile()) ? "a device" : ""; }, ""); });
+    // A program by its path, with its parameters: it ends with that code.
+    Add("run", [](Words& words) {
+        const std::string code = words.Take();
+        const std::wstring path = Wide(words.Take());
+        const UniqueFile process = StartProgram(path, L"\"" + path + L"\" " + Wide(words.Take()));
+        Await([&] { return std::to_string(ExitCodeOf(process.get())); }, code);
+    });
+    Add("launch", [this](Words& words) { Launch(Wide(words.Take())); });
+    // What the list of installed programs says.
+    Add("listed", [](Words& words) {
+        const std::wstring name = Wide(words.Take());
+        const auto value = [&] {
+            std::array<wchar_t, MAX_PATH * 2> text{};
+            DWORD size = sizeof(text);
+            RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\TORVANIX",
+                         name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size);
+            return Utf8(text.data());
+        };
+        Await(value, words.Take());
+    });
+    // The default button of another program's window.
+    Add("press-default", [](Words& words) {
+        const std::wstring title = Wide(words.Take());
+        const auto button = [&] {
+            return GetDlgItem(FindWindowW(nullptr, title.c_str()), IDOK);
+        };
+        Until([&] { return IsWindowVisible(button()) && IsWindowEnabled(button()); }, "no button");
+        PostMessageW(button(), BM_CLICK, 0, 0);
+    });
+    Add("load-library", [](Words& words) {
+        if (!FreeLibrary(LoadLibraryW(Wide(words.Take()).c_str()))) Fail("not loaded");
+    });
     Add("take-clipboard", [](Words&) { Until([] { return OpenClipboard(nullptr) != 0; }, "it is held"); });
     Add("give-clipboard", [](Words&) { CloseClipboard(); });
     // The system's own function answers 0 in the program, or is itself again: it lies at one place in all programs.

@@ -21,7 +21,7 @@ const std::map<std::string, int> Controls{
 };
 
 struct Scenario {
-    std::string File, Name;
+    std::string Folder, File, Name;
     int Number;
     std::map<int, std::string> Lines;  // by their numbers
 };
@@ -33,7 +33,7 @@ struct Script {
 Script ReadFiles() {
     Script script;
     const std::regex word("([a-z-]+) = (.*)");
-    for (const auto& entry : std::filesystem::directory_iterator(TEST_STEPS)) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(TESTS)) {
         if (entry.path().extension() != ".steps") continue;
         std::ifstream file(entry.path());
         std::string line;
@@ -42,7 +42,11 @@ Script ReadFiles() {
             if (std::regex_match(line, parts, word))
                 script.Words[parts[1]] = parts[2];
             else if (line.starts_with("# "))
-                script.Scenarios.push_back({entry.path().filename().string(), line.substr(2), number, {}});
+                script.Scenarios.push_back({entry.path().parent_path().filename().string(),
+                                            entry.path().filename().string(),
+                                            line.substr(2),
+                                            number,
+                                            {}});
             else if (!line.empty())
                 script.Scenarios.back().Lines[number] = line;
         }
@@ -109,8 +113,9 @@ class ScenarioTest : public testing::Test {
 
 }  // namespace
 
-void RegisterScenarios() {
+void RegisterScenarios(const std::string& folder) {
     for (const Scenario& scenario : TheScript().Scenarios) {
+        if (scenario.Folder != folder) continue;
         std::string name = scenario.Name;
         std::replace_if(
             name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
@@ -150,6 +155,7 @@ Steps::Steps() {
     swprintf(today.data(), today.size(), L"%02d/%02d/%04d", now.wDay, now.wMonth, now.wYear);
     SetEnvironmentVariableW(L"TODAY", today.data());
     SetEnvironmentVariableW(L"VERSION", Wide(TORVANIX_VERSION).c_str());
+    SetEnvironmentVariableW(L"BUILD", BuildFolder().c_str());
     SetEnvironmentVariableW(L"FOLDER", folder.Path().c_str());
     AddLooks();
     AddInput();
@@ -206,8 +212,9 @@ void Steps::Launch(const std::wstring& installed) {
 void Steps::RunShell(const std::string& lines) const {
     const std::wstring done = folder.Path() + L"lines.done";
     WriteFileText(folder.Path() + L"lines.sh",
-                  "BUILD=" TEST_BUILD "; W=${PWD%/drive_c/*}/drive_c/windows\n(" + lines +
-                      "\n) >lines.out 2>&1\necho $? >>lines.out; exec mv lines.out lines.done\n");
+                  "BUILD=" TEST_BUILD
+                  "; W=${PWD%/drive_c/*}/drive_c/windows; U=${PWD%/Temp/*}; U=${U%/AppData/Local}\n(" +
+                      lines + "\n) >lines.out 2>&1\necho $? >>lines.out; exec mv lines.out lines.done\n");
     StartProgram({}, L"Z:\\bin\\sh lines.sh", folder.Path());
     if (!Eventually([&] { return Exists(done); })) Fail("the shell does not end");
     const std::string output = ReadFileText(done);

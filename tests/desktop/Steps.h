@@ -42,14 +42,12 @@ class Steps {
     void AddLooks();
     void AddInput();
     void AddFaults();
-    void PlayGame(const std::string& file);
     void RunShell(const std::string& lines) const;
 
     HWND Find(const std::string& name) const;   // null where there is none now
     HWND Shown(const std::string& name) const;  // waited for
     std::string ValueOf(const std::string& name) const;
     std::string Turn();
-    std::string AllShown() const;
     std::string Counts() const { return ValueOf("lblMoveCount.W") + ValueOf("lblMoveCount.B"); }
     std::string Lists() const { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }
     int TimeLeft() const;  // of the side to move
@@ -58,7 +56,7 @@ class Steps {
     std::optional<ProgramRun> program;
     std::map<std::string, std::function<void(Words&)>> actions;
     UniqueFile held;
-    std::string linesAtEnd, noted;
+    std::string linesAtEnd;
     bool soundDeviceHidden = false;
     HWND viewer = nullptr;  // of the help
 };
@@ -71,5 +69,5 @@ int IdOf(const std::string& name);
 // Waits until a text comes to be the one that is wanted, in which * stands for any text.
 void Await(const std::function<std::string()>& got, const std::string& wanted);
 
-// Makes a test of each scenario in the files of steps: a line "# name", and lines of steps.
-void RegisterScenarios();
+// Makes a test of each scenario in the files of steps of a folder of tests: a line "# name", and lines of steps.
+void RegisterScenarios(const std::string& folder);
