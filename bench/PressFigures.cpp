@@ -106,7 +106,7 @@ std::vector<double> MeasureKeys(int count) {
     const TestFolder folder;
     ProgramRun program(folder, WithBonus());
     program.Clock();
-    program.Key(VK_SPACE);
+    Key(VK_SPACE);
     if (!Eventually([&] { return program.Focused() == ControlOf(cmdClock, White); }))
         throw std::runtime_error("the program does not take the space key");
     std::vector<double> times;
@@ -115,7 +115,7 @@ std::vector<double> MeasureKeys(int count) {
         const HWND face = program.Control(ControlOf(lblFace, running));
         const std::wstring before = TextOf(face);
         const double start = Now();
-        program.Key(VK_SPACE);
+        Key(VK_SPACE);
         while (TextOf(face) == before) {
             if (Now() - start > 10000) throw std::runtime_error("a press is lost");
         }

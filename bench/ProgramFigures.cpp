@@ -2,7 +2,6 @@
 #include "bench/RunningProgram.h"
 #include "games/GameStore.h"
 #include "resources/resource.h"
-#include "settings/SettingsRecord.h"
 #include "tests/desktop/Desktop.h"
 
 #include <array>
@@ -22,8 +21,7 @@ class Installed {
   public:
     explicit Installed(const Settings& settings) {
         CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), Path().c_str(), FALSE);
-        CreateDirectoryW((folder.Path() + L"Data").c_str(), nullptr);
-        WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(EncodeSettings(settings)));
+        WriteSettingsFile(folder.Path(), settings);
     }
     std::wstring Path() const { return folder.Path() + L"torvanix.exe"; }
 
@@ -32,12 +30,6 @@ class Installed {
 };
 
 std::wstring EmptyProgram() { return BuildFolder() + L"empty_window.exe"; }
-
-Settings WithScorlet() {
-    Settings settings = QuietSettings();
-    settings.OpenScorletAtStart = true;
-    return settings;
-}
 
 void Row(const char* figure, const char* unit, double ours, double empty) {
     std::printf("| %s | %.1f %s | %.1f %s | %.2f |\n", figure, ours, unit, empty, unit, ours / empty);
@@ -63,7 +55,7 @@ void MeasureStart() {
 }
 
 void MeasureMemory() {
-    const Installed clock(QuietSettings()), scorlet(WithScorlet());
+    const Installed clock(QuietSettings()), scorlet(QuietSettings(true));
     const RunningProgram alone(clock.Path(), L"frmClock");
     const RunningProgram both(scorlet.Path(), L"frmClock");
     const RunningProgram empty(EmptyProgram(), L"EmptyWindow");

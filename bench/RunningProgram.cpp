@@ -1,5 +1,7 @@
 #include "bench/RunningProgram.h"
 
+#include "platform/Process.h"
+
 #include <psapi.h>
 #include <tlhelp32.h>
 
@@ -19,15 +21,9 @@ double Percentile(std::vector<double> values, int hundredths) {
 }
 
 RunningProgram::RunningProgram(const std::wstring& path, const wchar_t* windowClass) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION started{};
     const double start = Now();
-    if (!CreateProcessW(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
-        throw std::runtime_error("a program does not start");
-    process.reset(started.hProcess);
-    CloseHandle(started.hThread);
-    processId = started.dwProcessId;
+    process = StartProgram(path);
+    processId = GetProcessId(process.get());
     window = WaitWindow(windowClass);
     visible = Now() - start;
     SendMessageW(window, WM_NULL, 0, 0);

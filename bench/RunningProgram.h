@@ -17,7 +17,7 @@ double Percentile(std::vector<double> values, int hundredths);
 // A program that is measured from outside. It is ended with the object.
 class RunningProgram {
   public:
-    // Starts it and waits until its window of that class is visible and answers. Throws std::runtime_error.
+    // Starts it and waits until its window of that class is visible and answers. Throws std::exception.
     RunningProgram(const std::wstring& path, const wchar_t* windowClass);
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;

@@ -1,36 +1,18 @@
 #include "tests/desktop/Desktop.h"
 
-#include "platform/Ansi.h"
-#include "recorder/Square.h"
+#include "platform/Process.h"
 #include "settings/SettingsRecord.h"
 
-#include <gtest/gtest.h>
+#include <oleacc.h>
 
 #include <array>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 namespace {
-
-void RemoveFolder(const std::wstring& path) {
-    WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW((path + L"*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
-    do {
-        const std::wstring name = found.cFileName;
-        if (name == L"." || name == L"..") continue;
-        SetFileAttributesW((path + name).c_str(), FILE_ATTRIBUTE_NORMAL);
-        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
-            RemoveFolder(path + name + L"\\");
-        else
-            DeleteFileW((path + name).c_str());
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
-    RemoveDirectoryW(path.c_str());
-}
-
-void Send(std::vector<INPUT> inputs) { SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)); }
 
 // With the place in the same event: a late echo of an earlier movement could otherwise come between.
 INPUT MouseAt(POINT place, DWORD flags) {
@@ -46,22 +28,13 @@ INPUT MouseAt(POINT place, DWORD flags) {
     return input;
 }
 
+}  // namespace
+
 POINT MiddleOf(HWND window) {
     RECT area{};
     GetWindowRect(window, &area);
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
-
-INPUT Stroke(WORD key, bool up) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-    return input;
-}
-
-}  // namespace
 
 void MoveMouseTo(HWND window) {
     // A window that has just opened may not lie under the mouse yet, and an earlier movement may still be under way.
@@ -79,12 +52,34 @@ void MoveMouseTo(HWND window) {
         settled = onTop ? settled + 1 : 0;
         return settled >= 3;
     });
-    EXPECT_TRUE(there) << "the mouse does not reach the window";
+    if (!there) throw std::runtime_error("the mouse does not reach the window");
 }
 
 void ClickAt(POINT place, bool rightButton) {
-    Send({MouseAt(place, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
-          MouseAt(place, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+    std::array inputs{MouseAt(place, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+                      MouseAt(place, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)};
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+void Click(HWND window, bool rightButton) {
+    MoveMouseTo(window);
+    ClickAt(MiddleOf(window), rightButton);
+}
+
+void SendKey(WORD key, bool up) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+    SendInput(1, &input, sizeof(INPUT));
+}
+
+void Key(WORD key, bool control) {
+    if (control) SendKey(VK_CONTROL, false);
+    SendKey(key, false);
+    SendKey(key, true);
+    if (control) SendKey(VK_CONTROL, true);
 }
 
 std::wstring BuildFolder() {
@@ -97,7 +92,7 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds) {
     const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
     while (!condition()) {
         if (GetTickCount64() > end) return false;
-        Sleep(15);
+        Sleep(5);
     }
     return true;
 }
@@ -110,13 +105,6 @@ std::wstring TextOf(HWND window) {
     return text.data();
 }
 
-bool Becomes(HWND window, const std::wstring& text) {
-    const bool reached = Eventually([&] { return TextOf(window) == text; });
-    EXPECT_TRUE(reached) << "got " << testing::PrintToString(TextOf(window)) << ", want "
-                         << testing::PrintToString(text);
-    return reached;
-}
-
 std::vector<std::wstring> LinesOf(HWND list) {
     std::vector<std::wstring> lines(static_cast<size_t>(SendMessageW(list, LB_GETCOUNT, 0, 0)));
     for (size_t i = 0; i < lines.size(); ++i) {
@@ -127,26 +115,58 @@ std::vector<std::wstring> LinesOf(HWND list) {
     return lines;
 }
 
-bool ComesToFront(HWND window) {
-    return Eventually([&] { return GetForegroundWindow() == window; });
+std::wstring SpokenName(HWND control) {
+    // For what comes from another process.
+    static const HRESULT library = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    void* pointer = nullptr;
+    if (FAILED(library) ||
+        FAILED(AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &pointer)))
+        return {};
+    const UniqueCom<IAccessible> object(static_cast<IAccessible*>(pointer));
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    BSTR name = nullptr;
+    object->get_accName(self, &name);
+    const std::wstring text = name ? name : L"";
+    SysFreeString(name);
+    return text;
 }
 
+std::string Utf8(const std::wstring& text) {
+    const std::u8string bytes = std::filesystem::path(text).u8string();
+    return {bytes.begin(), bytes.end()};
+}
+
+std::wstring Wide(const std::string& utf8) {
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).wstring();
+}
+
+// The name is found on the whole machine, outside of Wine too: the processor's time sets it apart from those of others.
 TestFolder::TestFolder() {
     std::array<wchar_t, MAX_PATH> temporary{};
     GetTempPathW(MAX_PATH, temporary.data());
-    static int number = 0;
-    path = std::wstring(temporary.data()) + L"tvxtest" + std::to_wstring(GetCurrentProcessId()) + L"_" +
-           std::to_wstring(++number) + L"\\";
-    RemoveFolder(path);
+    LARGE_INTEGER time{};
+    QueryPerformanceCounter(&time);
+    path = std::wstring(temporary.data()) + L"tvx" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+           std::to_wstring(time.QuadPart) + L"\\";
     CreateDirectoryW(path.c_str(), nullptr);
 }
 
-TestFolder::~TestFolder() { RemoveFolder(path); }
+TestFolder::~TestFolder() { Remove(path); }
+
+void Remove(const std::wstring& path) {
+    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (DeleteFileW(path.c_str())) return;
+    std::error_code failed;
+    for (const auto& entry : std::filesystem::directory_iterator(path, failed)) Remove(entry.path().wstring());
+    RemoveDirectoryW(path.c_str());
+}
 
 void WriteFileText(const std::wstring& path, const std::string& bytes) {
     std::ofstream file(path.c_str(), std::ios::binary);
     file << bytes;
-    ASSERT_TRUE(file.good());
+    if (!file.good()) throw std::runtime_error("not written: " + Utf8(path));
 }
 
 std::string ReadFileText(const std::wstring& path) {
@@ -172,45 +192,10 @@ size_t LoudSamples() {
     return count;
 }
 
-NoSoundDevice::NoSoundDevice() {
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", 0, KEY_QUERY_VALUE | KEY_SET_VALUE, &drivers) != 0)
-        return;
-    std::array<wchar_t, 64> value{};
-    DWORD bytes = sizeof(value) - sizeof(wchar_t);
-    RegQueryValueExW(drivers, L"Audio", nullptr, nullptr, reinterpret_cast<BYTE*>(value.data()), &bytes);
-    before = value.data();
-    RegSetValueExW(drivers, L"Audio", 0, REG_SZ, reinterpret_cast<const BYTE*>(L""), sizeof(wchar_t));
-}
-
-NoSoundDevice::~NoSoundDevice() {
-    if (!drivers) return;
-    RegSetValueExW(drivers, L"Audio", 0, REG_SZ, reinterpret_cast<const BYTE*>(before.c_str()),
-                   static_cast<DWORD>((before.size() + 1) * sizeof(wchar_t)));
-    RegCloseKey(drivers);
-}
-
-HWND EditorText() {
-    HWND text = nullptr;
-    EXPECT_TRUE(Eventually([&] {
-        const HWND editor = FindWindowW(L"Notepad", nullptr);
-        return editor && IsWindowVisible(editor) && (text = GetWindow(editor, GW_CHILD)) != nullptr;
-    })) << "no editor";
-    return text;
-}
-
-void EndEditor() {
-    DWORD process = 0;
-    GetWindowThreadProcessId(EditorText(), &process);
-    const UniqueFile handle(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, process));
-    TerminateProcess(handle.get(), 0);
-    WaitForSingleObject(handle.get(), 5000);
-}
-
-HiddenFile::HiddenFile(std::wstring path)
-    : path(std::move(path)), renamed(MoveFileW(this->path.c_str(), (this->path + L".away").c_str()) != 0) {}
-
-HiddenFile::~HiddenFile() {
-    if (renamed) MoveFileW((path + L".away").c_str(), path.c_str());
+void HideSoundDevice(bool hidden) {
+    const std::wstring driver = hidden ? L"" : L"alsa";
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Audio", REG_SZ, driver.c_str(),
+                    static_cast<DWORD>((driver.size() + 1) * sizeof(wchar_t)));
 }
 
 Settings QuietSettings(bool withScorlet) {
@@ -239,16 +224,7 @@ std::wstring PutInto(const std::wstring& folder, const std::optional<Settings>& 
 ProgramRun::ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings)
     : ProgramRun(PutInto(folder.Path(), settings)) {}
 
-ProgramRun::ProgramRun(const std::wstring& program) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
-        ADD_FAILURE() << "torvanix.exe does not start: error " << GetLastError();
-    process.reset(started.hProcess);
-    CloseHandle(started.hThread);
-    processId = started.dwProcessId;
-}
+ProgramRun::ProgramRun(const std::wstring& program) : process(StartProgram(program)) {}
 
 ProgramRun::~ProgramRun() {
     if (WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) {
@@ -257,28 +233,38 @@ ProgramRun::~ProgramRun() {
     }
 }
 
-HWND ProgramRun::FindWindowNow(const wchar_t* className) const {
-    HWND window = nullptr;
-    while ((window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr) {
+std::vector<HWND> ProgramRun::Windows() const {
+    std::vector<HWND> windows;
+    const DWORD own = GetProcessId(process.get());
+    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if (owner == processId && IsWindowVisible(window)) return window;
+        if (owner == own && IsWindowVisible(window)) windows.push_back(window);
+    }
+    return windows;
+}
+
+HWND ProgramRun::FindWindowNow(const std::wstring& className) const {
+    for (const HWND window : Windows()) {
+        std::array<wchar_t, 32> name{};
+        GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+        if (className == name.data()) return window;
     }
     return nullptr;
 }
 
-HWND ProgramRun::WaitWindow(const wchar_t* className) const {
+HWND ProgramRun::WaitWindow(const std::wstring& className) const {
     HWND window = nullptr;
-    Eventually([&] { return (window = FindWindowNow(className)) != nullptr; }, 20000);
+    if (!Eventually([&] { return (window = FindWindowNow(className)) != nullptr; }, 20000))
+        throw std::runtime_error("no window " + Utf8(className));
     return window;
 }
 
 HWND ProgramRun::Clock() {
     if (!clock) {
         clock = WaitWindow(L"frmClock");
-        EXPECT_TRUE(clock) << "the clock window does not open";
         // Input sent before the window is in front would go elsewhere.
-        Eventually([&] { return GetForegroundWindow() == clock || HasMessage(); });
+        Eventually([&] { return GetForegroundWindow() == clock || Message(); });
     }
     return clock;
 }
@@ -287,85 +273,7 @@ int ProgramRun::Focused() {
     GUITHREADINFO info{};
     info.cbSize = sizeof(info);
     if (!GetGUIThreadInfo(GetWindowThreadProcessId(Clock(), nullptr), &info) || !info.hwndFocus) return 0;
-    return info.hwndFocus == Clock() ? -1 : GetDlgCtrlID(info.hwndFocus);
-}
-
-bool ProgramRun::FocusComes(int id) {
-    Clock();  // the start of the program has a deadline of its own
-    const bool reached = Eventually([&] { return Focused() == id; });
-    EXPECT_TRUE(reached) << "the focus is on " << Focused() << ", not on " << id;
-    return reached;
-}
-
-int ProgramRun::Seconds(Side side) {
-    int hours = 0, minutes = 0, seconds = 0;
-    const std::wstring text = Text(ControlOf(lblFace, side));
-    if (swscanf(text.c_str(), L"%d:%d:%d", &hours, &minutes, &seconds) != 3)
-        ADD_FAILURE() << "no time on the face: " << std::string(text.begin(), text.end());
-    return hours * 3600 + minutes * 60 + seconds;
-}
-
-std::string ProgramRun::Lines(Side side) const {
-    std::string lines;
-    for (const std::wstring& line : LinesOf(GetDlgItem(FindWindowNow(L"frmScorlet"), ControlOf(lstMoves, side))))
-        lines += (lines.empty() ? "" : "|") + ToAnsi(line);
-    return lines;
-}
-
-void ProgramRun::ExpectLists(const std::string& wanted) const {
-    EXPECT_TRUE(Eventually([&] { return Lists() == wanted; })) << "got " << Lists() << "\nwant " << wanted;
-}
-
-void ProgramRun::Play(std::string_view move) const {
-    const HWND scorlet = FindWindowNow(L"frmScorlet");
-    for (const size_t at : {0, 2}) Click(GetDlgItem(scorlet, picBoard + static_cast<int>(SquareNamed(move.substr(at, 2)))));
-}
-
-void ProgramRun::Click(HWND window, bool rightButton) const {
-    MoveMouseTo(window);
-    ClickAt(MiddleOf(window), rightButton);
-}
-
-void ProgramRun::Key(WORD key, bool control) const {
-    std::vector<INPUT> inputs{Stroke(key, false), Stroke(key, true)};
-    if (control) {
-        inputs.insert(inputs.begin(), Stroke(VK_CONTROL, false));
-        inputs.push_back(Stroke(VK_CONTROL, true));
-    }
-    Send(inputs);
-}
-
-void ProgramRun::Choose(int menu, int entry) const {
-    Key(VK_F10);
-    for (int i = 0; i < menu; ++i) Key(VK_RIGHT);
-    for (int i = 0; i <= entry; ++i) Key(VK_DOWN);
-    Key(VK_RETURN);
-}
-
-std::wstring ProgramRun::MessageText() const {
-    const HWND box = WaitWindow(L"#32770");
-    if (!box) {
-        ADD_FAILURE() << "no message box";
-        return {};
-    }
-    // The icon is a static control too, without a text.
-    std::wstring text;
-    HWND control = nullptr;
-    while ((control = FindWindowExW(box, control, L"Static", nullptr)) != nullptr) text += TextOf(control);
-    return text;
-}
-
-void ProgramRun::Answer(int button) const {
-    const HWND box = WaitWindow(L"#32770");
-    ASSERT_TRUE(box) << "no message box";
-    const HWND control = GetDlgItem(box, button);
-    ASSERT_TRUE(control) << "the box has no button " << button;
-    Click(control);
-    EXPECT_TRUE(Eventually([&] { return !IsWindow(box); })) << "the message box stays open";
-}
-
-bool ProgramRun::Ended(HWND dialog) {
-    return Eventually([&] { return !IsWindow(dialog) && IsWindowEnabled(Clock()); });
+    return GetAncestor(info.hwndFocus, GA_ROOT) == info.hwndFocus ? -1 : GetDlgCtrlID(info.hwndFocus);
 }
 
 bool ProgramRun::Close() {

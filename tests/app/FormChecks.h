@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+
+// What every form is held to, in whatever state it is shown.
+
+// Every visible control has a name for screen readers: its own text, a text given to them, or the label before it. And
+// the order of the controls, which is that of reading and of the tab key, goes along with their places: none comes
+// after one that is right of it in its row or below it in its column, and group boxes come before what they hold.
+void ExpectReadable(HWND form);
+
+// Every text of every control fits: static texts, buttons, all entries of drop-down lists, and, where the form draws
+// its texts itself in the fonts of their controls, those too.
+void ExpectTextsFit(HWND form, bool drawnTexts);
+
+// High contrast for its own life, with system colours that the program has nowhere else. For the windows of this
+// process: the system itself cannot be told so everywhere.
+class HighContrastOn {
+  public:
+    HighContrastOn();
+    ~HighContrastOn();
+    HighContrastOn(const HighContrastOn&) = delete;
+    HighContrastOn& operator=(const HighContrastOn&) = delete;
+
+  private:
+    std::array<COLORREF, 7> previous;
+};
+
+// Every control that the form draws, and its ground and labels, are drawn in the system's colours, and all of it anew
+// when they change.
+void ExpectSystemColours(HWND form);

@@ -1,0 +1,400 @@
+#include "tests/desktop/Steps.h"
+
+#include "platform/Ansi.h"
+#include "platform/Process.h"
+
+#include <commctrl.h>
+
+#include <array>
+#include <cstring>
+#include <stdexcept>
+
+// The words of the steps.
+
+namespace {
+
+using Condition = std::function<bool()>;
+
+const std::map<std::string, WORD> NamedKeys{
+    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},   {"Tab", VK_TAB},   {"Back", VK_BACK},
+    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},        {"Down", VK_DOWN}, {"Home", VK_HOME},
+    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},    {"F4", VK_F4},     {"F6", VK_F6},
+    {"F10", VK_F10},     {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
+};
+
+WORD CodeOf(const std::string& key) { return key.size() == 1 ? static_cast<WORD>(key[0]) : NamedKeys.at(key); }
+
+// "Ctrl+R", "Down*3".
+void Stroke(const std::string& keys) {
+    const bool control = keys.starts_with("Ctrl+");
+    const size_t times = keys.find('*');
+    const WORD code = CodeOf(keys.substr(control ? 5 : 0, times - (control ? 5 : 0)));
+    for (int left = times == std::string::npos ? 1 : std::stoi(keys.substr(times + 1)); left > 0; --left)
+        Key(code, control);
+}
+
+void TypeCharacter(wchar_t character) {
+    const SHORT key = VkKeyScanW(character);
+    if (HIBYTE(key) == 0) return Key(LOBYTE(key));
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = character;
+    input.ki.dwFlags = KEYEVENTF_UNICODE;
+    SendInput(1, &input, sizeof(input));
+}
+
+int SecondsOf(const std::string& face) {
+    int hours = 0, minutes = 0, seconds = 0;
+    if (std::sscanf(face.c_str(), "%d:%d:%d", &hours, &minutes, &seconds) != 3) Fail("no time: " + face);
+    return hours * 3600 + minutes * 60 + seconds;
+}
+
+// A text of several lines, their ends as "|".
+std::string InOneLine(std::string text) {
+    for (size_t at; (at = text.find("\r\n")) != std::string::npos;) text.replace(at, 2, "|");
+    return text;
+}
+
+void Until(const Condition& condition, const std::string& otherwise, int milliseconds = 10000) {
+    if (!Eventually(condition, milliseconds)) Fail(otherwise);
+}
+
+// "Field=value", or "Field=White's,Black's".
+void Set(Settings& settings, const std::string& assigned) {
+    const size_t sign = assigned.find('=');
+    const std::string name = assigned.substr(0, sign), value = assigned.substr(sign + 1), black = "," + value;
+    if (name == "White" || name == "Black") {
+        settings.PlayerNames[name == "White" ? White : Black] = ToAnsi(Wide(value));
+        return;
+    }
+    const int32_t number = std::stoi(value);
+    const std::array<int32_t, 2> pair{number, std::stoi(black.substr(black.rfind(',') + 1))};
+    bool known = false;
+    const auto field = [&](const char* which, auto set) {
+        if (name != which) return;
+        known = true;
+        set();
+    };
+    field("ClockType", [&] { settings.SetClockType(number); });
+    field("FirstPeriod", [&] { settings.Control.PeriodLimit = pair; });
+    field("Bonus", [&] { settings.Control.MoveBonus = pair; });
+    field("CountDown", [&] { settings.Control.CountTimeDown = number; });
+    field("TurnClock", [&] { settings.TurnClock = number; });
+    field("Scorlet", [&] { settings.OpenScorletAtStart = number; });
+    field("Pgn", [&] { settings.WritePgn = number; });
+    field("Language", [&] { settings.LanguageIndex = number; });
+    field("ButtonSound", [&] { settings.SetButtonSound(number); });
+    field("FlagSound", [&] { settings.SetFlagSound(number); });
+    if (!known) Fail("no setting " + name);
+}
+
+HWND EditorText() {
+    const HWND editor = FindWindowW(L"Notepad", nullptr);
+    return editor && IsWindowVisible(editor) ? GetWindow(editor, GW_CHILD) : nullptr;
+}
+
+DWORD ExitCodeOf(HANDLE process) {
+    DWORD code = 0;
+    GetExitCodeProcess(process, &code);
+    return code;
+}
+
+DWORD ProcessOf(HWND window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    return id;
+}
+
+// The help viewer, null until it shows its contents tree and is done with opening: before that it takes the foreground
+// again.
+HWND OpenViewer() {
+    const HWND viewer = FindWindowW(L"HH Parent", nullptr);
+    bool books = false;
+    const auto lookForTree = [](HWND child, LPARAM found) -> BOOL {
+        std::array<wchar_t, 32> kind{};
+        GetClassNameW(child, kind.data(), static_cast<int>(kind.size()));
+        if (kind.data() == std::wstring(WC_TREEVIEWW))
+            *reinterpret_cast<bool*>(found) = SendMessageW(child, TVM_GETCOUNT, 0, 0) > 0;
+        return TRUE;
+    };
+    EnumChildWindows(viewer, lookForTree, reinterpret_cast<LPARAM>(&books));
+    const UniqueFile process(OpenProcess(PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, ProcessOf(viewer)));
+    return books && WaitForInputIdle(process.get(), 0) == 0 && GetForegroundWindow() == viewer ? viewer : nullptr;
+}
+
+}  // namespace
+
+int Steps::TimeLeft() const {
+    const bool white = std::stoi(ValueOf("lblMoveCount.W")) > std::stoi(ValueOf("lblMoveCount.B"));
+    return SecondsOf(ValueOf(white ? "lblFace.W" : "lblFace.B"));
+}
+
+void Steps::AddLooks() {
+    const auto each = [this](const char* word, bool (*holds)(HWND)) {
+        Add(word, [this, holds](Words& words) {
+            for (std::string name; words.More();) Until([&] { return holds(Find(name)); }, name = words.Take());
+        });
+    };
+    each("shown", [](HWND window) { return IsWindowVisible(window) != 0; });
+    each("hidden", [](HWND window) { return !IsWindowVisible(window); });
+    each("enabled", [](HWND window) { return IsWindowEnabled(window) != 0; });
+    each("disabled", [](HWND window) { return window && !IsWindowEnabled(window); });
+    each("in-front", [](HWND window) { return window && window == GetForegroundWindow(); });
+    Add("see", [this](Words& words) {
+        const std::string name = words.Take();
+        Await([&] { return ValueOf(name); }, words.Take());
+    });
+    // To a screen reader.
+    Add("says", [this](Words& words) {
+        const HWND control = Shown(words.Take());
+        Await([&] { return Utf8(SpokenName(control)); }, words.Take());
+    });
+    Add("lists", [this](Words& words) { Await([this] { return Lists(); }, words.Take()); });
+    Add("counts", [this](Words& words) { Await([this] { return Counts(); }, words.Take()); });
+    // The move numbers while the clock runs, and all that shows whose turn it is.
+    Add("turn", [this](Words& words) {
+        const std::string white = words.Take(), black = words.Take(), runs = ". press pause focus !!!", waits = ". ";
+        const bool turn = std::stoi(white) > std::stoi(black);
+        Await([this] { return Turn(); }, white + (turn ? runs : waits) + black + (turn ? waits : runs));
+    });
+    Add("focus", [this](Words& words) {
+        const std::string wanted = std::to_string(IdOf(words.Take()));
+        Await([this] { return std::to_string(program->Focused()); }, wanted);
+    });
+    // With the button that answers it, where one does. No other window takes input meanwhile.
+    Add("message", [this](Words& words) {
+        const HWND box = Shown("message");
+        const auto text = [&] {
+            std::string all;
+            for (HWND part = nullptr; (part = FindWindowExW(box, part, L"Static", nullptr)) != nullptr;)
+                all += Utf8(TextOf(part));
+            return all;
+        };
+        Await(text, words.Take());
+        for (const char* form : {"frmClock", "frmScorlet", "frmSetup", "frmFiles"}) {
+            if (IsWindowEnabled(Find(form))) Fail(std::string(form) + " is enabled beside it");
+        }
+        if (!words.More()) return;
+        Click(Shown(words.Take()));
+        Until([&] { return !IsWindow(box); }, "the message stays");
+    });
+    // What has been sent to the window so far brought no message.
+    Add("silent", [this](Words&) {
+        SendMessageW(program->Clock(), WM_NULL, 0, 0);
+        if (program->Message()) Fail("a message");
+    });
+    Add("runs",
+        [this](Words&) { Until([this, before = TimeLeft()] { return TimeLeft() != before; }, "the clock stands"); });
+    // For longer than a tick takes.
+    Add("stands", [this](Words&) {
+        if (Eventually([this, before = TimeLeft()] { return TimeLeft() != before; }, 1200)) Fail("the clock runs");
+    });
+    // How many samples of the last sound played are loud: none, or more than so many.
+    Add("quiet", [](Words&) { Await([] { return std::to_string(LoudSamples()); }, "0"); });
+    Add("loud", [](Words& words) {
+        const auto wanted = static_cast<size_t>(words.Number());
+        Until([&] { return LoudSamples() > wanted; }, "less");
+    });
+    // The viewer of the help, a new one each time that it opens.
+    Add("help-opens", [this](Words&) {
+        const HWND before = viewer;
+        Until([&] { return (viewer = OpenViewer()) && viewer != before && !IsWindow(before); }, "no new viewer");
+    });
+    Add("help-in-front", [this](Words&) { Until([this] { return GetForegroundWindow() == viewer; }, "it is not"); });
+    Add("help-closed", [this](Words&) { Until([this] { return !IsWindow(viewer); }, "it is open"); });
+    Add("close-help", [this](Words&) { PostMessageW(viewer, WM_CLOSE, 0, 0); });
+    // The text in the editor, which then is ended.
+    Add("editor", [](Words& words) {
+        Until([] { return EditorText() != nullptr; }, "no editor");
+        const UniqueFile editor(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, ProcessOf(EditorText())));
+        Await([] { return InOneLine(Utf8(TextOf(EditorText()))); }, words.Take());
+        TerminateProcess(editor.get(), 0);
+        WaitForSingleObject(editor.get(), 5000);
+    });
+    Add("ended", [this](Words& words) {
+        Await([this] { return std::to_string(ExitCodeOf(program->Process())); }, words.Take());
+    });
+}
+
+void Steps::AddInput() {
+    Add("settings", [this](Words& words) {
+        Settings settings = QuietSettings();
+        while (words.More()) Set(settings, words.Take());
+        WriteSettingsFile(folder.Path(), settings);
+    });
+    Add("start", [this](Words& words) {
+        actions["settings"](words);
+        Launch();
+    });
+    Add("restart", [this](Words&) { Launch(); });
+    Add("close", [this](Words& words) { PostMessageW(Shown(words.Take()), WM_CLOSE, 0, 0); });
+    Add("front", [this](Words& words) {
+        const HWND window = Shown(words.Take());
+        SetForegroundWindow(window);
+        Until([&] { return GetForegroundWindow() == window; }, "it does not come");
+    });
+    Add("click", [this](Words& words) { Click(Shown(words.Take())); });
+    Add("rclick", [this](Words& words) { Click(Shown(words.Take()), true); });
+    // So many pixels from the right edge.
+    Add("click-end", [this](Words& words) {
+        const HWND control = Shown(words.Take());
+        RECT area{};
+        GetWindowRect(control, &area);
+        MoveMouseTo(control);
+        ClickAt({area.right - words.Number(), MiddleOf(control).y});
+    });
+    Add("mouse-away", [](Words&) { SetCursorPos(0, 0); });
+    Add("mouse-to", [this](Words& words) { MoveMouseTo(Shown(words.Take())); });
+    Add("mouse-down", [](Words&) { mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0); });
+    Add("mouse-up", [](Words&) { mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0); });
+    Add("wheel", [](Words& words) {
+        mouse_event(MOUSEEVENTF_WHEEL, 0, 0, static_cast<DWORD>(words.Number() * WHEEL_DELTA), 0);
+    });
+    // Near the upper left corner: the first line of a list.
+    Add("double-click", [this](Words& words) {
+        const HWND control = Shown(words.Take());
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+            PostMessageW(control, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(20, 5));
+    });
+    Add("key", [](Words& words) {
+        while (words.More()) Stroke(words.Take());
+    });
+    Add("key-down", [](Words& words) { SendKey(CodeOf(words.Take()), false); });
+    Add("key-up", [](Words& words) { SendKey(CodeOf(words.Take()), true); });
+    Add("type", [](Words& words) {
+        for (const wchar_t character : Wide(words.Take())) TypeCharacter(character);
+    });
+    // At once, as pasting does.
+    Add("put", [this](Words& words) {
+        const HWND field = Shown(words.Take());
+        SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(words.Take()).c_str()));
+    });
+    // By the keys: a menu of the bar and its entry by their places, separators not counted.
+    Add("menu", [this](Words& words) {
+        Do("in-front frmClock");
+        Key(VK_F10);
+        for (int menu = words.Number(); menu > 0; --menu) Key(VK_RIGHT);
+        for (int entry = words.Number(); entry >= 0; --entry) Key(VK_DOWN);
+        Key(VK_RETURN);
+    });
+    // An entry of the menu that has been opened over a list.
+    Add("pick", [this](Words& words) {
+        Until([this] { return program->FindWindowNow(L"#32768") != nullptr; }, "no menu");
+        for (int entry = words.Number(); entry >= 0; --entry) Key(VK_DOWN);
+        Key(VK_RETURN);
+        Until([this] { return !program->FindWindowNow(L"#32768"); }, "the menu stays");
+    });
+    Add("command", [this](Words& words) {
+        PostMessageW(program->Clock(), WM_COMMAND, static_cast<WPARAM>(IdOf(words.Take())), 0);
+    });
+    Add("drop", [this](Words& words) {
+        const std::string name = words.Take();
+        const HWND list = Shown(name);
+        // A second click on the same place would be a double click.
+        if (program->Focused() == IdOf(name))
+            Key(VK_F4);
+        else
+            Click(list);
+        Until([&] { return SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) != 0; }, "the list stays shut");
+    });
+    // An entry of a list that drops down, by its place.
+    Add("choose", [this](Words& words) {
+        const std::string name = words.Take();
+        Do("drop " + name + " / key Home Down*" + words.Take() + " Enter");
+        Until([&] { return !SendMessageW(Shown(name), CB_GETDROPPEDSTATE, 0, 0); }, "the list stays open");
+    });
+    Add("play", [this](Words& words) {
+        while (words.More()) {
+            const std::string move = words.Take();
+            for (const size_t at : {0, 2}) Click(Shown(move.substr(at, 2)));
+        }
+    });
+    // Moves by clicks, the clock pressed after each.
+    Add("move", [this](Words& words) {
+        while (words.More()) {
+            const std::string move = words.Take(), before = Counts();
+            Do("play " + move + " / see " + move.substr(0, 2) + " O / key Space");
+            Until([&] { return Counts() != before; }, "the clock is not pressed after " + move);
+        }
+    });
+    // So many by messages, as fast as the program takes them: most of the time of others goes into painting.
+    Add("presses", [this](Words& words) {
+        ShowWindow(program->Clock(), SW_MINIMIZE);
+        const int count = words.Number();
+        for (int done = 0; done < count; ++done)
+            PostMessageW(Find(done % 2 == 0 ? "cmdClock.B" : "cmdClock.W"), WM_LBUTTONDOWN, MK_LBUTTON,
+                         MAKELPARAM(5, 5));
+        Do("counts " + std::to_string((count + 1) / 2) + "." + std::to_string(count / 2) + ".");
+        ShowWindow(program->Clock(), SW_RESTORE);
+        Do("front frmClock");
+    });
+    Add("resize", [this](Words& words) {
+        const HWND window = Shown(words.Take());
+        const int width = words.Number();
+        SetWindowPos(window, nullptr, 0, 0, width, words.Number(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        UpdateWindow(window);
+    });
+}
+
+void Steps::AddFaults() {
+    // Lines of a shell of the Unix that the system lies on, run in the folder: they must end well. $W is the folder of
+    // the system.
+    Add("sh", [this](Words& words) { RunShell(words.Take()); });
+    // Lines for the end of the scenario, however it ends.
+    Add("at-end", [this](Words& words) { linesAtEnd = words.Take(); });
+    Add("lock", [this](Words& words) {
+        const std::wstring path = folder.Path() + Wide(words.Take());
+        held.reset(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    });
+    Add("unlock", [this](Words&) { held.reset(); });
+    Add("no-sound-device", [this](Words&) { HideSoundDevice(soundDeviceHidden = true); });
+    Add("listen", [](Words&) {
+        if (CaptureFile().empty()) Fail("TORVANIX_SOUND_CAPTURE names no file");
+        Remove(CaptureFile());
+    });
+    Add("no-sound", [](Words&) { Await([] { return Exists(CaptureFile()) ? "a device" : ""; }, ""); });
+    // A program by its path, with its parameters: it ends with that code.
+    Add("run", [](Words& words) {
+        const std::string code = words.Take();
+        const std::wstring path = Wide(words.Take());
+        const UniqueFile process = StartProgram(path, L"\"" + path + L"\" " + Wide(words.Take()));
+        Await([&] { return std::to_string(ExitCodeOf(process.get())); }, code);
+    });
+    Add("launch", [this](Words& words) { Launch(Wide(words.Take())); });
+    // What the list of installed programs says.
+    Add("listed", [](Words& words) {
+        const std::wstring name = Wide(words.Take());
+        const auto value = [&] {
+            std::array<wchar_t, MAX_PATH * 2> text{};
+            DWORD size = sizeof(text);
+            RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\TORVANIX",
+                         name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size);
+            return Utf8(text.data());
+        };
+        Await(value, words.Take());
+    });
+    // The default button of another program's window.
+    Add("press-default", [](Words& words) {
+        const std::wstring title = Wide(words.Take());
+        const auto button = [&] { return GetDlgItem(FindWindowW(nullptr, title.c_str()), IDOK); };
+        Until([&] { return IsWindowVisible(button()) && IsWindowEnabled(button()); }, "no button");
+        PostMessageW(button(), BM_CLICK, 0, 0);
+    });
+    Add("load-library", [](Words& words) {
+        if (!FreeLibrary(LoadLibraryW(Wide(words.Take()).c_str()))) Fail("not loaded");
+    });
+    Add("take-clipboard", [](Words&) { Until([] { return OpenClipboard(nullptr) != 0; }, "it is held"); });
+    Add("give-clipboard", [](Words&) { CloseClipboard(); });
+    // The system's own function answers 0 in the program, or is itself again: it lies at one place in all programs.
+    Add("timers", [this](Words& words) {
+        void* const function = reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetTimer"));
+        std::string code = "\x31\xC0\xC3";  // xor eax, eax; ret
+        if (words.Take() != "refused") std::memcpy(code.data(), function, code.size());
+        DWORD protection = 0;
+        const HANDLE process = program->Process();
+        VirtualProtectEx(process, function, code.size(), PAGE_EXECUTE_READWRITE, &protection);
+        if (!WriteProcessMemory(process, function, code.data(), code.size(), nullptr)) Fail("not written");
+        VirtualProtectEx(process, function, code.size(), protection, &protection);
+        FlushInstructionCache(process, function, code.size());
+    });
+}

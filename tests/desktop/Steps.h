@@ -1,0 +1,73 @@
+#pragma once
+
+#include "tests/desktop/Desktop.h"
+
+#include <map>
+#include <stdexcept>
+
+// The words of a step after its first.
+class Words {
+  public:
+    explicit Words(const std::vector<std::string>& words) : words(words) {}
+    bool More() const { return next < words.size(); }
+    std::string Take();
+    int Number() { return std::stoi(Take()); }
+
+  private:
+    const std::vector<std::string>& words;
+    size_t next = 1;
+};
+
+// Plays steps with the real program in a folder of its own. Steps are parted by " / "; each is a word with what it
+// takes, and what one of them looks for it waits for. StepWords.cpp has the words; a line "word = steps" in a file of
+// steps adds one, whose parts are $1, $2 and so on. A text that is looked for may hold * for any text; %FOLDER% in it
+// is the program's folder.
+class Steps {
+  public:
+    Steps();
+    ~Steps();
+    Steps(const Steps&) = delete;
+    Steps& operator=(const Steps&) = delete;
+
+    // Throws std::runtime_error at the step that fails, with what there was and what should have been.
+    void Do(const std::string& steps);
+
+    const std::wstring& Folder() const { return folder.Path(); }
+    ProgramRun& Program() { return *program; }
+    // Starts a copy of the program in the folder, or the program where it is installed.
+    void Launch(const std::wstring& installed = {});
+
+  private:
+    void Add(const char* word, std::function<void(Words&)> action) { actions[word] = std::move(action); }
+    void AddLooks();
+    void AddInput();
+    void AddFaults();
+    void RunShell(const std::string& lines) const;
+
+    HWND Find(const std::string& name) const;   // null where there is none now
+    HWND Shown(const std::string& name) const;  // waited for
+    std::string ValueOf(const std::string& name) const;
+    std::string Turn();
+    std::string Counts() const { return ValueOf("lblMoveCount.W") + ValueOf("lblMoveCount.B"); }
+    std::string Lists() const { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }
+    int TimeLeft() const;  // of the side to move
+
+    TestFolder folder;
+    std::optional<ProgramRun> program;
+    std::map<std::string, std::function<void(Words&)>> actions;
+    UniqueFile held;
+    std::string linesAtEnd;
+    bool soundDeviceHidden = false;
+    HWND viewer = nullptr;  // of the help
+};
+
+[[noreturn]] inline void Fail(const std::string& what) { throw std::runtime_error(what); }
+
+// The number of "lblFace.B", "imgKnight+3", "e4" or "2011".
+int IdOf(const std::string& name);
+
+// Waits until a text comes to be the one that is wanted, in which * stands for any text.
+void Await(const std::function<std::string()>& got, const std::string& wanted);
+
+// Makes a test of each scenario in the files of steps of a folder of tests: a line "# name", and lines of steps.
+void RegisterScenarios(const std::string& folder);
