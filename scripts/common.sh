@@ -93,8 +93,8 @@ open_test_desktop() {
     wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
 
     # What is played lands in a file, by way of a sound device that this configuration makes.
-    export ALSA_CONFIG_PATH=$PWD/build/asound.conf
-    capture=$PWD/build/sound.raw
+    export ALSA_CONFIG_PATH=$PWD/build/asound-$1.conf
+    local capture=$PWD/build/sound-$1.raw
     rm -f "$capture"
     cat >"$ALSA_CONFIG_PATH" <<EOF
 </usr/share/alsa/alsa.conf>
