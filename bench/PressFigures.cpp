@@ -104,7 +104,8 @@ std::vector<double> MeasureBareControl(int count) {
 
 std::vector<double> MeasureKeys(int count) {
     const TestFolder folder;
-    ProgramRun program(folder, WithBonus());
+    WriteSettingsFile(folder.Path(), WithBonus());
+    ProgramRun program(PutProgramInto(folder));
     program.Clock();
     Key(VK_SPACE);
     if (!Eventually([&] { return program.Focused() == ControlOf(cmdClock, White); }))

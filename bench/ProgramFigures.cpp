@@ -19,14 +19,12 @@ constexpr int Starts = 20, Presses = 1000;
 // A folder with the program and its settings.
 class Installed {
   public:
-    explicit Installed(const Settings& settings) {
-        CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), Path().c_str(), FALSE);
-        WriteSettingsFile(folder.Path(), settings);
-    }
-    std::wstring Path() const { return folder.Path() + L"torvanix.exe"; }
+    explicit Installed(const Settings& settings) { WriteSettingsFile(folder.Path(), settings); }
+    const std::wstring& Path() const { return path; }
 
   private:
     TestFolder folder;
+    const std::wstring path = PutProgramInto(folder);
 };
 
 std::wstring EmptyProgram() { return BuildFolder() + L"empty_window.exe"; }

@@ -95,8 +95,8 @@ open_test_desktop() {
     wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
 
     # This configuration makes a sound device that writes what is played to a file.
-    export ALSA_CONFIG_PATH=$PWD/build/asound.conf
-    capture=$PWD/build/sound.raw
+    export ALSA_CONFIG_PATH=$PWD/build/asound-$1.conf
+    local capture=$PWD/build/sound-$1.raw
     rm -f "$capture"
     cat >"$ALSA_CONFIG_PATH" <<EOF
 </usr/share/alsa/alsa.conf>

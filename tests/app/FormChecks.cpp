@@ -6,16 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr int DropButton = 26, CheckMark = 20, ButtonEdges = 10;  // in the 96 dpi design
-
-bool IsKind(HWND control, const wchar_t* kind) {
-    std::array<wchar_t, 64> name{};
-    GetClassNameW(control, name.data(), static_cast<int>(name.size()));
-    return lstrcmpiW(name.data(), kind) == 0;
-}
 
 DWORD StyleOf(HWND control) { return static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE)); }
 
@@ -78,6 +73,22 @@ BOOL WINAPI AnswerParameter(UINT action, UINT number, PVOID value, UINT flags) {
         static_cast<HIGHCONTRASTW*>(value)->dwFlags |= HCF_HIGHCONTRASTON;
     return done;
 }
+
+class HighContrastOn {
+  public:
+    HighContrastOn() {
+        for (size_t i = 0; i < Indexes.size(); ++i) previous[i] = GetSysColor(Indexes[i]);
+        Set(true, Strange);
+    }
+    ~HighContrastOn() { Set(false, previous); }
+
+  private:
+    static void Set(bool on, const std::array<COLORREF, 7>& colours) {
+        SetSysColors(static_cast<INT>(Indexes.size()), Indexes.data(), colours.data());
+        highContrast = on;
+    }
+    std::array<COLORREF, 7> previous;
+};
 
 bool OfTheSystem(COLORREF colour) { return std::find(Strange.begin(), Strange.end(), colour) != Strange.end(); }
 
@@ -144,18 +155,8 @@ void ExpectTextsFit(HWND form, bool drawnTexts) {
     }
 }
 
-HighContrastOn::HighContrastOn() {
-    for (size_t i = 0; i < Indexes.size(); ++i) previous[i] = GetSysColor(Indexes[i]);
-    SetSysColors(static_cast<INT>(Indexes.size()), Indexes.data(), Strange.data());
-    highContrast = true;
-}
-
-HighContrastOn::~HighContrastOn() {
-    highContrast = false;
-    SetSysColors(static_cast<INT>(Indexes.size()), Indexes.data(), previous.data());
-}
-
 void ExpectSystemColours(HWND form) {
+    const HighContrastOn contrast;
     for (const HWND control : ControlsOf(form, 0)) {
         RECT area{};
         GetClientRect(control, &area);

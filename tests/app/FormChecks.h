@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <array>
-
 // What every form is held to, in whatever state it is shown.
 
 // Every visible control has a name for screen readers: its own text, a text given to them, or the label before it. And
@@ -15,19 +13,7 @@ void ExpectReadable(HWND form);
 // its texts itself in the fonts of their controls, those too.
 void ExpectTextsFit(HWND form, bool drawnTexts);
 
-// High contrast for its own life, with system colours that the program has nowhere else. For the windows of this
+// At high contrast, with system colours that the program has nowhere else: every control that the form draws, and its
+// ground and labels, are drawn in the system's colours, and all of it anew when they change. For the windows of this
 // process: the system itself cannot be told so everywhere.
-class HighContrastOn {
-  public:
-    HighContrastOn();
-    ~HighContrastOn();
-    HighContrastOn(const HighContrastOn&) = delete;
-    HighContrastOn& operator=(const HighContrastOn&) = delete;
-
-  private:
-    std::array<COLORREF, 7> previous;
-};
-
-// Every control that the form draws, and its ground and labels, are drawn in the system's colours, and all of it anew
-// when they change.
 void ExpectSystemColours(HWND form);

@@ -6,7 +6,6 @@
 #include <oleacc.h>
 
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -97,22 +96,18 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds) {
     return true;
 }
 
+bool IsKind(HWND window, const wchar_t* className) {
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    return lstrcmpiW(name.data(), className) == 0;
+}
+
 std::wstring TextOf(HWND window) {
     std::array<wchar_t, 1024> text{};
     DWORD_PTR length = 0;
     SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_NORMAL, 5000,
                         &length);
     return text.data();
-}
-
-std::vector<std::wstring> LinesOf(HWND list) {
-    std::vector<std::wstring> lines(static_cast<size_t>(SendMessageW(list, LB_GETCOUNT, 0, 0)));
-    for (size_t i = 0; i < lines.size(); ++i) {
-        std::array<wchar_t, 256> line{};
-        SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
-        lines[i] = line.data();
-    }
-    return lines;
 }
 
 std::wstring SpokenName(HWND control) {
@@ -176,28 +171,6 @@ std::string ReadFileText(const std::wstring& path) {
 
 bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
-std::wstring CaptureFile() {
-    const wchar_t* path = _wgetenv(L"TORVANIX_SOUND_CAPTURE");
-    return path ? path : L"";
-}
-
-size_t LoudSamples() {
-    const std::string stream = ReadFileText(CaptureFile());
-    size_t count = 0;
-    for (size_t i = 0; i + 1 < stream.size(); i += 2) {
-        const auto sample =
-            static_cast<int16_t>(static_cast<uint8_t>(stream[i]) | static_cast<uint8_t>(stream[i + 1]) << 8);
-        if (std::abs(sample) > 2000) ++count;
-    }
-    return count;
-}
-
-void HideSoundDevice(bool hidden) {
-    const std::wstring driver = hidden ? L"" : L"alsa";
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Audio", REG_SZ, driver.c_str(),
-                    static_cast<DWORD>((driver.size() + 1) * sizeof(wchar_t)));
-}
-
 Settings QuietSettings(bool withScorlet) {
     Settings settings;
     settings.SetButtonSound(0);
@@ -211,18 +184,10 @@ void WriteSettingsFile(const std::wstring& programFolder, const Settings& settin
     WriteFileText(programFolder + L"Data\\TORVANIX.set", EncodeRecord(EncodeSettings(settings)));
 }
 
-namespace {
-
-std::wstring PutInto(const std::wstring& folder, const std::optional<Settings>& settings) {
-    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), (folder + L"torvanix.exe").c_str(), FALSE);
-    if (settings) WriteSettingsFile(folder, *settings);
-    return folder + L"torvanix.exe";
+std::wstring PutProgramInto(const TestFolder& folder) {
+    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), (folder.Path() + L"torvanix.exe").c_str(), FALSE);
+    return folder.Path() + L"torvanix.exe";
 }
-
-}  // namespace
-
-ProgramRun::ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings)
-    : ProgramRun(PutInto(folder.Path(), settings)) {}
 
 ProgramRun::ProgramRun(const std::wstring& program) : process(StartProgram(program)) {}
 
@@ -246,26 +211,14 @@ std::vector<HWND> ProgramRun::Windows() const {
 
 HWND ProgramRun::FindWindowNow(const std::wstring& className) const {
     for (const HWND window : Windows()) {
-        std::array<wchar_t, 32> name{};
-        GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-        if (className == name.data()) return window;
+        if (IsKind(window, className.c_str())) return window;
     }
     return nullptr;
 }
 
-HWND ProgramRun::WaitWindow(const std::wstring& className) const {
-    HWND window = nullptr;
-    if (!Eventually([&] { return (window = FindWindowNow(className)) != nullptr; }, 20000))
-        throw std::runtime_error("no window " + Utf8(className));
-    return window;
-}
-
 HWND ProgramRun::Clock() {
-    if (!clock) {
-        clock = WaitWindow(L"frmClock");
-        // Input sent before the window is in front would go elsewhere.
-        Eventually([&] { return GetForegroundWindow() == clock || Message(); });
-    }
+    if (!clock && !Eventually([&] { return (clock = FindWindowNow(L"frmClock")) != nullptr; }, 20000))
+        throw std::runtime_error("the clock does not open");
     return clock;
 }
 
@@ -274,19 +227,4 @@ int ProgramRun::Focused() {
     info.cbSize = sizeof(info);
     if (!GetGUIThreadInfo(GetWindowThreadProcessId(Clock(), nullptr), &info) || !info.hwndFocus) return 0;
     return GetAncestor(info.hwndFocus, GA_ROOT) == info.hwndFocus ? -1 : GetDlgCtrlID(info.hwndFocus);
-}
-
-bool ProgramRun::Close() {
-    PostMessageW(Clock(), WM_CLOSE, 0, 0);
-    return WaitEnd();
-}
-
-bool ProgramRun::WaitEnd(int milliseconds) const {
-    return WaitForSingleObject(process.get(), static_cast<DWORD>(milliseconds)) == WAIT_OBJECT_0;
-}
-
-DWORD ProgramRun::ExitCode() const {
-    DWORD code = 0;
-    GetExitCodeProcess(process.get(), &code);
-    return code;
 }

@@ -7,7 +7,6 @@
 #include <windows.h>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,9 +19,9 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000
 // Where the programs lie that the build makes, this one among them; with a trailing backslash.
 std::wstring BuildFolder();
 
-// Of a window of any process: its text, the lines of a list box, the name that a screen reader says.
+// Of a window of any process: whether it is of a class, its text, the name that a screen reader says.
+bool IsKind(HWND window, const wchar_t* className);
 std::wstring TextOf(HWND window);
-std::vector<std::wstring> LinesOf(HWND list);
 std::wstring SpokenName(HWND control);
 
 std::string Utf8(const std::wstring& text);
@@ -59,48 +58,34 @@ void WriteFileText(const std::wstring& path, const std::string& bytes);
 std::string ReadFileText(const std::wstring& path);  // empty where there is no such file
 bool Exists(const std::wstring& path);
 
-// What the program has played, where the sound system of this machine writes it to a file.
-std::wstring CaptureFile();
-// Samples of the last sound played that are not silence: every sound begins the 16-bit stream anew.
-size_t LoudSamples();
-
-// Whether programs that start from now on find no sound device. Only Wine can be told so; elsewhere they find what
-// there is.
-void HideSoundDevice(bool hidden);
-
 // The DEFAULT preset without sounds, and without the Scorlet where it is not asked for.
 Settings QuietSettings(bool withScorlet = false);
 // The settings file of a program in that folder.
 void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings);
 
-// One run of torvanix.exe.
+// A copy of the program in the folder; its path.
+std::wstring PutProgramInto(const TestFolder& folder);
+
+// One run of the program at a path, ended with the object.
 class ProgramRun {
   public:
-    // Copies the program into the folder, and the settings when given, and starts it.
-    explicit ProgramRun(const TestFolder& folder, const std::optional<Settings>& settings = std::nullopt);
-    // Starts a program file where it is.
-    explicit ProgramRun(const std::wstring& program);
+    explicit ProgramRun(const std::wstring& path);
     ~ProgramRun();
     ProgramRun(const ProgramRun&) = delete;
     ProgramRun& operator=(const ProgramRun&) = delete;
 
     // Its visible windows, the one in front first.
     std::vector<HWND> Windows() const;
-    // The one of a class, null where there is none; and waited for.
+    // The one of a class, null where there is none.
     HWND FindWindowNow(const std::wstring& className) const;
-    HWND WaitWindow(const std::wstring& className) const;
     HWND Message() const { return FindWindowNow(L"#32770"); }  // the message box that is open
-    HWND Clock();                                              // the clock window, waited for once
+    HWND Clock();                                              // the clock window, waited for
 
     HWND Control(int id) { return GetDlgItem(Clock(), id); }
     std::wstring Text(int id) { return TextOf(Control(id)); }
     // Number of the control with the focus, -1 for a window without number, 0 for none.
     int Focused();
 
-    // Closes the clock window; false when the process has not ended by the deadline.
-    bool Close();
-    bool WaitEnd(int milliseconds = 10000) const;
-    DWORD ExitCode() const;
     HANDLE Process() const { return process.get(); }
 
   private:

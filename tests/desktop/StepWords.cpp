@@ -5,15 +5,16 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <stdexcept>
 
 // The words of the steps.
 
 namespace {
-
-using Condition = std::function<bool()>;
 
 const std::map<std::string, WORD> NamedKeys{
     {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},   {"Tab", VK_TAB},   {"Back", VK_BACK},
@@ -33,16 +34,6 @@ void Stroke(const std::string& keys) {
         Key(code, control);
 }
 
-void TypeCharacter(wchar_t character) {
-    const SHORT key = VkKeyScanW(character);
-    if (HIBYTE(key) == 0) return Key(LOBYTE(key));
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = character;
-    input.ki.dwFlags = KEYEVENTF_UNICODE;
-    SendInput(1, &input, sizeof(input));
-}
-
 int SecondsOf(const std::string& face) {
     int hours = 0, minutes = 0, seconds = 0;
     if (std::sscanf(face.c_str(), "%d:%d:%d", &hours, &minutes, &seconds) != 3) Fail("no time: " + face);
@@ -55,7 +46,7 @@ std::string InOneLine(std::string text) {
     return text;
 }
 
-void Until(const Condition& condition, const std::string& otherwise, int milliseconds = 10000) {
+void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds = 10000) {
     if (!Eventually(condition, milliseconds)) Fail(otherwise);
 }
 
@@ -88,6 +79,21 @@ void Set(Settings& settings, const std::string& assigned) {
     if (!known) Fail("no setting " + name);
 }
 
+// What the program has played, where the sound system of this machine writes it to a file.
+std::wstring CaptureFile() {
+    const wchar_t* path = _wgetenv(L"TORVANIX_SOUND_CAPTURE");
+    return path ? path : throw std::runtime_error("TORVANIX_SOUND_CAPTURE names no file");
+}
+
+// Samples of the last sound played that are not silence: every sound begins the 16-bit stream anew.
+size_t LoudSamples() {
+    const std::string stream = ReadFileText(CaptureFile());
+    std::vector<int16_t> samples(stream.size() / sizeof(int16_t));
+    std::memcpy(samples.data(), stream.data(), samples.size() * sizeof(int16_t));
+    return static_cast<size_t>(
+        std::count_if(samples.begin(), samples.end(), [](int16_t sample) { return std::abs(sample) > 2000; }));
+}
+
 HWND EditorText() {
     const HWND editor = FindWindowW(L"Notepad", nullptr);
     return editor && IsWindowVisible(editor) ? GetWindow(editor, GW_CHILD) : nullptr;
@@ -111,10 +117,7 @@ HWND OpenViewer() {
     const HWND viewer = FindWindowW(L"HH Parent", nullptr);
     bool books = false;
     const auto lookForTree = [](HWND child, LPARAM found) -> BOOL {
-        std::array<wchar_t, 32> kind{};
-        GetClassNameW(child, kind.data(), static_cast<int>(kind.size()));
-        if (kind.data() == std::wstring(WC_TREEVIEWW))
-            *reinterpret_cast<bool*>(found) = SendMessageW(child, TVM_GETCOUNT, 0, 0) > 0;
+        if (IsKind(child, WC_TREEVIEWW)) *reinterpret_cast<bool*>(found) = SendMessageW(child, TVM_GETCOUNT, 0, 0) > 0;
         return TRUE;
     };
     EnumChildWindows(viewer, lookForTree, reinterpret_cast<LPARAM>(&books));
@@ -262,7 +265,13 @@ void Steps::AddInput() {
     Add("key-down", [](Words& words) { SendKey(CodeOf(words.Take()), false); });
     Add("key-up", [](Words& words) { SendKey(CodeOf(words.Take()), true); });
     Add("type", [](Words& words) {
-        for (const wchar_t character : Wide(words.Take())) TypeCharacter(character);
+        for (const wchar_t character : Wide(words.Take())) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wScan = character;
+            input.ki.dwFlags = KEYEVENTF_UNICODE;
+            SendInput(1, &input, sizeof(input));
+        }
     });
     // At once, as pasting does.
     Add("put", [this](Words& words) {
@@ -317,17 +326,6 @@ void Steps::AddInput() {
             Until([&] { return Counts() != before; }, "the clock is not pressed after " + move);
         }
     });
-    // So many by messages, as fast as the program takes them: most of the time of others goes into painting.
-    Add("presses", [this](Words& words) {
-        ShowWindow(program->Clock(), SW_MINIMIZE);
-        const int count = words.Number();
-        for (int done = 0; done < count; ++done)
-            PostMessageW(Find(done % 2 == 0 ? "cmdClock.B" : "cmdClock.W"), WM_LBUTTONDOWN, MK_LBUTTON,
-                         MAKELPARAM(5, 5));
-        Do("counts " + std::to_string((count + 1) / 2) + "." + std::to_string(count / 2) + ".");
-        ShowWindow(program->Clock(), SW_RESTORE);
-        Do("front frmClock");
-    });
     Add("resize", [this](Words& words) {
         const HWND window = Shown(words.Take());
         const int width = words.Number();
@@ -342,16 +340,36 @@ void Steps::AddFaults() {
     Add("sh", [this](Words& words) { RunShell(words.Take()); });
     // Lines for the end of the scenario, however it ends.
     Add("at-end", [this](Words& words) { linesAtEnd = words.Take(); });
+    // Saves by a Yes and measures it; or kills the program so many eighteenths of that time after the first change.
+    Add("answer-yes", [this](Words& words) {
+        const auto files = [this] {
+            std::string names;
+            for (const auto& entry : std::filesystem::directory_iterator(folder.Path() + L"SavedGames"))
+                names += entry.path().filename().string();
+            return names;
+        };
+        const std::string before = files();
+        PostMessageW(program->Message(), WM_COMMAND, IDYES, 0);
+        const auto start = Time::now();
+        if (!words.More()) {
+            Do("hidden frmFiles");
+            savingTime = Time::now() - start;
+            return;
+        }
+        while (files() == before && Time::now() < start + savingTime) {
+        }
+        const Time::time_point kill = Time::now() + savingTime * words.Number() / 18;
+        while (Time::now() < kill) {
+        }
+        TerminateProcess(program->Process(), 99);
+    });
     Add("lock", [this](Words& words) {
         const std::wstring path = folder.Path() + Wide(words.Take());
         held.reset(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     });
     Add("unlock", [this](Words&) { held.reset(); });
-    Add("no-sound-device", [this](Words&) { HideSoundDevice(soundDeviceHidden = true); });
-    Add("listen", [](Words&) {
-        if (CaptureFile().empty()) Fail("TORVANIX_SOUND_CAPTURE names no file");
-        Remove(CaptureFile());
-    });
+    Add("no-sound-device", [this](Words&) { HideSoundDevice(true); });
+    Add("listen", [](Words&) { Remove(CaptureFile()); });
     Add("no-sound", [](Words&) { Await([] { return Exists(CaptureFile()) ? "a device" : ""; }, ""); });
     // A program by its path, with its parameters: it ends with that code.
     Add("run", [](Words& words) {

@@ -21,8 +21,9 @@ const std::map<std::string, int> Controls{
 };
 
 struct Scenario {
-    std::string Folder, File, Name;
+    std::filesystem::path File;
     int Number;
+    std::string Name;
     std::map<int, std::string> Lines;  // by their numbers
 };
 struct Script {
@@ -34,21 +35,17 @@ Script ReadFiles() {
     Script script;
     const std::regex word("([a-z-]+) = (.*)");
     for (const auto& entry : std::filesystem::recursive_directory_iterator(TESTS)) {
-        if (entry.path().extension() != ".steps") continue;
-        std::ifstream file(entry.path());
+        const std::filesystem::path& file = entry.path();
+        std::ifstream lines(file.extension() == ".steps" ? file : "");
         std::string line;
-        for (int number = 1; std::getline(file, line); ++number) {
+        for (int number = 1; std::getline(lines, line); ++number) {
             std::smatch parts;
             if (std::regex_match(line, parts, word))
                 script.Words[parts[1]] = parts[2];
             else if (line.starts_with("# "))
-                script.Scenarios.push_back({entry.path().parent_path().filename().string(),
-                                            entry.path().filename().string(),
-                                            line.substr(2),
-                                            number,
-                                            {}});
+                script.Scenarios.push_back({file, number, line.substr(2), {}});
             else if (!line.empty())
-                script.Scenarios.back().Lines[number] = line;
+                script.Scenarios.at(script.Scenarios.size() - 1).Lines[number] = line;
         }
     }
     return script;
@@ -61,6 +58,7 @@ const Script& TheScript() {
 
 // Steps apart, and the words of each: quotation marks keep blanks and strokes together.
 std::vector<std::vector<std::string>> Split(const std::string& line) {
+    if (std::count(line.begin(), line.end(), '"') % 2 != 0) Fail("a quotation mark is missing");
     static const std::regex word(R"((?:[^ "]|"[^"]*")+)");
     std::vector<std::vector<std::string>> steps(1);
     for (std::sregex_iterator it(line.begin(), line.end(), word), end; it != end; ++it) {
@@ -85,49 +83,43 @@ bool Matches(std::string_view got, std::string_view wanted) {
     return false;
 }
 
-bool IsKind(HWND control, const wchar_t* kind) {
-    std::array<wchar_t, 32> name{};
-    GetClassNameW(control, name.data(), static_cast<int>(name.size()));
-    return lstrcmpiW(name.data(), kind) == 0;
-}
+struct ScenarioTest : testing::Test {
+    explicit ScenarioTest(const Scenario& scenario) : Played(scenario) {}
 
-class ScenarioTest : public testing::Test {
-  public:
-    explicit ScenarioTest(const Scenario& scenario) : scenario(scenario) {}
-
-  private:
     void TestBody() override {
         Steps steps;
-        for (const auto& [number, line] : scenario.Lines) {
-            try {
-                steps.Do(line);
-            } catch (const std::exception& error) {
-                ADD_FAILURE_AT(scenario.File.c_str(), number) << error.what();
-                return;
+        int number = Played.Number;
+        try {
+            if (Played.Lines.empty()) Fail("no steps");
+            for (const auto& line : Played.Lines) {
+                number = line.first;
+                steps.Do(line.second);
             }
+        } catch (const std::exception& error) {
+            ADD_FAILURE_AT(Played.File.string().c_str(), number) << error.what();
         }
     }
 
-    const Scenario& scenario;
+    const Scenario& Played;
 };
 
 }  // namespace
 
 void RegisterScenarios(const std::string& folder) {
+    int count = 0;
     for (const Scenario& scenario : TheScript().Scenarios) {
-        if (scenario.Folder != folder) continue;
-        std::string name = scenario.Name;
-        std::replace_if(
-            name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
-        testing::RegisterTest(scenario.File.substr(0, scenario.File.find('.')).c_str(), name.c_str(), nullptr, nullptr,
-                              scenario.File.c_str(), scenario.Number,
+        if (scenario.File.parent_path().filename() != folder) continue;
+        ++count;
+        const std::string name = std::regex_replace(scenario.Name, std::regex("\\W"), "_");
+        testing::RegisterTest(scenario.File.stem().string().c_str(), name.c_str(), nullptr, nullptr,
+                              scenario.File.string().c_str(), scenario.Number,
                               [&]() -> testing::Test* { return new ScenarioTest(scenario); });
     }
+    if (count == 0) Fail("no scenarios in " + folder);
 }
 
 int IdOf(const std::string& name) {
     if (name.size() == 2 && name[0] >= 'a') return picBoard + (name[0] - 'a' + 1) * 10 + (name[1] - '0');
-    if (std::isdigit(static_cast<unsigned char>(name[0]))) return std::stoi(name);
     const size_t end = std::min(name.find_first_of(".+"), name.size());
     const auto found = Controls.find(name.substr(0, end));
     if (found == Controls.end()) Fail("no control " + name);
@@ -148,6 +140,14 @@ std::string Words::Take() {
     return Utf8(expanded.data());
 }
 
+// Whether programs that start from now on find a sound device.
+void Steps::HideSoundDevice(bool hidden) {
+    soundDeviceHidden = hidden;
+    const std::wstring driver = hidden ? L"" : L"alsa";
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Audio", REG_SZ, driver.c_str(),
+                    static_cast<DWORD>((driver.size() + 1) * sizeof(wchar_t)));
+}
+
 Steps::Steps() {
     SYSTEMTIME now;
     GetLocalTime(&now);
@@ -165,7 +165,11 @@ Steps::Steps() {
 Steps::~Steps() {
     program.reset();
     if (soundDeviceHidden) HideSoundDevice(false);
-    if (!linesAtEnd.empty()) RunShell(linesAtEnd);
+    try {
+        if (!linesAtEnd.empty()) RunShell(linesAtEnd);
+    } catch (const std::exception& error) {
+        ADD_FAILURE() << error.what();
+    }
 }
 
 void Steps::Do(const std::string& steps) {
@@ -195,10 +199,7 @@ void Steps::Do(const std::string& steps) {
 
 void Steps::Launch(const std::wstring& installed) {
     program.reset();
-    if (installed.empty())
-        program.emplace(folder);
-    else
-        program.emplace(installed);
+    program.emplace(installed.empty() ? PutProgramInto(folder) : installed);
     const auto ready = [&] {
         const HWND clock = program->FindWindowNow(L"frmClock");
         if (program->Message()) return true;
@@ -244,7 +245,11 @@ std::string Steps::ValueOf(const std::string& name) const {
         return SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED ? "on" : "off";
     if (!IsKind(control, L"LISTBOX")) return Utf8(TextOf(control));
     std::string lines;
-    for (const std::wstring& line : LinesOf(control)) lines += (lines.empty() ? "" : "|") + Utf8(line);
+    for (LRESULT i = 0, count = SendMessageW(control, LB_GETCOUNT, 0, 0); i < count; ++i) {
+        std::array<wchar_t, 256> line{};
+        SendMessageW(control, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(line.data()));
+        lines += (i > 0 ? "|" : "") + Utf8(line.data());
+    }
     return lines;
 }
 

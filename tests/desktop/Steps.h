@@ -2,7 +2,9 @@
 
 #include "tests/desktop/Desktop.h"
 
+#include <chrono>
 #include <map>
+#include <optional>
 #include <stdexcept>
 
 // The words of a step after its first.
@@ -38,11 +40,14 @@ class Steps {
     void Launch(const std::wstring& installed = {});
 
   private:
+    using Time = std::chrono::steady_clock;
+
     void Add(const char* word, std::function<void(Words&)> action) { actions[word] = std::move(action); }
     void AddLooks();
     void AddInput();
     void AddFaults();
     void RunShell(const std::string& lines) const;
+    void HideSoundDevice(bool hidden);
 
     HWND Find(const std::string& name) const;   // null where there is none now
     HWND Shown(const std::string& name) const;  // waited for
@@ -56,6 +61,7 @@ class Steps {
     std::optional<ProgramRun> program;
     std::map<std::string, std::function<void(Words&)>> actions;
     UniqueFile held;
+    Time::duration savingTime{};
     std::string linesAtEnd;
     bool soundDeviceHidden = false;
     HWND viewer = nullptr;  // of the help
@@ -63,7 +69,7 @@ class Steps {
 
 [[noreturn]] inline void Fail(const std::string& what) { throw std::runtime_error(what); }
 
-// The number of "lblFace.B", "imgKnight+3", "e4" or "2011".
+// The number of "lblFace.B", "imgKnight+3" or "e4".
 int IdOf(const std::string& name);
 
 // Waits until a text comes to be the one that is wanted, in which * stands for any text.

@@ -11,10 +11,7 @@ namespace {
 
 class clsFileSystemTest : public testing::Test {
   protected:
-    struct Com {
-        Com() { CoInitialize(nullptr); }
-        ~Com() { CoUninitialize(); }
-    } com;
+    const HRESULT library = CoInitialize(nullptr);
     TestFolder folder;
     clsFileSystem fileSystem;
 };
