@@ -82,6 +82,7 @@ class Game final : public ScorletGame {
     void Show(ClockEvent event, ClockChange change = {.Phase = true});
     void ShowWhole();
     void ReplaceRecord(const Recorder& other);
+    void KeepResultIfFallen();
 
     Settings& settings;
     ClockCommands clock;
