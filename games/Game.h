@@ -52,7 +52,7 @@ class Game final : public ScorletGame {
     void Start();
     void PauseOrResume() { Show(clock.PauseOrResume()); }
     void PauseOrResume(Side button) { Show(clock.PauseOrResume(button)); }
-    void PressKeyP() { Show(clock.PressKeyP()); }
+    void PressKeyP() override { Show(clock.PressKeyP()); }
     void Tick();
 
     void AskedReset();           // asks first, as a click on a flag does

@@ -163,6 +163,11 @@ void frmScorlet::ShowBoard() {
 
 bool frmScorlet::TakeMessage(MSG& message) {
     if (message.hwnd != Window() && !IsChild(Window(), message.hwnd)) return false;
+    if (message.message == WM_CHAR && IsPauseKey(message.wParam) && message.hwnd != Control(txtMove)) {
+        // By way of the window, whose procedure ends all exceptions.
+        SendMessageW(Window(), WM_CHAR, message.wParam, message.lParam);
+        return true;
+    }
     if (message.message == WM_KEYDOWN && message.wParam == VK_SPACE) {
         wchar_t kind[16]{};
         GetClassNameW(message.hwnd, kind, 16);
@@ -180,6 +185,9 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
+        case WM_CHAR:
+            if (IsPauseKey(wParam)) game.PressKeyP();
+            return 0;
         case WM_ENDEDIT: EndEdit(wParam != 0); return 0;
         case WM_CONTEXTMENU:
             if (OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;

@@ -26,6 +26,7 @@ struct SilentGame : ScorletGame {
     void CloseRecord() override {}
     void Declare(Declaration) override {}
     void PressEnabledButton() override {}
+    void PressKeyP() override {}
 };
 
 class frmScorletTest : public testing::TestWithParam<int32_t> {
