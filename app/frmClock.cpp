@@ -376,7 +376,7 @@ LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wPa
             if (isClock && wParam == VK_SPACE) return 0;
             break;
         case WM_CHAR:
-            if (isClock && wParam == 'p') return act(wParam);
+            if (isClock && IsPauseKey(wParam)) return act('p');
             break;
         default: break;
     }

@@ -85,7 +85,9 @@ void Game::TakeSettings() {
 
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
-    return record.emplace();
+    record.emplace();
+    KeepResultIfFallen();
+    return *record;
 }
 
 void Game::CloseRecord() {
@@ -123,6 +125,7 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
     clock.TakeLoadedGame(saved.Clock);
     ShowWhole();
     ReplaceRecord(saved.Scorlet);
+    KeepResultIfFallen();
     Changed();
 }
 
@@ -159,4 +162,8 @@ void Game::ReplaceRecord(const Recorder& other) {
     if (!record) return;
     *record = other;
     recordView->RecordReplaced();
+}
+
+void Game::KeepResultIfFallen() {
+    if (record && clock.CurrentPhase() == Phase::Fallen) record->KeepResult();
 }

@@ -54,7 +54,7 @@ class Game final : public ScorletGame {
     void Start();
     void PauseOrResume() { Show(clock.PauseOrResume()); }
     void PauseOrResume(Side button) { Show(clock.PauseOrResume(button)); }
-    void PressKeyP() { Show(clock.PressKeyP()); }
+    void PressKeyP() override { Show(clock.PressKeyP()); }
     void Tick();
 
     void AskedReset();           // asks first, as a click on a flag does
@@ -91,6 +91,7 @@ class Game final : public ScorletGame {
     void Changed();
     void LeaveGame();
     void ReplaceRecord(const Recorder& other);
+    void KeepResultIfFallen();
 
     Settings& settings;
     ClockCommands clock;

@@ -15,6 +15,7 @@ void MoveField::Create(UINT message) {
 
 void MoveField::Show(const std::wstring& text) {
     const HWND field = form.Control(txtMove);
+    typed.Begin(text);
     SetWindowTextW(field, text.c_str());
     form.SetVisible(txtMove, true);
     form.SetVisible(cmdOK, true);

@@ -7,13 +7,9 @@ std::optional<size_t> MoveList::LastWritten() const {
     return std::nullopt;
 }
 
-size_t MoveList::Write(std::string_view move) {
-    if (EndsWithResult()) entries.pop_back();
-    size_t index = entries.size();
-    while (index > 0 && entries[index - 1].IsWaiting()) --index;
-    if (index == entries.size()) AddWaiting();
+void MoveList::Write(size_t index, std::string_view move) {
+    if (index == Moves()) AddWaiting();
     entries[index].Text = move;
-    return index;
 }
 
 size_t MoveList::AddWaiting() {

@@ -34,10 +34,9 @@ class MoveList {
     // The last entry that holds a move; no value if none does.
     std::optional<size_t> LastWritten() const;
 
-    // Write and AddWaiting return the index of the entry that they have made or changed.
-    // Writes into the first of the waiting lines at the end, or into a new line. A result is taken away.
-    size_t Write(std::string_view move);
-    size_t AddWaiting();  // before a result
+    // Writes into a line, or into a new one after the last. A result stays at the end.
+    void Write(size_t index, std::string_view move);
+    size_t AddWaiting();  // returns the new line, which comes before a result
     void AddResult(std::string_view result);
     // A text that is no result makes a move of an entry that was one.
     void SetText(size_t index, const std::string& text) { entries[index] = {static_cast<int32_t>(index) + 1, text}; }

@@ -148,7 +148,7 @@ std::string NormaliseMove(std::string_view typed) {
     }
 
     std::string move;
-    for (size_t at = 0; at < text.size() && at < 8; ++at) {
+    for (size_t at = 0; at < text.size(); ++at) {
         const char lower = AsciiLower(text[at]);
         if (lower == 'b')
             move += FileOrBishop(text, at);

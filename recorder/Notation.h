@@ -50,5 +50,5 @@ bool IsResult(std::string_view text);
 void RemoveResultMark(std::string& gameText);
 
 // Corrects a typed or edited move: castling with zeros or small letters, and the case of files and pieces. An empty
-// text becomes MissingMove. At most 8 characters of a move are kept.
+// text becomes MissingMove.
 std::string NormaliseMove(std::string_view typed);

@@ -6,6 +6,9 @@ namespace {
 
 constexpr std::string_view WinOf(Side side) { return side == White ? "1-0" : "0-1"; }
 
+// The place of a line in the order of play, from 0.
+constexpr size_t HalfMoveOf(const ChosenLine& line) { return line.Index * 2 + static_cast<size_t>(line.List); }
+
 // A move of the movetext with the blank after it. A move of Black's has a number only if White's move is missing.
 std::string MoveOfText(const MoveEntry& entry, Side side, bool numbered) {
     std::string text;
@@ -24,14 +27,16 @@ void Recorder::Restore(const Board& position, const MoveLists& moves, Side toMov
     board.ShowMissingAsCaptured();
     lists = moves;
     sideToMove = toMove;
-    if (text)
+    RebuildText();
+    // A text of ours is made anew all the same, so that its last move is pending as it was.
+    if (text && *text != runningText + pendingText + (HasResult() ? "" : "*")) {
         runningText = *text;
-    else
-        RebuildText();
+        pendingText.clear();
+    }
     AwaitPromotionAgain();
 }
 
-// A pawn that the last move left on its last rank has not been promoted yet.
+// The last move may have left a pawn on its last rank, or a piece that was chosen for it and can be chosen again.
 void Recorder::AwaitPromotionAgain() {
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
@@ -39,7 +44,10 @@ void Recorder::AwaitPromotionAgain() {
     const std::string_view text = lists[mover].Entries()[*last].Text;
     for (size_t at = 0; at < text.size(); ++at) {
         const Square square = SquareNamed(text.substr(at, 2));
-        if (Board::ReachesLastRank(board.At(square), square)) promotion = Promotion{square, ChosenLine{mover, *last}};
+        Piece piece = board.At(square);
+        const bool chosen = piece != Piece::Empty && text.substr(at + 2).starts_with('=');
+        if (chosen) piece = PieceOf(SideOf(piece), PieceKind::Pawn);
+        if (Board::ReachesLastRank(piece, square)) promotion = Promotion{square, ChosenLine{mover, *last}};
     }
 }
 
@@ -48,13 +56,15 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     const MoveText text = WriteMove(board, move);
     board.Carry(move);
 
-    TakeResultAway();
+    if (!resultKept && !MoveAwaited(White) && !MoveAwaited(Black)) TakeResultAway();
     const size_t before = HalfMovesWritten();
-    const ChosenLine line{sideToMove, lists[sideToMove].Write(text.View())};
+    const ChosenLine line{sideToMove, LineForMove(sideToMove)};
+    lists[line.List].Write(line.Index, text.View());
     runningText += pendingText;
     pendingText = MoveOfText(lists[line.List].Entries()[line.Index], line.List, line.List == White);
-    // After a deletion, or in a line that is not the last in the order of play, the move is not simply appended.
-    if (line.Index * 2 + static_cast<size_t>(line.List) != before) RebuildText();
+    // Before a result, after a deletion, or in a line that is not the last in the order of play, the move is not simply
+    // appended.
+    if (HasResult() || HalfMoveOf(line) != before) RebuildText();
     promotion.reset();
     if (Board::ReachesLastRank(move.Moving, destination)) promotion = Promotion{destination, line};
     sideToMove = Other(sideToMove);
@@ -114,7 +124,10 @@ void Recorder::SetMark(size_t index, Side side, std::string_view mark) {
     RebuildText();
 }
 
-void Recorder::FlagFell(Side side) { AddResult(sideToMove, WinOf(Other(side))); }
+void Recorder::FlagFell(Side side) {
+    AddResult(sideToMove, WinOf(Other(side)));
+    KeepResult();
+}
 
 void Recorder::AddResult(Side list, std::string_view result) {
     if (HasResult()) return;
@@ -134,7 +147,9 @@ ChosenLines Recorder::TopUpMoveLists(const std::array<int32_t, 2>& clockCounts) 
     for (Side side : {Black, White}) {
         size_t wanted = static_cast<size_t>(std::max(clockCounts[side], 0));
         if (side == White) wanted = std::max(wanted, lists[Black].Moves());
+        const size_t first = lists[side].Moves();
         while (lists[side].Moves() < wanted) added[side] = lists[side].AddWaiting();
+        if (added[side]) TakeIntoText({side, first});
     }
     return added;
 }
@@ -145,8 +160,10 @@ std::optional<ChosenLine> Recorder::AddLineForPress(bool firstPress, Side runnin
         if (!lists[White].Empty()) return std::nullopt;
         return ChosenLine{White, lists[White].AddWaiting()};
     }
-    if (!lists[Other(running)].EndsWithWritten() || lists[running].EndsWithWaiting()) return std::nullopt;
-    return ChosenLine{running, lists[running].AddWaiting()};
+    if (!lists[Other(running)].EndsWithWritten() || MoveAwaited(running)) return std::nullopt;
+    const ChosenLine line{running, lists[running].AddWaiting()};
+    TakeIntoText(line);
+    return line;
 }
 
 void Recorder::Edit(Side side, size_t index, std::string_view typed) {
@@ -179,13 +196,31 @@ void Recorder::PutBack(Piece piece, int slot, Square square) {
     board.Put(square, piece);
 }
 
+// The first of the waiting lines at the end of a list whose reply is not written; where there is none, a new line.
+size_t Recorder::LineForMove(Side side) const {
+    const MoveList &list = lists[side], &replies = lists[Other(side)];
+    const auto last = list.LastWritten();
+    size_t index = last ? *last + 1 : 0;
+    const auto replied = [&] {
+        const size_t reply = index + static_cast<size_t>(side);
+        return reply < replies.Moves() && replies.Entries()[reply].IsWritten();
+    };
+    while (index < list.Moves() && replied()) ++index;
+    return index;
+}
+
 // Counts in the order of play, up to the last written move.
 size_t Recorder::HalfMovesWritten() const {
     size_t end = 0;
     for (Side side : BothSides) {
-        if (const auto last = lists[side].LastWritten()) end = std::max(end, *last * 2 + static_cast<size_t>(side) + 1);
+        if (const auto last = lists[side].LastWritten()) end = std::max(end, HalfMoveOf({side, *last}) + 1);
     }
     return end;
+}
+
+// A line that is added before the last move belongs to the text; after it, it does not yet.
+void Recorder::TakeIntoText(const ChosenLine& added) {
+    if (HalfMoveOf(added) < HalfMovesWritten()) RebuildText();
 }
 
 void Recorder::RebuildText() {

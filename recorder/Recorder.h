@@ -46,7 +46,8 @@ class Recorder {
     void Restore(const Board& position, const MoveLists& moves, Side toMove, const std::optional<std::string>& text);
 
     // Carries out and writes the move between two squares, for the side to move whatever the piece's colour. The origin
-    // must hold a piece. A result that has been written is taken away: play goes on.
+    // must hold a piece. It goes into the first of the lines that wait for it, or into a new line. A result that has
+    // been written is taken away, since play goes on; it stays while lines wait, and after KeepResult.
     ChosenLine Play(Square origin, Square destination);
 
     // Whether the last move brought a pawn to its last rank. True until the next move is entered.
@@ -58,8 +59,10 @@ class Recorder {
     // lists up to them. Returns the last line added to each list.
     ChosenLines Declare(Declaration declaration, const std::array<int32_t, 2>& clockCounts);
 
-    // Writes the result when the flag of a side has fallen.
+    // Writes the result when the flag of a side has fallen, and keeps it.
     void FlagFell(Side side);
+    // The clock has ended the game: until the next Reset or Restore, moves that are still entered leave a result alone.
+    void KeepResult() { resultKept = true; }
 
     // Adds waiting lines where a list is shorter than the clock's count, or White's list shorter than Black's. Returns
     // the last line added to each list.
@@ -86,8 +89,11 @@ class Recorder {
     void AwaitPromotionAgain();
     void AddResult(Side list, std::string_view result);
     void TakeResultAway();
+    size_t LineForMove(Side side) const;
+    bool MoveAwaited(Side side) const { return LineForMove(side) < lists[side].Moves(); }
     void SetMark(size_t index, Side side, std::string_view mark);
     size_t HalfMovesWritten() const;
+    void TakeIntoText(const ChosenLine& added);
     void RebuildText();
 
     Board board;
@@ -98,4 +104,5 @@ class Recorder {
     std::optional<Promotion> promotion;
     std::optional<Move> lastMove;
     std::string lastMoveLongForm;
+    bool resultKept = false;
 };

@@ -13,7 +13,9 @@ class SayList {
     explicit SayList(Form& form) : form(form) {}
 
     void Create();
-    void ApplyTexts(const Texts& texts) const;
+    // To be called at first and whenever the list opens: the keys then begin before the first entry, and not where they
+    // ended last time.
+    void Fill(const Texts& texts) const;
 
     // What a notification of the list declares; no value for most notifications.
     std::optional<Declaration> OnNotification(int notification) const;

@@ -14,6 +14,9 @@ class RecordView {
     ~RecordView() = default;
 };
 
+// The key that pauses a running clock: the letter in either case, since Caps Lock may be on.
+constexpr bool IsPauseKey(uint64_t character) { return character == 'p' || character == 'P'; }
+
 // What the Scorlet needs from the game: its record, and what concerns the clock too.
 class ScorletGame {
   public:
@@ -24,6 +27,7 @@ class ScorletGame {
     virtual void RecordEdited() = 0;  // the window has changed the record
     virtual void Declare(Declaration declaration) = 0;
     virtual void PressEnabledButton() = 0;  // the clock button that can be pressed
+    virtual void PressKeyP() = 0;           // pauses a running clock
 
   protected:
     ~ScorletGame() = default;

@@ -27,7 +27,7 @@ std::wstring TypedMove::Changed(const std::wstring& text) {
         lastGood.clear();
         return {};
     }
-    if (text.size() > LongestMove) return lastGood;
+    if (text.size() > LongestMove && text.size() >= lastGood.size()) return lastGood;
     lastGood = text;
     return text;
 }

@@ -77,10 +77,7 @@ void frmScorlet::CreateControls() {
     for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
-    for (Side side : BothSides) {
-        AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
-                   WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
-    }
+    lists.Create();
     field.Create(WM_ENDEDIT);
     AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
@@ -93,7 +90,7 @@ void frmScorlet::ApplyTexts() {
     SetText(lblSay, captions(TextId::Say));
     SetText(cmdOK, captions(TextId::ButtonOk));
     for (int i = 0; i < 4; ++i) SetText(imgPromotionQ + i, captions(PromotionTexts[static_cast<size_t>(i)]));
-    say.ApplyTexts(captions);
+    say.Fill(captions);
 }
 
 void frmScorlet::Arrange() {
@@ -121,13 +118,14 @@ void frmScorlet::Arrange() {
     place(cmdOK, layout.EditOk);
     place(lblPromotion, layout.PromotionTitle);
     for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.Promotion[static_cast<size_t>(i)]);
+    lists.Show();
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
     ShowBoard();
-    for (Side side : BothSides) ShowList(side);
-    if (chosen) ChooseLine(*chosen);
+    lists.Show();
+    if (chosen) lists.Choose(*chosen);
     SetVisible(lblPromotion, recorder.AwaitsPromotion());
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) SetVisible(id, recorder.AwaitsPromotion());
 }
@@ -135,15 +133,14 @@ void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
 void frmScorlet::RecordChanged(const ChosenLines& chosen) {
     ShowRecord();
     for (Side side : BothSides) {
-        if (chosen[side]) ChooseLine({side, *chosen[side]});
+        if (chosen[side]) lists.Choose({side, *chosen[side]});
     }
 }
 
 void frmScorlet::RecordReplaced() {
     EndEdit(false);
     input.Reset();
-    for (Side side : BothSides)
-        SendMessageW(Control(ControlOf(lstMoves, side)), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    lists.ChooseNone();
     ShowRecord();
 }
 
@@ -164,27 +161,13 @@ void frmScorlet::ShowBoard() {
     }
 }
 
-void frmScorlet::ShowList(Side side) {
-    const HWND list = Control(ControlOf(lstMoves, side));
-    const auto count = static_cast<LRESULT>(recorder.List(side).Entries().size());
-    const LRESULT chosen = SendMessageW(list, LB_GETCURSEL, 0, 0);
-    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
-    SendMessageW(list, LB_RESETCONTENT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        const std::wstring line = FromAnsi(recorder.List(side).Line(static_cast<size_t>(i), side));
-        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
-    }
-    if (count > 0 && chosen >= 0) SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(std::min(chosen, count - 1)), 0);
-    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
-    InvalidateRect(list, nullptr, TRUE);
-}
-
-void frmScorlet::ChooseLine(const ChosenLine& line) {
-    SendMessageW(Control(ControlOf(lstMoves, line.List)), LB_SETCURSEL, line.Index, 0);
-}
-
 bool frmScorlet::TakeMessage(MSG& message) {
     if (message.hwnd != Window() && !IsChild(Window(), message.hwnd)) return false;
+    if (message.message == WM_CHAR && IsPauseKey(message.wParam) && message.hwnd != Control(txtMove)) {
+        // By way of the window, whose procedure ends all exceptions.
+        SendMessageW(Window(), WM_CHAR, message.wParam, message.lParam);
+        return true;
+    }
     if (message.message == WM_KEYDOWN && message.wParam == VK_SPACE) {
         wchar_t kind[16]{};
         GetClassNameW(message.hwnd, kind, 16);
@@ -202,6 +185,9 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
+        case WM_CHAR:
+            if (IsPauseKey(wParam)) game.PressKeyP();
+            return 0;
         case WM_ENDEDIT: EndEdit(wParam != 0); return 0;
         case WM_CONTEXTMENU:
             if (OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
@@ -244,7 +230,12 @@ void frmScorlet::OnCommand(int id, int notification) {
     }
     switch (id) {
         case cmbSay:
+            if (notification == CBN_DROPDOWN) say.Fill(captions);
             if (const auto declaration = say.OnNotification(notification)) game.Declare(*declaration);
+            return;
+        case lstMoves:
+        case lstMoves + 1:
+            if (notification == LBN_SELCHANGE) lists.OnChoice(id == lstMoves ? White : Black);
             return;
         case txtMove:
             if (notification == EN_CHANGE) field.OnChange();
@@ -256,7 +247,7 @@ void frmScorlet::OnCommand(int id, int notification) {
             recorder.DeleteLast(menuList);
             ShowEdit();
             if (const size_t count = recorder.List(menuList).Entries().size(); count > 0)
-                ChooseLine({menuList, count - 1});
+                lists.Choose({menuList, count - 1});
             return;
         default: return;
     }
@@ -328,10 +319,10 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
         POINT inside = point;
         ScreenToClient(control, &inside);
         const LRESULT row = SendMessageW(control, LB_ITEMFROMPOINT, 0, MAKELPARAM(inside.x, inside.y));
-        if (HIWORD(row) == 0 && SendMessageW(control, LB_GETCOUNT, 0, 0) > LOWORD(row))
-            SendMessageW(control, LB_SETCURSEL, LOWORD(row), 0);
+        if (HIWORD(row) == 0 && LOWORD(row) < recorder.List(menuList).Entries().size())
+            lists.Choose({menuList, LOWORD(row)});
     }
-    const UINT state = SendMessageW(control, LB_GETCURSEL, 0, 0) >= 0 ? MF_ENABLED : MF_GRAYED;
+    const UINT state = lists.Chosen(menuList) ? MF_ENABLED : MF_GRAYED;
     const HMENU menu = CreatePopupMenu();
     AppendMenuW(menu, MF_STRING | state, mnuEditMove, captions(TextId::EditMove).c_str());
     AppendMenuW(menu, MF_STRING, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
@@ -342,9 +333,9 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
 }
 
 void frmScorlet::BeginEdit(Side side) {
-    const LRESULT chosen = SendMessageW(Control(ControlOf(lstMoves, side)), LB_GETCURSEL, 0, 0);
-    if (chosen < 0) return;
-    const ChosenLine line{side, static_cast<size_t>(chosen)};
+    const auto chosen = lists.Chosen(side);
+    if (!chosen) return;
+    const ChosenLine line{side, *chosen};
     edited = Edited{line, recorder.List(side).Entries()[line.Index]};
     field.Show(FromAnsi(edited->Entry.Text));
 }

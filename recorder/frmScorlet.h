@@ -5,6 +5,7 @@
 #include "recorder/MoveField.h"
 #include "recorder/SayList.h"
 #include "recorder/ScorletGame.h"
+#include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
 
 #include <array>
@@ -44,8 +45,6 @@ class frmScorlet : public Form, private RecordView {
     void ApplyTexts();
     void Arrange();
     void ShowBoard();
-    void ShowList(Side side);
-    void ChooseLine(const ChosenLine& line);
 
     void OnCommand(int id, int notification);
     void OnMouseDown(POINT point);
@@ -69,6 +68,7 @@ class frmScorlet : public Form, private RecordView {
     BoardInput input{recorder};
     MoveField field{*this};
     SayList say{*this};
+    ScorletLists lists{*this, recorder};
     // The entry that is open in the edit field, and how it was.
     struct Edited {
         ChosenLine Line;

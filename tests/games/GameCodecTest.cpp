@@ -40,9 +40,10 @@ TEST(GameCodecTest, PlayGoesOnAsIfTheGameHadNotBeenSaved) {
     std::vector<RealGame> games = RealGames();
     ASSERT_EQ(games.size(), 7u);
     for (const char* script :
-         {"e2e4 check =Q e7e5 draw4,3 g1f3 resign", "first e2e4 pressB e7e5 W0=h4 flagW d2d4 top5,5 W1=",
-          "f2f3 e7e5 g2g4 d8h4 mate h2h3", "e2e4 e7e5 g1f3 deleteW d7d6 b1c3",
-          "a2a4 b7b5 a4b5 h7h6 b5b6 h6h5 b6b7 h5h4 b7a8 =R check a7a6", "e2e4 h7h2 e4e5 h2g1 =N h1g1 =Q"})
+         {"e2e4 check =Q e7e5 draw4,3 g1f3 resign", "first e2e4 pressB e7e5 W0=h4 draw d2d4 top5,5 W1=",
+          "e2e4 e7e5 g1f3 deleteW b8c6 pressW f1b5 a7a6 deleteW top5,5", "f2f3 e7e5 g2g4 d8h4 mate h2h3",
+          "e2e4 e7e5 g1f3 deleteW d7d6 b1c3", "a2a4 b7b5 a4b5 h7h6 b5b6 h6h5 b6b7 h5h4 b7a8 =R check =N a7a6",
+          "e2e4 h7h2 e4e5 h2g1 =N h1g1 =Q"})
         games.push_back({script, script, {}});
     for (const RealGame& game : games) {
         SCOPED_TRACE(game.Name);

@@ -194,6 +194,9 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W W 60s => show B all, gong; - F 00:01:00
         open W 60s => lists, show W all, gong; F - 00:00:00; 1. _|[0-1] /
         open W e2e4 W 60s => lists, show B all, gong; - F 00:01:00; 1. e4 / 1. _|[1-0]
+        open W 60s e2e4 e7e5 => nothing; F - 00:00:00; 1. e4|[0-1] / e5
+        W 60s open draw e2e4 e7e5 => nothing; F - 00:00:00; 1. e4|[1/2-1/2] / e5
+        open load1 draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2]
         W 60s W => how to restart; F - 00:00:00
         W 60s space => how to restart; F - 00:00:00
         W 60s pauseB => how to restart; F - 00:00:00

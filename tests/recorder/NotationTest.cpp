@@ -46,6 +46,6 @@ TEST(NotationTest, TypedMovesArePutRight) {
         => _ | => _ | nf3  => Nf3 | qxd5+ => Qxd5+ | Kf1 => Kf1 | 0-0 => O-O | 0-0-0 => O-O-O | o-O+ => O-O+
         o-o-o+ => O-O-O+ | 0-0-0-0 => 0-0-0-0 | 0-1 => 0-1 | 1/2-1/2 => 1/2-1/2 | B4 => b4 | b1 => b1 | B8 => b8
         B9 => B9 | b9 => b9 | bc4 => Bc4 | bH4 => Bh4 | ba1 => Ba1 | Bxc6 => Bxc6 | bxc6 => bxc6 | bb4 => Bb4 | b => b
-        NBd2 => Nbd2 | AXB8=B => aXb8=B | axb8=b => axb8=B | rA1 => Ra1 | e4!? => e4!? | Qa1xb2+xx => Qa1xb2+x
+        NBd2 => Nbd2 | AXB8=B => aXb8=B | axb8=b => axb8=B | rA1 => Ra1 | e4!? => e4!? | exD6ep!?+ => exd6ep!?+
     )");
 }

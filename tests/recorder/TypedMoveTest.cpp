@@ -17,4 +17,9 @@ TEST(TypedMoveTest, KeysAndChanges) {
     EXPECT_EQ(typed.Changed(L"axb8=Q+!?"), L"axb8=Q+!") << "too long";
     EXPECT_EQ(typed.Changed(L"Nf3 e5"), L"") << "a blank empties it";
     EXPECT_EQ(typed.LastGood(), L"");
+
+    typed.Begin(L"exd6ep!?+#");
+    EXPECT_EQ(typed.Changed(L"exd6ep!?+#"), L"exd6ep!?+#") << "an entry that was longer";
+    EXPECT_EQ(typed.Changed(L"exd6ep!?#"), L"exd6ep!?#") << "one character less";
+    EXPECT_EQ(typed.Changed(L"exd6ep!!#"), L"exd6ep!?#") << "still too long, and no shorter";
 }

@@ -1,0 +1,94 @@
+#include "recorder/ScorletLists.h"
+
+#include "platform/Ansi.h"
+#include "platform/Subclass.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+
+void ScorletLists::Create() {
+    for (Side side : BothSides) {
+        form.AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
+                        WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
+        Subclass<Procedure>(List(side), this);
+    }
+}
+
+HWND ScorletLists::List(Side side) const { return form.Control(ControlOf(lstMoves, side)); }
+
+void ScorletLists::Show() const {
+    const auto rows = std::max(recorder.List(White).Entries().size(), recorder.List(Black).Entries().size());
+    for (Side side : BothSides) Fill(side, rows);
+    for (Side side : BothSides) SendMessageW(List(side), LB_SETTOPINDEX, rows > 0 ? rows - 1 : 0, 0);
+}
+
+void ScorletLists::Fill(Side side, size_t rows) const {
+    const HWND list = List(side);
+    const auto count = static_cast<LRESULT>(recorder.List(side).Entries().size());
+    const LRESULT chosen = SendMessageW(list, LB_GETCURSEL, 0, 0);
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        const std::wstring line = FromAnsi(recorder.List(side).Line(static_cast<size_t>(i), side));
+        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
+    }
+    // A list that is scrolled can show only rows that it has, so the shorter one gets empty rows.
+    if (rows > RowsThatFit()) {
+        for (size_t i = recorder.List(side).Entries().size(); i < rows; ++i)
+            SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
+    }
+    if (count > 0 && chosen >= 0) SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(std::min(chosen, count - 1)), 0);
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
+}
+
+size_t ScorletLists::RowsThatFit() const {
+    RECT client{};
+    GetClientRect(List(White), &client);
+    const LRESULT height = SendMessageW(List(White), LB_GETITEMHEIGHT, 0, 0);
+    return height > 0 ? static_cast<size_t>(client.bottom / height) : 0;
+}
+
+void ScorletLists::Choose(const ChosenLine& line) const { SendMessageW(List(line.List), LB_SETCURSEL, line.Index, 0); }
+
+void ScorletLists::ChooseNone() const {
+    for (Side side : BothSides) SendMessageW(List(side), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+}
+
+std::optional<size_t> ScorletLists::Chosen(Side side) const {
+    const LRESULT chosen = SendMessageW(List(side), LB_GETCURSEL, 0, 0);
+    const auto count = static_cast<LRESULT>(recorder.List(side).Entries().size());
+    return chosen >= 0 && chosen < count ? std::optional(static_cast<size_t>(chosen)) : std::nullopt;
+}
+
+void ScorletLists::OnChoice(Side side) const {
+    if (!Chosen(side)) Choose({side, recorder.List(side).Entries().size() - 1});
+}
+
+// Scrolls the other list to the rows that this one shows.
+void ScorletLists::Follow(HWND list) const {
+    const HWND other = List(list == List(White) ? Black : White);
+    const LRESULT top = SendMessageW(list, LB_GETTOPINDEX, 0, 0);
+    if (SendMessageW(other, LB_GETTOPINDEX, 0, 0) != top)
+        SendMessageW(other, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+}
+
+LRESULT CALLBACK ScorletLists::Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR self) {
+    const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+    switch (message) {
+        // What can scroll a list: the bar, the wheel, keys, the mouse, which may be dragged past the edge, and
+        // programs.
+        case WM_VSCROLL:
+        case WM_MOUSEWHEEL:
+        case WM_KEYDOWN:
+        case WM_CHAR:
+        case WM_LBUTTONDOWN:
+        case WM_MOUSEMOVE:
+        case WM_TIMER:
+        case LB_SETCURSEL:
+        case LB_SETTOPINDEX: reinterpret_cast<const ScorletLists*>(self)->Follow(list); break;
+        default: break;
+    }
+    return result;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "recorder/Recorder.h"
+
+#include <optional>
+
+// The two move lists as the Scorlet shows them. They scroll as one, so that the moves of one number are always side by
+// side.
+class ScorletLists {
+  public:
+    // Both must outlive the lists.
+    ScorletLists(Form& form, const Recorder& recorder) : form(form), recorder(recorder) {}
+
+    void Create();
+
+    // Fills both lists anew and shows the last moves. A line that was chosen stays chosen.
+    void Show() const;
+    // Chooses a line and shows it.
+    void Choose(const ChosenLine& line) const;
+    void ChooseNone() const;
+    // The chosen line of a list; no value where that holds no entry.
+    std::optional<size_t> Chosen(Side side) const;
+    // The players have chosen a row: of the empty ones, that is the last entry.
+    void OnChoice(Side side) const;
+
+  private:
+    HWND List(Side side) const;
+    void Fill(Side side, size_t rows) const;
+    size_t RowsThatFit() const;
+    void Follow(HWND list) const;
+
+    static LRESULT CALLBACK Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR self);
+
+    Form& form;
+    const Recorder& recorder;
+};
