@@ -1,3 +1,4 @@
+#include "bench/FilesFigures.h"
 #include "bench/PressFigures.h"
 #include "bench/RunningProgram.h"
 #include "games/GameStore.h"
@@ -15,7 +16,7 @@
 
 namespace {
 
-constexpr int Starts = 20, Presses = 1000;
+constexpr int Starts = 20, Presses = 1000, SavedGames = 5000;
 
 // A folder with the program and its settings.
 class Installed {
@@ -82,6 +83,13 @@ void PressRow(const char* figure, const std::vector<double>& times) {
     std::fflush(stdout);
 }
 
+void MeasureFileDialog() {
+    const FilesTimes times = MeasureFiles(SavedGames);
+    std::printf("| file dialog with %d saved games | open %.0f ms, save %.0f ms, delete %.0f ms | | |\n", SavedGames,
+                times.Open, times.Save, times.Delete);
+    std::fflush(stdout);
+}
+
 double FileSize(const std::wstring& path) { return static_cast<double>(ReadFileText(path).size()) / (1 << 20); }
 
 // One clock is left alone, to measure its processor time. Another is watched for its ticks, since watching costs time.
@@ -138,6 +146,7 @@ int main(int count, char** arguments) try {
     PressRow("press to changed face, within the process", MeasurePresses(Presses));
     PressRow("message to changed text of a bare control", MeasureBareControl(Presses));
     PressRow("key sent to changed face, from another process", MeasureKeys(Presses));
+    MeasureFileDialog();
     if (minutes > 0) MeasureRunning(minutes);
     return 0;
 } catch (const std::exception& error) {

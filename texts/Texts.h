@@ -17,7 +17,7 @@ class Texts {
     // Text of an identifier; empty where the table has none.
     std::wstring LookUp(int64_t identifier) const;
 
-    std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, language)); }
+    std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, LanguageIndex())); }
 
     // Text of a row with its %1 and %2 replaced.
     std::wstring Compose(TextId row, const std::wstring& first, const std::wstring& second = {}) const;
@@ -34,7 +34,8 @@ class Texts {
     // What is wrong with a damaged file, and where.
     std::wstring Reason(Damage damage, int32_t place, int32_t column = 0) const;
 
-    int32_t LanguageIndex() const { return language; }
+    // That of the texts: English where the settings have the number of none.
+    int32_t LanguageIndex() const { return language >= Turkish && language <= French ? language : English; }
 
   private:
     const int32_t& language;
