@@ -8,6 +8,7 @@ enum class Damage {
     OutOfRange,  // a slot past the record, or a value outside its range
     Overflow,    // a number that does not fit in 32 signed bits, as it is or in seconds
     // In the record of a saved game's clock.
+    TooManyMoves,       // more than a saved game may have counted
     CountsOutOfStep,    // White has neither as many moves as Black nor one more
     TurnAgainstCounts,  // the turn is that of the side that the counts say is waiting
     NoTimeLeft,         // the game is under way and the running side has no time

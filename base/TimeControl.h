@@ -11,4 +11,6 @@ struct TimeControl {
     bool CountTimeDown = true;                  // false: the clocks show the time used
     bool SecondPeriodEnabled = false;
     int32_t MovesFirstPeriod = 40;  // at least 1, since counts are divided by it
+
+    bool operator==(const TimeControl&) const = default;
 };

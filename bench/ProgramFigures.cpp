@@ -1,3 +1,4 @@
+#include "bench/FilesFigures.h"
 #include "bench/PressFigures.h"
 #include "bench/RunningProgram.h"
 #include "games/GameStore.h"
@@ -14,7 +15,7 @@
 
 namespace {
 
-constexpr int Starts = 20, Presses = 1000;
+constexpr int Starts = 20, Presses = 1000, SavedGames = 5000;
 
 // A folder with the program and its settings.
 class Installed {
@@ -69,6 +70,13 @@ void MeasureMemory() {
 void PressRow(const char* figure, const std::vector<double>& times) {
     std::printf("| %s | median %.2f ms, 99 %% under %.2f ms | worst %.2f ms | |\n", figure, Percentile(times, 50),
                 Percentile(times, 99), Percentile(times, 100));
+    std::fflush(stdout);
+}
+
+void MeasureFileDialog() {
+    const FilesTimes times = MeasureFiles(SavedGames);
+    std::printf("| file dialog with %d saved games | open %.0f ms, save %.0f ms, delete %.0f ms | | |\n", SavedGames,
+                times.Open, times.Save, times.Delete);
     std::fflush(stdout);
 }
 
@@ -128,6 +136,7 @@ int main(int count, char** arguments) try {
     PressRow("press to changed face, within the process", MeasurePresses(Presses));
     PressRow("message to changed text of a bare control", MeasureBareControl(Presses));
     PressRow("key sent to changed face, from another process", MeasureKeys(Presses));
+    MeasureFileDialog();
     if (minutes > 0) MeasureRunning(minutes);
     return 0;
 } catch (const std::exception& error) {

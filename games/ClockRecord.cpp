@@ -47,13 +47,16 @@ void ReadProgress(SlotReader& slots, modClock::ClockState& clock) {
 
 void ReadFields(SlotReader& slots, ClockRecord& saved) {
     for (std::string& name : saved.Options.PlayerNames) name = slots.NextName(MaxSavedName);
-    DecodeOptions(slots, saved.Options);
+    DecodeOptions(slots, saved.Options, 1);
     modClock::ClockState& clock = saved.Clock;
     clock.Control = saved.Options.Control;
     for (int32_t& seconds : clock.PlayerTime) seconds = slots.Next(0);
     const int32_t lastTime = slots.Last();
     for (bool& due : clock.SecondPeriodDue) due = slots.NextCheck();
-    for (int32_t& moves : clock.MoveCount) moves = slots.Next(0, MostSavedMoves);
+    for (int32_t& moves : clock.MoveCount) {
+        moves = slots.Next(0);
+        if (moves > MostSavedMoves) throw GameFileError{ClockFile, Damage::TooManyMoves, slots.Last()};
+    }
     if (clock.CountsOutOfStep()) throw GameFileError{ClockFile, Damage::CountsOutOfStep, slots.Last()};
     saved.SideToMove = slots.NextCheck() ? White : Black;
     saved.Options.WritePgn = slots.NextCheck();

@@ -22,22 +22,31 @@ void ThrowIf(const std::optional<GameFileError>& error) {
     if (error) throw *error;
 }
 
-Recorder ReadScorlet(const GameFileReader& read, const ClockRecord& saved) {
-    Recorder recorder;
+// The running text of the PGN; nothing without one, or with one that cannot be read.
+std::optional<std::string> ReadRunningText(const GameFileReader& read, SavedGame& game) {
+    std::string text;
+    try {
+        const auto bytes = ReadText(read, PgnFile, LongestText);
+        if (!bytes) return std::nullopt;
+        ThrowIf(DecodePgn(*bytes, text));
+    } catch (const GameFileError&) {
+        game.PgnUnreadable = true;
+        return std::nullopt;
+    }
+    return text;
+}
+
+void ReadScorlet(const GameFileReader& read, Side sideToMove, SavedGame& game) {
     const auto diagram = ReadText(read, DiagramFile, DiagramBytes);
     const auto moves = ReadText(read, MovesFile, LongestText);
-    if (!diagram && !moves) return recorder;
+    if (!diagram && !moves) return;
 
     Board position;
     MoveLists lists;
-    std::optional<std::string> pgn;
-    std::string text;
     if (diagram) ThrowIf(DecodeDiagram(*diagram, position));
-    if (moves) ThrowIf(DecodeCgn(*moves, saved.SideToMove, lists));
-    if (saved.Options.WritePgn) pgn = ReadText(read, PgnFile, LongestText);
-    if (pgn) ThrowIf(DecodePgn(*pgn, text));
-    recorder.Restore(position, lists, saved.SideToMove, pgn ? std::optional(text) : std::nullopt);
-    return recorder;
+    if (moves) ThrowIf(DecodeCgn(*moves, sideToMove, lists));
+    game.Scorlet.Restore(position, lists, sideToMove,
+                         game.Options.WritePgn ? ReadRunningText(read, game) : std::nullopt);
 }
 
 }  // namespace
@@ -59,11 +68,21 @@ std::optional<GameFileError> DecodeGame(const GameFileReader& read, const Settin
     const auto record = read(ClockFile, LongestRecord).value_or(std::vector<uint8_t>());
     ClockRecord saved;
     if (const auto error = DecodeClockRecord(record, present, saved)) return error;
+    SavedGame loaded{saved.Options, saved.Clock, {}, saved.ScorletLoaded};
     try {
-        game = {saved.Options, saved.Clock, saved.ScorletLoaded ? ReadScorlet(read, saved) : Recorder(),
-                saved.ScorletLoaded};
+        if (saved.ScorletLoaded) ReadScorlet(read, saved.SideToMove, loaded);
     } catch (const GameFileError& error) {
         return error;
     }
+    game = std::move(loaded);
     return std::nullopt;
+}
+
+std::optional<GameFileError> FaultOf(const GameFiles& files) {
+    const auto read = [&](GameFile file, size_t) -> std::optional<std::vector<uint8_t>> {
+        if (!files[file]) return std::nullopt;
+        return std::vector<uint8_t>(files[file]->begin(), files[file]->end());
+    };
+    SavedGame game;
+    return DecodeGame(read, Settings(), game);
 }

@@ -21,6 +21,7 @@ struct SavedGame {
     modClock::ClockState Clock;
     Recorder Scorlet;            // the initial position where none was saved
     bool ScorletLoaded = false;  // it was saved with the Scorlet
+    bool PgnUnreadable = false;
 };
 
 // Gives the first `limit` bytes of a file, nothing when there is none. It may throw; DecodeGame lets that through.
@@ -28,5 +29,9 @@ using GameFileReader = std::function<std::optional<std::vector<uint8_t>>(GameFil
 
 // Reads and checks a game, and asks for no file that does not belong to it: none but the clock's when the game was
 // saved without the Scorlet, no PGN when it was saved without. A missing clock file counts as an empty one, the others
-// may be missing. `present` are the settings in use, see DecodeClockRecord.
+// may be missing. A PGN that cannot be read is no error: the running text then follows from the lists. `present` are
+// the settings in use, see DecodeClockRecord.
 std::optional<GameFileError> DecodeGame(const GameFileReader& read, const Settings& present, SavedGame& game);
+
+// Why a game with these files could not be loaded: it is not worth saving.
+std::optional<GameFileError> FaultOf(const GameFiles& files);

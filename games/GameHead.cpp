@@ -1,6 +1,5 @@
 #include "games/GameHead.h"
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -20,13 +19,6 @@ std::string Dashed(const CalendarDate& date) {
     return text;
 }
 
-// Readers count the lines of the head, so that no name may bring one of its own. None that was typed does.
-std::string OnOneLine(std::string name) {
-    std::ranges::replace_if(
-        name, [](char character) { return character == '\r' || character == '\n'; }, ' ');
-    return name;
-}
-
 }  // namespace
 
 std::string_view ResultToken(const MoveLists& lists) {
@@ -38,6 +30,5 @@ std::string_view ResultToken(const MoveLists& lists) {
 
 std::string EncodeHead(const GameHead& head, std::string_view result) {
     return TagPair("Event", "") + TagPair("Site", "") + TagPair("Date", Dashed(head.Date)) + TagPair("Round", "") +
-           TagPair("White", OnOneLine(head.Names[White])) + TagPair("Black", OnOneLine(head.Names[Black])) +
-           TagPair("Result", result);
+           TagPair("White", head.Names[White]) + TagPair("Black", head.Names[Black]) + TagPair("Result", result);
 }

@@ -21,6 +21,20 @@ bool IsLetterOrDigit(wchar_t character) {
 // The digits that number serial and parallel ports; the raised ones count too.
 constexpr std::wstring_view PortDigits = L"0123456789\u00B9\u00B2\u00B3";
 
+// NUL, COM1, CONIN$ ...
+bool IsDeviceName(std::wstring_view name) {
+    std::wstring base;
+    for (wchar_t character : name.substr(0, name.find(L'.'))) base.push_back(AsciiUpper(character));
+    // Blanks at the end do not count.
+    base.erase(base.find_last_not_of(L' ') + 1);
+    constexpr std::array<std::wstring_view, 6> devices{L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
+    for (std::wstring_view device : devices) {
+        if (base == device) return true;
+    }
+    const bool port = base.rfind(L"COM", 0) == 0 || base.rfind(L"LPT", 0) == 0;
+    return port && base.size() == 4 && PortDigits.find(base[3]) != std::wstring_view::npos;
+}
+
 }  // namespace
 
 bool GameName::TakesKey(wchar_t character, std::wstring_view text) const {
@@ -34,15 +48,9 @@ std::wstring GameName::Changed(const std::wstring& text) {
     return lastGood;
 }
 
-bool IsDeviceName(std::wstring_view name) {
-    std::wstring base;
-    for (wchar_t character : name.substr(0, name.find(L'.'))) base.push_back(AsciiUpper(character));
-    // Blanks at the end do not count.
-    base.erase(base.find_last_not_of(L' ') + 1);
-    constexpr std::array<std::wstring_view, 6> devices{L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
-    for (std::wstring_view device : devices) {
-        if (base == device) return true;
-    }
-    const bool port = base.rfind(L"COM", 0) == 0 || base.rfind(L"LPT", 0) == 0;
-    return port && base.size() == 4 && PortDigits.find(base[3]) != std::wstring_view::npos;
+std::optional<TextId> FaultOfName(std::wstring_view name) {
+    if (name.size() > GameName::Longest) return TextId::NameTooLong;
+    if (name.ends_with(L'.') || name.ends_with(L' ')) return TextId::NameEndsInDot;
+    if (IsDeviceName(name)) return TextId::DeviceName;
+    return std::nullopt;
 }

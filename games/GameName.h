@@ -1,12 +1,15 @@
 #pragma once
 
+#include "texts/TextIds.h"
+
+#include <optional>
 #include <string>
 #include <string_view>
 
 // What the field for a game's name lets in. It remembers the last good text.
 class GameName {
   public:
-    // The most characters that can be typed.
+    // The most characters of a name.
     static constexpr size_t Longest = 199;
 
     // Whether a typed character goes into the field that holds `text`.
@@ -22,6 +25,7 @@ class GameName {
     std::wstring lastGood;
 };
 
-// Whether Windows keeps the name for a device, whatever its letter case and what follows its first dot: NUL, COM1,
-// CONIN$ ... (Naming Files, Win32 documentation).
-bool IsDeviceName(std::wstring_view name);
+// Why no new game may have the name, as a text that takes the name as %1 and GameName::Longest as %2; no value for a
+// good name. Windows keeps some for devices, whatever their letter case and what follows their first dot, and other
+// programs lose blanks and dots at the end (Naming Files, Win32 documentation).
+std::optional<TextId> FaultOfName(std::wstring_view name);

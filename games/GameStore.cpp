@@ -32,8 +32,8 @@ bool ComesBefore(const std::wstring& first, const std::wstring& second) {
 std::vector<std::wstring> GameStore::Names() const {
     const std::wstring extension = FromAnsi(ExtensionOf(ClockFile));
     std::vector<std::wstring> names;
-    // The system's pattern would find longer extensions too, by the short names of their files.
-    for (std::wstring& name : FilesIn(folder)) {
+    // The system's pattern finds longer extensions too, by the short names of their files.
+    for (std::wstring& name : FilesLike(folder + L"*" + extension)) {
         if (name.size() <= ExtensionLength) continue;
         const size_t length = name.size() - ExtensionLength;
         if (AreEqual(std::wstring_view(name).substr(length), extension)) names.push_back(name.substr(0, length));
@@ -58,7 +58,7 @@ void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const
         if (!files[file]) continue;
         const std::wstring path = PathOf(name, file);
         std::string bytes = *files[file];
-        auto older = ReadFileBytes(path, LongestKeptFile + 1);
+        auto older = ReadFileBytes(path);
         if (file == ClockFile && older && older->size() <= LongestKeptFile)
             bytes = WithOldTail(std::move(bytes), TextOf(*older));
         written.emplace_back(path, bytes);
@@ -81,16 +81,21 @@ void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const
 
 std::optional<GameFileError> GameStore::LoadGame(const std::wstring& name, const Settings& present,
                                                  SavedGame& game) const {
-    return DecodeGame([&](GameFile file, size_t limit) { return ReadFileBytes(PathOf(name, file), limit); }, present,
-                      game);
+    const auto read = [&](GameFile file, size_t limit) {
+        try {
+            return ReadFileBytes(PathOf(name, file), limit);
+        } catch (const SystemError&) {
+            if (file != PgnFile) throw;
+            // Loading does without it, as without a damaged one.
+            return std::optional(std::vector<uint8_t>());
+        }
+    };
+    return DecodeGame(read, present, game);
 }
 
 void GameStore::DeleteGame(const std::wstring& name) const {
     constexpr std::array removed{ClockFile, DiagramFile, MovesFile};
     // Before the clock file goes: the game would not be listed any more.
     for (GameFile file : removed) ExpectReplaceable(PathOf(name, file));
-    for (GameFile file : removed) {
-        const std::wstring path = PathOf(name, file);
-        if (file == ClockFile || FileExists(path)) DeleteFileAt(path);
-    }
+    for (GameFile file : removed) DeleteFileAt(PathOf(name, file));
 }

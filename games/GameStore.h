@@ -24,10 +24,10 @@ class GameStore {
     void SaveGame(const std::wstring& name, const GameFiles& files) const;
 
     // Reads and checks a game; the error says which file is damaged and how. Throws SystemError for one that cannot be
-    // read.
+    // read, other than the PGN.
     std::optional<GameFileError> LoadGame(const std::wstring& name, const Settings& present, SavedGame& game) const;
 
-    // Removes the clock file, then the diagram and the moves where they exist; the PGN deliberately stays. Throws
+    // Removes the clock file, the diagram and the moves, as far as they exist; the PGN deliberately stays. Throws
     // SystemError that names the file, when one cannot be removed with all still there.
     void DeleteGame(const std::wstring& name) const;
 

@@ -79,12 +79,25 @@ std::wstring frmFiles::SpokenName(int id) const {
 
 int frmFiles::DefaultButton() const { return Of(mode).Button; }
 
+// The running clock waits meanwhile: without drawing, the list takes thousands of names in no time.
 void frmFiles::FillGameList() {
-    for (const std::wstring& name : store.Names())
-        SendMessageW(Control(lstGames), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    const HWND list = Control(lstGames);
+    const std::vector<std::wstring> names = store.Names();
+    size_t characters = 0;
+    for (const std::wstring& name : names) characters += name.size() + 1;
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(list, LB_INITSTORAGE, names.size(), static_cast<LPARAM>(characters * sizeof(wchar_t)));
+    for (const std::wstring& name : names) SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
 }
 
-void frmFiles::ClearGameList() const { SendMessageW(Control(lstGames), LB_RESETCONTENT, 0, 0); }
+void frmFiles::RemoveFromList(const std::wstring& name) const {
+    const HWND list = Control(lstGames);
+    const LRESULT index =
+        SendMessageW(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name.c_str()));
+    if (index >= 0) SendMessageW(list, LB_DELETESTRING, static_cast<WPARAM>(index), 0);
+}
 
 void frmFiles::OnCommand(int id, int notification) {
     switch (id) {
@@ -122,7 +135,9 @@ void frmFiles::OnNameChange() {
 void frmFiles::Act() {
     const std::wstring name = Text(txtGameName);
     if (name.empty()) return Tell(texts(Of(mode).NameMissing));
-    if (IsDeviceName(name)) return Tell(texts.Compose(TextId::DeviceName, name));
+    // A game that has such a name all the same can be loaded, replaced and deleted.
+    const auto fault = FaultOfName(name);
+    if (fault && !store.Exists(name)) return Tell(texts.Compose(*fault, name, std::to_wstring(GameName::Longest)));
     switch (mode) {
         case FilesMode::Load: return OnLoad(name);
         case FilesMode::Save: return OnSave(name);
@@ -131,17 +146,21 @@ void frmFiles::Act() {
 }
 
 void frmFiles::OnLoad(const std::wstring& name) {
-    if (!store.Exists(name)) return Tell(texts(TextId::GameBefore) + name + texts(TextId::NotFound));
+    const std::wstring notFound = texts(TextId::GameBefore) + name + texts(TextId::NotFound);
+    if (!store.Exists(name)) return Tell(notFound);
     if (!Ask(texts(TextId::GameBefore) + name + texts(TextId::WillBeLoaded), !game.SomethingToLose())) return;
     Chosen chosen{name, {}};
     try {
         if (const auto error = store.LoadGame(name, game.Options(), chosen.Saved)) {
+            // It may have been removed while the question was open.
+            if (!store.Exists(name)) return Tell(notFound);
             const std::wstring reason = texts.Reason(error->What, error->Place, error->Column);
             return Tell(texts.Compose(TextId::GameDamaged, store.PathOf(name, error->File), reason));
         }
     } catch (const SystemError& error) {
         return Tell(texts.Compose(TextId::GameNotRead, error.Thing(), texts.Reason(error.Code())));
     }
+    if (chosen.Saved.PgnUnreadable) Tell(texts.Compose(TextId::TextMadeAnew, store.PathOf(name, PgnFile)));
     loaded = std::move(chosen);
     Close();
 }
@@ -155,13 +174,16 @@ void frmFiles::OnSave(const std::wstring& name) {
     try {
         std::array<std::string, 2> names;
         for (Side side : BothSides) names[side] = ToAnsi(ShownName(game.Options(), texts, side));
-        store.SaveGame(name, game.Encode(names, Today()));
+        const GameFiles files = game.Encode(names, Today());
+        if (const auto fault = FaultOf(files)) {
+            const std::wstring reason = texts.Reason(fault->What, fault->Place, fault->Column);
+            return Tell(texts.Compose(TextId::GameNotSaved, store.PathOf(name, fault->File), reason));
+        }
+        store.SaveGame(name, files);
     } catch (const SystemError& error) {
         return Tell(texts.Compose(TextId::GameNotSaved, error.Thing(), texts.Reason(error.Code())));
     }
     game.TopUpMoveLists();
-    ClearGameList();
-    FillGameList();
     Close();
 }
 
@@ -175,8 +197,7 @@ void frmFiles::OnDelete(const std::wstring& name) {
     } catch (const SystemError& error) {
         Tell(texts.Compose(TextId::GameNotDeleted, error.Thing(), texts.Reason(error.Code())));
     }
-    ClearGameList();
-    FillGameList();
+    if (!store.Exists(name)) RemoveFromList(name);
 }
 
 void frmFiles::Tell(const std::wstring& text) const { messageBoxes.Inform(Window(), text, Of(mode).Title); }

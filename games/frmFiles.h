@@ -38,7 +38,7 @@ class frmFiles : public Dialog {
     int DefaultButton() const override;
 
     void FillGameList();
-    void ClearGameList() const;
+    void RemoveFromList(const std::wstring& name) const;
 
     void OnCommand(int id, int notification);
     void OnPick();

@@ -38,7 +38,9 @@ std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path, size
     }
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.get(), &size)) throw SystemError(GetLastError(), path);
-    std::vector<uint8_t> bytes(std::min(limit, static_cast<size_t>(size.QuadPart)));
+    const size_t wanted = std::min(limit, static_cast<size_t>(size.QuadPart));
+    if (wanted > MAXDWORD) throw SystemError(ERROR_FILE_TOO_LARGE, path);
+    std::vector<uint8_t> bytes(wanted);
     size_t total = 0;
     while (total < bytes.size()) {
         DWORD read = 0;
@@ -56,10 +58,12 @@ bool FileExists(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-std::vector<std::wstring> FilesIn(const std::wstring& folder) {
+std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW(Long(folder + L"*").c_str(), &found);
+    // Without short names, and many at a time: a folder may hold thousands.
+    const HANDLE search = FindFirstFileExW(Long(pattern).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
+                                           nullptr, FIND_FIRST_EX_LARGE_FETCH);
     if (search == INVALID_HANDLE_VALUE) return names;
     do {
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.emplace_back(found.cFileName);
@@ -91,7 +95,9 @@ void ExpectReplaceable(const std::wstring& path) {
 }
 
 void DeleteFileAt(const std::wstring& path) {
-    if (!DeleteFileW(Long(path).c_str())) throw SystemError(GetLastError(), path);
+    if (DeleteFileW(Long(path).c_str())) return;
+    const DWORD code = GetLastError();
+    if (!IsMissing(code)) throw SystemError(code, path);
 }
 
 FileBeside::FileBeside(const std::wstring& path, std::string_view bytes) : path(path) {

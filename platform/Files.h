@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,14 +11,16 @@
 
 // Files by their full paths, of any length that the system can hold. Failures throw SystemError with the path.
 
-// The first `limit` bytes of a file, or all of a shorter one; no value when there is no such file.
-std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path, size_t limit);
+// The first `limit` bytes of a file, or all of a shorter one; no value when there is no such file. More than 4 GB are
+// not read at once, but fail.
+std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path,
+                                                  size_t limit = std::numeric_limits<size_t>::max());
 
 // Whether there is a file of that name; a folder is none.
 bool FileExists(const std::wstring& path);
 
-// Names of the files in a folder, given with its trailing backslash; none where there is no such folder.
-std::vector<std::wstring> FilesIn(const std::wstring& folder);
+// Names of the files that a path with a pattern in its last part finds; none where there is no such folder.
+std::vector<std::wstring> FilesLike(const std::wstring& pattern);
 
 // When a file was last written to, by the user's clock. Throws SystemError.
 SYSTEMTIME LastChangeOf(const std::wstring& path);
@@ -25,6 +28,7 @@ SYSTEMTIME LastChangeOf(const std::wstring& path);
 // Makes a folder if there is none. A failure is not reported: whatever uses the folder next will fail.
 void MakeFolder(const std::wstring& path);
 
+// Deletes a file if there is one.
 void DeleteFileAt(const std::wstring& path);
 
 // Throws SystemError when an existing file could not be replaced or deleted as things stand: it is write-protected, or

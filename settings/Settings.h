@@ -28,6 +28,8 @@ struct Settings {
     // The DEFAULT preset, no names, English.
     Settings();
 
+    bool operator==(const Settings&) const = default;
+
     // Takes the type and what follows from it: types 1 and 2 have a second period, 0 and 3 have none, and any other
     // number leaves that as it was.
     void SetClockType(int32_t type);

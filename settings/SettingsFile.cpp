@@ -32,5 +32,6 @@ std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
 }
 
 void SettingsFile::Save(const Settings& settings) const {
+    MakeFolder(folder);
     ReplaceFileBytes(path, EncodeRecord(EncodeSettings(settings)));
 }

@@ -12,7 +12,7 @@ class Texts;
 class SettingsFile {
   public:
     // `folder` with its trailing backslash.
-    explicit SettingsFile(const std::wstring& folder) : path(folder + L"TORVANIX.set") {}
+    explicit SettingsFile(const std::wstring& folder) : folder(folder), path(folder + L"TORVANIX.set") {}
 
     // The language alone, which the first window needs. English if there is no file or it cannot be read.
     int32_t LoadLanguage() const;
@@ -22,10 +22,11 @@ class SettingsFile {
     // file is never changed.
     std::wstring Load(Settings& settings, const Texts& texts) const;
 
-    // Replaces the whole file. Throws RunTimeError(Fault::OutOfRange) if the names together are too long, and
-    // SystemError if the file cannot be written; the old file then stays.
+    // Replaces the whole file, in a folder that is made again where it has been removed. Throws
+    // RunTimeError(Fault::OutOfRange) if the names together are too long, and SystemError if the file cannot be
+    // written; the old file then stays.
     void Save(const Settings& settings) const;
 
   private:
-    std::wstring path;
+    std::wstring folder, path;
 };

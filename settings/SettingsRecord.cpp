@@ -20,9 +20,9 @@ int32_t DecodeLanguage(const SlotRecord& record) {
     }
 }
 
-void DecodeOptions(SlotReader& slots, Settings& settings) {
-    for (int32_t& seconds : settings.Control.PeriodLimit) seconds = slots.NextMinutes(60);
-    for (int32_t& seconds : settings.Control.SecondPeriodTime) seconds = slots.NextMinutes(0);
+void DecodeOptions(SlotReader& slots, Settings& settings, int32_t step) {
+    for (int32_t& seconds : settings.Control.PeriodLimit) seconds = slots.NextMinutes(60, step);
+    for (int32_t& seconds : settings.Control.SecondPeriodTime) seconds = slots.NextMinutes(0, step);
     for (int32_t& seconds : settings.Control.MoveBonus) seconds = slots.Next(0);
     settings.Control.CountTimeDown = slots.NextCheck();
     settings.TurnClock = slots.NextCheck();
@@ -41,7 +41,8 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
         settings.PlayerNames[White] = reader.NextName(MaxNameCharacters);
         const int32_t left = MaxNameCharacters - static_cast<int32_t>(settings.PlayerNames[White].size());
         settings.PlayerNames[Black] = reader.NextName(left);
-        DecodeOptions(reader, settings);
+        DecodeOptions(reader, settings, 60);
+        reader.At(LanguageSlot);
         settings.WritePgn = reader.At(PgnSlot) != 0;
     } catch (const BadSlot& bad) {
         return bad.Error;

@@ -9,17 +9,16 @@
 // More characters than this in the two names together would push the fields into the language's slot.
 inline constexpr int32_t MaxNameCharacters = 284;
 
-// The language of a record: English if its slot is empty or could not be read, otherwise the number as it is. A number
-// that does not fit in 32 bits counts as empty.
+// The language of a record: English if its slot is empty or could not be read, otherwise the number as it is.
 int32_t DecodeLanguage(const SlotRecord& record);
 
 // Takes the fields after the names, from the first period to the flag sound, which the record of a saved game has in
-// the same order. Throws BadSlot.
-void DecodeOptions(SlotReader& slots, Settings& settings);
+// the same order. Periods must be multiples of `step`, in seconds. Throws BadSlot.
+void DecodeOptions(SlotReader& slots, Settings& settings, int32_t step);
 
 // Takes every setting except the language, in the order of the record. On an error, of the record or of a value, what
 // was taken before it stays and the rest is as it was. Any numeric slot type is accepted for a number; an empty slot
-// counts as 0.
+// counts as 0. The periods must be whole minutes, and the language a number, though it is not taken.
 std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings& settings);
 
 // The record of all settings; times in whole minutes. Throws RunTimeError(Fault::OutOfRange) when the two names

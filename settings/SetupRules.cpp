@@ -15,6 +15,13 @@ void DropWhatTypeLacks(Settings& settings) {
     if (!rules.Bonus) settings.Control.MoveBonus.fill(0);
 }
 
+void DropFractions(Settings& settings) {
+    for (Side side : BothSides) {
+        settings.Control.PeriodLimit[side] -= settings.Control.PeriodLimit[side] % 60;
+        settings.Control.SecondPeriodTime[side] -= settings.Control.SecondPeriodTime[side] % 60;
+    }
+}
+
 void ChooseClockType(Settings& settings, int32_t type) {
     settings.SetClockType(type);
     DropWhatTypeLacks(settings);

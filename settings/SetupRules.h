@@ -26,6 +26,9 @@ TypeRules RulesOf(int32_t clockType);
 // Makes 0 what cannot be set with the type.
 void DropWhatTypeLacks(Settings& settings);
 
+// Cuts the periods of a loaded game to the whole minutes that the dialog shows and the settings file stores.
+void DropFractions(Settings& settings);
+
 // Takes the type and applies its rules: what cannot be set becomes 0, and HOURGLASS counts down.
 void ChooseClockType(Settings& settings, int32_t type);
 

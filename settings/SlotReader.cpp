@@ -14,10 +14,10 @@ double Real(const SlotValue& value) {
 }
 
 int32_t Rounded(double real, int32_t slot) {
+    if (std::isnan(real)) Fail(Damage::OutOfRange, slot);
     const double rounded = std::nearbyint(real);
     constexpr double least = std::numeric_limits<int32_t>::min(), most = std::numeric_limits<int32_t>::max();
-    // A NaN passes neither comparison, so it is refused too.
-    if (!(rounded >= least && rounded <= most)) Fail(Damage::Overflow, slot);
+    if (rounded < least || rounded > most) Fail(Damage::Overflow, slot);
     return static_cast<int32_t>(rounded);
 }
 
@@ -42,17 +42,20 @@ int32_t SlotReader::Next(int32_t least, int32_t most) {
     return value;
 }
 
-int32_t SlotReader::NextMinutes(int32_t leastSeconds) {
+int32_t SlotReader::NextMinutes(int32_t leastSeconds, int32_t step) {
     const int32_t slot = next++;
     const int32_t seconds = Rounded(Real(Value(slot)) * 60, slot);
-    if (seconds < leastSeconds) Fail(Damage::OutOfRange, slot);
+    if (seconds < leastSeconds || seconds % step != 0) Fail(Damage::OutOfRange, slot);
     return seconds;
 }
 
 std::string SlotReader::NextName(int32_t longest) {
     const int32_t length = Next(0, longest);
     std::string name;
-    for (int32_t i = 0; i < length; ++i) name.push_back(static_cast<char>(Next(0, 255)));
+    for (int32_t i = 0; i < length; ++i) {
+        name.push_back(static_cast<char>(Next(0, 255)));
+        if (IsControlCharacter(name.back())) Fail(Damage::OutOfRange, Last());
+    }
     return name;
 }
 

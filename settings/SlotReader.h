@@ -5,6 +5,9 @@
 #include <limits>
 #include <string>
 
+// No name holds these: a window would end at a NUL, and a text file's head at a line end.
+constexpr bool IsControlCharacter(char character) { return (character >= 0 && character < ' ') || character == 127; }
+
 // Thrown by a SlotReader at the first bad slot; it goes no further than the decoder that uses the reader.
 struct BadSlot {
     RecordError Error;
@@ -26,10 +29,10 @@ class SlotReader {
     int32_t Next() { return At(next++); }
     int32_t Next(int32_t least, int32_t most = std::numeric_limits<int32_t>::max());
 
-    // Minutes, possibly with a fraction, as seconds, rounded to the nearest.
-    int32_t NextMinutes(int32_t leastSeconds);
+    // Minutes, possibly with a fraction, as seconds, rounded to the nearest; they must be a multiple of `step`.
+    int32_t NextMinutes(int32_t leastSeconds, int32_t step);
 
-    // A length and that many character codes of 8 bits.
+    // A length and that many character codes of 8 bits, none of them that of a control character.
     std::string NextName(int32_t longest);
 
     // Check boxes are stored as 0 and 1, or as booleans 0 and -1.

@@ -127,6 +127,7 @@ frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Setting
                    std::function<void(HWND)> openHelp)
     : Dialog(around), file(file), settings(settings), draft(settings), openHelp(std::move(openHelp)) {
     DropWhatTypeLacks(draft);
+    DropFractions(draft);
 }
 
 void frmSetup::Open(HWND owner) {
@@ -319,7 +320,8 @@ std::wstring frmSetup::TakeName(Side side, const std::wstring& text) {
     std::string& name = draft.PlayerNames[side];
     const auto typed = ToAnsiExactly(text);
     const size_t other = draft.PlayerNames[Other(side)].size();
-    if (typed && typed->size() + other <= static_cast<size_t>(MaxNameCharacters))
+    const bool clean = typed && std::none_of(typed->begin(), typed->end(), IsControlCharacter);
+    if (clean && typed->size() + other <= static_cast<size_t>(MaxNameCharacters))
         name = *typed;
     else
         MessageBeep(MB_OK);

@@ -32,6 +32,7 @@ TextId ReasonRow(Damage damage) {
         case Damage::ShortFile: return TextId::ReasonShortFile;
         case Damage::OutOfRange: return TextId::ReasonSlotOutOfRange;
         case Damage::Overflow: return TextId::ReasonSlotOverflow;
+        case Damage::TooManyMoves: return TextId::ReasonTooManyMoves;
         case Damage::CountsOutOfStep: return TextId::ReasonCountsOutOfStep;
         case Damage::TurnAgainstCounts: return TextId::ReasonTurnAgainstCounts;
         case Damage::NoTimeLeft: return TextId::ReasonNoTimeLeft;
@@ -87,7 +88,7 @@ std::wstring Texts::Duration(int32_t seconds) const {
         // No time at all is spoken as "0 seconds".
         if (count == 0 && (seconds != 0 || unit != TextId::SpokenSecond)) continue;
         if (!text.empty()) text += L' ';
-        text += Compose(CountRow(unit, count, language), std::to_wstring(count));
+        text += Compose(CountRow(unit, count, LanguageIndex()), std::to_wstring(count));
     }
     return text;
 }

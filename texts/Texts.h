@@ -18,7 +18,7 @@ class Texts {
     // Text of an identifier; empty where the table has none.
     std::wstring LookUp(int64_t identifier) const;
 
-    std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, language)); }
+    std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, LanguageIndex())); }
 
     // Text of a row with its %1 to %9 replaced.
     template <typename... Parts>
@@ -38,7 +38,8 @@ class Texts {
     // What is wrong with a damaged file, and where.
     std::wstring Reason(Damage damage, int32_t place, int32_t column = 0) const;
 
-    int32_t LanguageIndex() const { return language; }
+    // That of the texts: English where the settings have the number of none.
+    int32_t LanguageIndex() const { return language >= Turkish && language <= French ? language : English; }
 
   private:
     std::wstring ComposeOf(TextId row, std::initializer_list<std::wstring> parts) const;

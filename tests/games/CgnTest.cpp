@@ -11,7 +11,7 @@ namespace {
 std::string Read(const std::string& given) {
     const std::string head =
         "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"0124-03-09\"]\r\n[Round \"\"]\r\n"
-        "[White \"Team 1. Anna\"]\r\n[Black \"Bob \"the Rook\"  \"]\r\n[Result \"";
+        "[White \"Team 1. Anna\"]\r\n[Black \"Bob \"the Rook\"\"]\r\n[Result \"";
     const Side toMove = given[0] == 'W' ? White : Black;
     std::string movetext = given.size() > 3 ? given.substr(3) : "";
     for (const auto& [sign, text] : {std::pair{'_', std::string(MissingMove)}, {'~', "\r\n"}}) {
@@ -23,7 +23,7 @@ std::string Read(const std::string& given) {
         EXPECT_EQ(ListText(lists) + std::string(ExtensionOf(error->File)), "1. a3 / .cgn") << "nothing is taken";
         return DamageText(error->What, error->Place - static_cast<int>(start.size()));
     }
-    const std::string written = EncodeCgn({{124, 3, 9}, {"Team 1. Anna", "Bob \"the Rook\"\r\n"}}, lists);
+    const std::string written = EncodeCgn({{124, 3, 9}, {"Team 1. Anna", "Bob \"the Rook\""}}, lists);
     const std::string again = written.substr(written.rfind('\r') + 1), result = again.substr(again.rfind(' ') + 1);
     EXPECT_EQ(written, head + result + "\"]\r\n\r" + again);
     MoveLists readAgain;

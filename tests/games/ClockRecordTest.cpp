@@ -110,10 +110,10 @@ TEST(ClockRecordTest, StatesAndDamages) {
         down=0 bonus0=0 time0=92 due0=1 => 92:2 due armed, 1000:1 due, White runs
         up time0=104 => 104:2 armed, 1000:1 due, White runs | up time0=105 => NoTimeLeft 18
         Damages.
-        0=129 => OutOfRange 0 | 3=5000 => OutOfRange 3 | 1=256 => OutOfRange 1 | first0=0.98 => OutOfRange 4
-        first1=nan => Overflow 5 | second0=99999999. => Overflow 6 | second1=-1. => OutOfRange 7
+        0=129 => OutOfRange 0 | 1=9 => OutOfRange 1 | 3=5000 => OutOfRange 3 | 1=256 => OutOfRange 1 | first0=0.98 => OutOfRange 4
+        first1=nan => OutOfRange 5 | second0=99999999. => Overflow 6 | second1=-1. => OutOfRange 7
         bonus0=-1 => OutOfRange 8 | moves=-1 => OutOfRange 15 | time1=-1 => OutOfRange 19 | time0=0 => NoTimeLeft 18
-        time1=0 black=2 white's=0 => NoTimeLeft 19 | white=-1 => OutOfRange 22 | white=100000 => OutOfRange 22
+        time1=0 black=2 white's=0 => NoTimeLeft 19 | white=-1 => OutOfRange 22 | white=100000 => TooManyMoves 22
         black=3 => CountsOutOfStep 23 | white's=0 => TurnAgainstCounts 26 | black=2 => TurnAgainstCounts 26
         black=2 started=0 => TurnAgainstCounts 26 | white=0 black=0 white's=0 => TurnAgainstCounts 26
     )");

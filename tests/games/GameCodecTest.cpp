@@ -9,13 +9,13 @@
 namespace {
 
 // With White to move at its second move.
-GameFiles Saved(const Recorder* recorder, bool pgn = true) {
+GameFiles Saved(const Recorder* recorder, bool pgn = true, int32_t moves = 2) {
     Settings settings;
     settings.WritePgn = pgn;
     modClock::ClockState clock;
     clock.Control.PeriodLimit.fill(600);
     clock.PlayerTime = {300, 200};
-    clock.MoveCount = {2, 1};
+    clock.MoveCount = {moves, moves - 1};
     clock.GameStarted = clock.TurnFlag = true;
     return EncodeGame(settings, clock, recorder, {2024, 3, 9});
 }
@@ -31,7 +31,7 @@ std::string Load(const GameFiles& files, SavedGame& game) {
     };
     if (const auto error = DecodeGame(read, Settings(), game))
         return std::string(ExtensionOf(error->File)) + " " + DamageText(error->What, error->Place);
-    return asked;
+    return asked + (game.PgnUnreadable ? " unreadable" : "");
 }
 
 }  // namespace
@@ -87,6 +87,20 @@ TEST(GameCodecTest, FilesThatAreMissingOrDamaged) {
     EXPECT_EQ(loaded(files, {DiagramFile}, ""), ".txt BrokenLine 1 1. d4 /  O");
     EXPECT_EQ(loaded(files, {MovesFile}, ""), ".cgn NoHead 0 1. d4 /  O");
     EXPECT_EQ(loaded(files, {MovesFile}, huge), ".cgn TooLong 4194304 1. d4 /  O");
-    EXPECT_EQ(loaded(files, {PgnFile}, ""), ".pgn NoHead 0 1. d4 /  O");
-    EXPECT_EQ(loaded(files, {PgnFile}, huge), ".pgn TooLong 4194304 1. d4 /  O");
+    for (const auto& bad : {std::optional<std::string>(""), huge})
+        EXPECT_EQ(loaded(files, {PgnFile}, bad), ".bin.txt.cgn.pgn unreadable 1. e4|2. Nf3 / e5 WN");
+    SavedGame game;
+    GameFiles cut = files;
+    cut[PgnFile] = "cut";
+    Load(cut, game);
+    EXPECT_EQ(Saved(&game.Scorlet), files) << "the running text follows from the lists";
+}
+
+TEST(GameCodecTest, WhatCannotBeLoadedIsNotWorthSaving) {
+    const Recorder recorder = Played("e2e4 e7e5 g1f3");
+    for (const Recorder* written : {&recorder, static_cast<const Recorder*>(nullptr)}) {
+        EXPECT_EQ(FaultOf(Saved(written, true, MostSavedMoves)), std::nullopt);
+        EXPECT_EQ(FaultOf(Saved(written, true, MostSavedMoves + 1)),
+                  (GameFileError{ClockFile, Damage::TooManyMoves, 22 + 2 - 4}));
+    }
 }

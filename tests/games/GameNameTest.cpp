@@ -18,11 +18,15 @@ TEST(GameNameTest, KeysAndChanges) {
     EXPECT_EQ(name.LastGood(), L"");
 }
 
-TEST(GameNameTest, NamesOfDevices) {
+TEST(GameNameTest, NamesThatNoNewGameMayHave) {
     for (const wchar_t* name : {L"CON", L"con", L"Nul.game", L"PRN", L"COM1", L"lpt9.x.y", L"COM0", L"COM\u00B2",
-                                L"CONIN$", L"conout$", L"aux "})
-        EXPECT_TRUE(IsDeviceName(name)) << testing::PrintToString(name);
+                                L"CONIN$", L"conout$", L"aux .x"})
+        EXPECT_EQ(FaultOfName(name), TextId::DeviceName) << testing::PrintToString(name);
     for (const wchar_t* name :
-         {L"", L" ", L"CONE", L"COM", L"COM12", L"COMx", L"COMMA1", L"XOM1", L"xNUL", L"game.con"})
-        EXPECT_FALSE(IsDeviceName(name)) << testing::PrintToString(name);
+         {L"", L" a", L"CONE", L"COM", L"COM12", L"COMx", L"COMMA1", L"XOM1", L"xNUL", L"game.con", L".a"})
+        EXPECT_EQ(FaultOfName(name), std::nullopt) << testing::PrintToString(name);
+    for (const wchar_t* name : {L".", L"..", L" ", L"a ", L"a.", L"NUL "})
+        EXPECT_EQ(FaultOfName(name), TextId::NameEndsInDot) << testing::PrintToString(name);
+    EXPECT_EQ(FaultOfName(std::wstring(199, L'x')), std::nullopt);
+    EXPECT_EQ(FaultOfName(std::wstring(200, L' ')), TextId::NameTooLong);
 }

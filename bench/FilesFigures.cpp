@@ -1,0 +1,75 @@
+#include "bench/FilesFigures.h"
+
+#include "bench/RunningProgram.h"
+#include "games/GameCodec.h"
+#include "tests/desktop/Desktop.h"
+
+#include <stdexcept>
+
+namespace {
+
+// A folder of saved games, each with all its files.
+void FillFolder(const std::wstring& folder, int games) {
+    Settings settings = QuietSettings();
+    settings.WritePgn = true;
+    modClock::ClockState clock;
+    clock.Control = settings.Control;
+    clock.PlayerTime = settings.Control.PeriodLimit;
+    const Recorder record;
+    const GameFiles files = EncodeGame(settings, clock, &record, {2024, 3, 9});
+    CreateDirectoryW(folder.c_str(), nullptr);
+    for (int i = 0; i < games; ++i) {
+        const std::wstring name = folder + L"game" + std::to_wstring(i);
+        for (const GameFile file : AllGameFiles) {
+            const std::string_view extension = ExtensionOf(file);
+            WriteFileText(name + std::wstring(extension.begin(), extension.end()), *files[file]);
+        }
+    }
+}
+
+HWND OpenFiles(ProgramRun& program, int entry) {
+    PostMessageW(program.Clock(), WM_COMMAND, static_cast<WPARAM>(entry), 0);
+    while (!program.FindWindowNow(L"frmFiles")) Sleep(1);
+    const HWND files = program.FindWindowNow(L"frmFiles");
+    SendMessageW(files, WM_NULL, 0, 0);
+    return files;
+}
+
+// Milliseconds from Yes until the condition holds.
+double MeasureAction(ProgramRun& program, HWND files, int button, const wchar_t* name,
+                     const std::function<bool()>& done) {
+    SendMessageW(GetDlgItem(files, txtGameName), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name));
+    PostMessageW(files, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    const HWND question = program.WaitWindow(L"#32770");
+    const double start = Now();
+    PostMessageW(question, WM_COMMAND, IDYES, 0);
+    while (!done()) {
+        if (Now() - start > 60000) throw std::runtime_error("the file dialog does not end its work");
+        Sleep(1);
+    }
+    return Now() - start;
+}
+
+}  // namespace
+
+FilesTimes MeasureFiles(int games) {
+    const TestFolder folder;
+    FillFolder(folder.Path() + L"SavedGames\\", games);
+    ProgramRun program(folder, QuietSettings(true));
+    SendMessageW(program.Clock(), WM_COMMAND, mnuStart, 0);
+    FilesTimes times{};
+    const double start = Now();
+    HWND files = OpenFiles(program, mnuSave);
+    times.Open = Now() - start;
+    times.Save = MeasureAction(program, files, cmdSave, L"new game", [&] { return !IsWindow(files); });
+    if (!program.Ended(files)) throw std::runtime_error("the file dialog does not close");
+    files = OpenFiles(program, mnuDelete);
+    const HWND list = GetDlgItem(files, lstGames);
+    const LRESULT listed = SendMessageW(list, LB_GETCOUNT, 0, 0);
+    if (listed != games + 1) throw std::runtime_error("the list does not hold every game");
+    times.Delete = MeasureAction(program, files, cmdDelete, L"game77",
+                                 [&] { return SendMessageW(list, LB_GETCOUNT, 0, 0) == listed - 1; });
+    PostMessageW(files, WM_CLOSE, 0, 0);
+    program.Ended(files);
+    return times;
+}

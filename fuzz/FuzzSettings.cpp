@@ -1,0 +1,16 @@
+#include "fuzz/Fuzz.h"
+#include "settings/SettingsRecord.h"
+
+// Settings that can be read are written and read as the same; of damaged ones, what has been taken can be written.
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const DecodedRecord record = DecodeRecord({data, size});
+    Settings settings, again;
+    const auto error = DecodeSettings(record, settings);
+    settings.LanguageIndex = DecodeLanguage(record.Slots);
+    const SlotRecord written = EncodeSettings(settings);
+    if (error) return 0;
+    again.LanguageIndex = DecodeLanguage(written);
+    Require(!DecodeSettings({written, {}}, again));
+    Require(again == settings);
+    return 0;
+}
