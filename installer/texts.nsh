@@ -6,10 +6,25 @@
   LangString ${name} ${LANG_FRENCH} "${french}"
 !macroend
 
-!insertmacro Text StillRunning \
-  "TORVANIX is running. Close it, then choose Retry." \
-  "TORVANIX çalışıyor. Programı kapatıp yeniden deneyin." \
-  "TORVANIX est en cours d’exécution. Fermez le programme, puis réessayez."
+!insertmacro Text InUse \
+  "$1 is in use. Close TORVANIX and its help, then choose Retry." \
+  "$1 kullanılıyor. TORVANIX’i ve yardımını kapatıp yeniden deneyin." \
+  "$1 est en cours d’utilisation. Fermez TORVANIX et son aide, puis réessayez."
+
+!insertmacro Text NewerInstalled \
+  "A newer version of TORVANIX is installed in this folder. Replace it with version ${VERSION}?" \
+  "Bu klasörde TORVANIX’in daha yeni bir sürümü kurulu. Yerine ${VERSION} sürümü kurulsun mu?" \
+  "Une version plus récente de TORVANIX est installée dans ce dossier. La remplacer par la version ${VERSION} ?"
+
+!insertmacro Text NewerKept \
+  "The newer version has been kept." \
+  "Yeni sürüm korundu." \
+  "La version plus récente a été conservée."
+
+!insertmacro Text EntriesMove \
+  "TORVANIX is already installed in $1.$\r$\n$\r$\nThat copy will stay there with its saved games, but the Start menu and the list of installed programs will show the new one only. To remove the old copy later, open Uninstall.exe in its folder." \
+  "TORVANIX $1 klasöründe zaten kurulu.$\r$\n$\r$\nO kopya kayıtlı oyunlarıyla orada kalacak, ancak Başlat menüsünde ve yüklü programlar listesinde yalnızca yenisi görünecek. Eski kopyayı daha sonra kaldırmak için klasöründeki Uninstall.exe dosyasını açın." \
+  "TORVANIX est déjà installé dans $1.$\r$\n$\r$\nCette copie y restera avec ses parties enregistrées, mais le menu Démarrer et la liste des programmes installés n’afficheront plus que la nouvelle. Pour supprimer l’ancienne plus tard, ouvrez Uninstall.exe dans son dossier."
 
 !insertmacro Text FolderRefused \
   "This folder cannot be written to. TORVANIX keeps saved games in its own folder: choose one that you may write to." \

@@ -4,8 +4,8 @@
 ; The command line of makensis defines VERSION (three numbers), FILES (the folder of the files to install), PICTURES
 ; (the folder of the icon) and OUTPUT (the installer).
 ;
-; Exit codes: 0 is success, 1 means cancelled by the user, 2 means not installed because TORVANIX is running, the folder
-; cannot be written to or Windows is too old.
+; Exit codes: 0 is success, 1 means cancelled by the user, 2 means not installed because a file of TORVANIX is in use, the
+; folder holds a newer version, the folder cannot be written to or Windows is too old.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -15,6 +15,8 @@ SetCompressor /SOLID lzma
 !include FileFunc.nsh
 !include WinVer.nsh
 
+; A file README.txt in the folder is somebody else's.
+!define README "TORVANIX README.txt"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\TORVANIX"
 
 Name "TORVANIX"
@@ -39,7 +41,7 @@ AllowSkipFiles off
 !define MUI_COMPONENTSPAGE_NODESC
 !define MUI_COMPONENTSPAGE_TEXT_TOP "$(KeptUnlessTicked)"
 
-!define MUI_PAGE_CUSTOMFUNCTION_LEAVE RefuseForeignFolder
+!define MUI_PAGE_CUSTOMFUNCTION_LEAVE LeaveFolderPage
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -62,21 +64,35 @@ VIAddVersionKey /LANG=0 LegalCopyright "© 2026 The TORVANIX team"
 VIAddVersionKey /LANG=0 ProductName "TORVANIX"
 VIAddVersionKey /LANG=0 ProductVersion "${VERSION}"
 
-; A running program cannot be replaced or deleted: its file cannot be opened for writing.
-!macro RefuseWhileRunning
+; A file of the running program or of the open help cannot be replaced or deleted: it cannot be opened for writing.
+; Found before the first file is touched, it leaves the copy that is there in one piece.
+!macro RefuseWhileInUse name
   ${Do}
-    ${IfNot} ${FileExists} "$INSTDIR\torvanix.exe"
+    ${IfNot} ${FileExists} "$INSTDIR\${name}"
       ${Break}
     ${EndIf}
+    ; A write-protected file is not in use.
+    SetFileAttributes "$INSTDIR\${name}" NORMAL
     ClearErrors
-    FileOpen $0 "$INSTDIR\torvanix.exe" a
+    FileOpen $0 "$INSTDIR\${name}" a
     ${IfNot} ${Errors}
       FileClose $0
       ${Break}
     ${EndIf}
-    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(StillRunning)" /SD IDCANCEL IDRETRY +2
-    Abort "$(StillRunning)"
+    StrCpy $1 "$INSTDIR\${name}"
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(InUse)" /SD IDCANCEL IDRETRY +2
+    Abort "$(InUse)"
   ${Loop}
+!macroend
+
+; The list of programs and the Start menu have one entry, which is that of the copy installed last. This puts that copy's
+; folder into $1, or nothing if there is no copy in another folder than this one.
+!macro FindOtherCopy
+  ReadRegStr $1 HKCU "${UNINSTALL_KEY}" InstallLocation
+  ${If} $1 == $INSTDIR
+  ${OrIfNot} ${FileExists} "$1\Uninstall.exe"
+    StrCpy $1 ""
+  ${EndIf}
 !macroend
 
 Function .onInit
@@ -87,8 +103,8 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; Keeps the page open if the user could not save a game in the folder.
-Function RefuseForeignFolder
+; Keeps the page open if the user could not save a game in the folder, or does not want a second copy.
+Function LeaveFolderPage
   ClearErrors
   CreateDirectory "$INSTDIR"
   GetTempFileName $0 "$INSTDIR"
@@ -97,12 +113,35 @@ Function RefuseForeignFolder
     MessageBox MB_OK|MB_ICONEXCLAMATION "$(FolderRefused)"
     Abort
   ${EndIf}
+  !insertmacro FindOtherCopy
+  ${If} $1 != ""
+    MessageBox MB_OKCANCEL|MB_ICONINFORMATION "$(EntriesMove)" IDOK +2
+    Abort
+  ${EndIf}
+FunctionEnd
+
+Function AskBeforeDowngrade
+  GetDLLVersion "$INSTDIR\torvanix.exe" $0 $1
+  GetDLLVersion "$EXEPATH" $2 $3
+  ${If} $0 = $2
+    StrCpy $0 $1
+    StrCpy $2 $3
+  ${EndIf}
+  ${If} $0 > $2
+    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "$(NewerInstalled)" /SD IDNO IDYES +2
+    Abort "$(NewerKept)"
+  ${EndIf}
 FunctionEnd
 
 Section "TORVANIX" Program
-  !insertmacro RefuseWhileRunning
+  Call AskBeforeDowngrade
+  !insertmacro RefuseWhileInUse torvanix.exe
+  !insertmacro RefuseWhileInUse TORVANIX.chm
+  !insertmacro RefuseWhileInUse "${README}"
+  !insertmacro RefuseWhileInUse Uninstall.exe
   SetOutPath "$INSTDIR"
-  File "${FILES}\torvanix.exe" "${FILES}\TORVANIX.chm" "${FILES}\README.txt"
+  File "${FILES}\torvanix.exe" "${FILES}\TORVANIX.chm"
+  File "/oname=${README}" "${FILES}\README.txt"
   WriteUninstaller "$INSTDIR\Uninstall.exe"
   CreateShortcut "$SMPROGRAMS\TORVANIX.lnk" "$INSTDIR\torvanix.exe" "" "" 0 SW_SHOWNORMAL "" "$(ChessClock)"
 
@@ -128,28 +167,55 @@ FunctionEnd
 
 Section "un.TORVANIX"
   SectionIn RO
-  !insertmacro RefuseWhileRunning
+  !insertmacro RefuseWhileInUse torvanix.exe
+  !insertmacro RefuseWhileInUse TORVANIX.chm
+  !insertmacro RefuseWhileInUse "${README}"
   Delete "$INSTDIR\torvanix.exe"
   Delete "$INSTDIR\TORVANIX.chm"
-  Delete "$INSTDIR\README.txt"
+  Delete "$INSTDIR\${README}"
   Delete "$INSTDIR\Uninstall.exe"
-  Delete "$SMPROGRAMS\TORVANIX.lnk"
 SectionEnd
 
+; Puts 1 into $0 if a folder of the program's is a link. What it leads to lies outside and is kept; so is the link, so
+; that a later installation finds the games again.
+!macro IsLink folder
+  ${GetFileAttributes} "$INSTDIR\${folder}" REPARSE_POINT $0
+!macroend
+
+; Only what the program has written, or may have left behind in a crash: the folders may hold files of the user's own.
 Section /o "un.$(GamesAndSettings)" GamesAndSettings
-  RMDir /r "$INSTDIR\SavedGames"
-  ; Only what the program has written, or may have left behind in a crash: the folder may hold files of the user's own.
-  Delete "$INSTDIR\Data\TORVANIX.set"
-  Delete "$INSTDIR\Data\TORVANIX.set.new"
+  !insertmacro IsLink SavedGames
+  ${If} $0 <> 1
+    Delete "$INSTDIR\SavedGames\*.bin"
+    Delete "$INSTDIR\SavedGames\*.txt"
+    Delete "$INSTDIR\SavedGames\*.cgn"
+    Delete "$INSTDIR\SavedGames\*.pgn"
+    Delete "$INSTDIR\SavedGames\*.new"
+  ${EndIf}
+  !insertmacro IsLink Data
+  ${If} $0 <> 1
+    Delete "$INSTDIR\Data\TORVANIX.set"
+    Delete "$INSTDIR\Data\TORVANIX.set.new"
+  ${EndIf}
 SectionEnd
 
 Section "-un.Folders"
-  ; RMDir leaves folders that are not empty.
+  ; RMDir leaves folders that are not empty, but takes a link whatever it leads to.
   SetOutPath "$TEMP"
-  RMDir "$INSTDIR\SavedGames"
-  RMDir "$INSTDIR\Data"
+  !insertmacro IsLink SavedGames
+  ${If} $0 <> 1
+    RMDir "$INSTDIR\SavedGames"
+  ${EndIf}
+  !insertmacro IsLink Data
+  ${If} $0 <> 1
+    RMDir "$INSTDIR\Data"
+  ${EndIf}
   RMDir "$INSTDIR"
-  DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  !insertmacro FindOtherCopy
+  ${If} $1 == ""
+    Delete "$SMPROGRAMS\TORVANIX.lnk"
+    DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  ${EndIf}
 SectionEnd
 
 Function un.onInit

@@ -59,6 +59,10 @@ use_own_wine() {
         }
         wineserver -w
     fi
+    # The signs on the buttons of title bars. Debian's Wine does not look into the folder of its own fonts and would
+    # show the letters 0, 1 and r.
+    local signs=/usr/share/wine/fonts/marlett.ttf
+    [ ! -f "$signs" ] || ln -sf "$signs" "$WINEPREFIX/drive_c/windows/Fonts/"
 }
 
 # Starts a virtual display of its own and points DISPLAY at it.
