@@ -84,9 +84,7 @@ void Command(const Form& form, int id) { SendMessageW(form.Window(), WM_COMMAND,
 
 // Brings a form into its next state that looks different.
 void Change(const Form& form, const Texts& texts, int state) {
-    const auto key = [&](int code) {
-        SendMessageW(form.Control(picBoard), WM_KEYDOWN, static_cast<WPARAM>(code), 1);
-    };
+    const auto key = [&](int code) { SendMessageW(form.Control(picBoard), WM_KEYDOWN, static_cast<WPARAM>(code), 1); };
     const bool clock = !form.Control(picBoard);
     if (clock && state < 3) return Command(form, state == 1 ? mnuStart : mnuPause);
     if (!clock) {
