@@ -41,6 +41,7 @@ class frmClock : public Form, private ClockView {
     void LoadPictures();
     void ShowSetup();
     void ShowAbout();
+    void ShowHelp(HelpPage page);
     void ShowFiles(FilesMode mode);
     void TakeLoadedGame(const frmFiles::Chosen& chosen);
     void UpdateMenu();

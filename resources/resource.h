@@ -42,7 +42,10 @@ enum ClockControl : int {
     mnuPrint,
     mnuContents,
     mnuAbout,
-    mnuNextWindow,  // has a key, but no menu entry
+    // These have no menu entry.
+    mnuNextWindow,
+    mnuSetupByKey,
+    mnuScorletHelp,
 };
 
 // The Scorlet.
