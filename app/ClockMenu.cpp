@@ -45,7 +45,7 @@ constexpr std::array ScorletEntries{
 };
 
 constexpr std::array HelpEntries{
-    Entry{mnuContents, TextId::MenuContents},
+    Entry{mnuContents, TextId::MenuContents, TextId::MenuContentsKey},
     Separator,
     Entry{mnuAbout, TextId::MenuAbout},
 };
@@ -79,7 +79,8 @@ UniqueAccelerators MakeClockAccelerators() {
     std::array keys{
         ACCEL{FCONTROL | FVIRTKEY, 'T', mnuStart},
         ACCEL{FCONTROL | FVIRTKEY, 'R', mnuReset},
-        ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetup},
+        // Not the entry's own command: the system sends none for a disabled entry, and the player would get no answer.
+        ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetupByKey},
         ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
     };
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));

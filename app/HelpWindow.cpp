@@ -18,6 +18,7 @@ const wchar_t* FolderOf(int32_t language) {
 
 const wchar_t* NameOf(HelpPage page) {
     switch (page) {
+        case HelpPage::Scorlet: return L"scorlet.htm";
         case HelpPage::Settings: return L"settings.htm";
         case HelpPage::SavedGames: return L"saving.htm";
         case HelpPage::Contents: break;
@@ -48,8 +49,9 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
         SetForegroundWindow(held);
         return;
     }
-    // A viewer that has been started and shows no window yet will.
-    if (process && page == HelpPage::Contents && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
+    // A viewer that has been started and shows no window yet will. A held F1 must not start one after the other.
+    const bool wanted = page == HelpPage::Contents || page == started;
+    if (process && wanted && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
     const std::wstring& viewer = environment.HelpViewerPath;
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
     const std::wstring file = address.substr(0, address.rfind(L"::"));
@@ -58,6 +60,7 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
         return messageBoxes.Inform(owner, texts.Compose(TextId::HelpFileMissing, file));
 
     try {
+        started = page;
         process = StartProgram(viewer, L"\"" + viewer + L"\" \"" + address + L"\"");
     } catch (const SystemError& error) {
         const std::wstring reason = texts.Reason(error.Code());

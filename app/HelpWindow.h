@@ -8,7 +8,7 @@
 #include <string>
 
 // Pages of the help file.
-enum class HelpPage { Contents, Settings, SavedGames };
+enum class HelpPage { Contents, Scorlet, Settings, SavedGames };
 
 // The help file in the system's help viewer: opened, followed and closed with the program.
 class HelpWindow {
@@ -32,6 +32,7 @@ class HelpWindow {
     const Texts& texts;
     const MessageBoxes& messageBoxes;
     const Environment& environment;
-    UniqueFile process;  // of the viewer last started
+    UniqueFile process;                     // of the viewer last started
+    HelpPage started = HelpPage::Contents;  // the page it was started with
     HWND held = nullptr;
 };

@@ -95,7 +95,8 @@ bool frmClock::TakeMessage(MSG& message) {
 }
 
 void frmClock::ShowSetup() {
-    if (!game.Clock().SetupEnabled()) return;
+    if (!game.Clock().SetupEnabled())
+        return messageBoxes.Inform(Window(), texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpSetup));
     frmSetup setup(around, settingsFile, settings, [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
     setup.Open(Window());
     setup.RunModal();
@@ -103,6 +104,12 @@ void frmClock::ShowSetup() {
     SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
     panels.ShowSettings();
     game.TakeSettings();
+}
+
+// What is to be told comes over the window that is in front.
+void frmClock::ShowHelp(HelpPage page) {
+    const HWND front = GetActiveWindow();
+    help.Open(front ? front : Window(), page);
 }
 
 void frmClock::ShowAbout() {
@@ -162,8 +169,12 @@ void frmClock::ClockChanged(const ClockChange& change) {
 void frmClock::ShowPhase() {
     const bool active = GetActiveWindow() == Window();
     const Phase phase = game.Clock().CurrentPhase();
-    // A disabled button would swallow the keys.
-    if (active && phase == Phase::Fallen) SetFocus(Window());
+    if (active && phase == Phase::Fallen) {
+        // The change of focus would close an open menu and leave its name in the menu bar highlighted.
+        EndMenu();
+        // A disabled button would swallow the keys.
+        SetFocus(Window());
+    }
     panels.ShowPhase();
     // A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
     if (active) FocusRightfulButton();
@@ -178,11 +189,16 @@ void frmClock::ShowPhase() {
 void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
     const bool paused = game.Clock().CurrentPhase() == Phase::Paused;
-    const std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
-    ModifyMenuW(menu, mnuPause, MF_BYCOMMAND | MF_STRING, mnuPause, pause.c_str());
+    std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
+    // The text alone: an entry of an open menu keeps its highlight.
+    MENUITEMINFOW entry{};
+    entry.cbSize = sizeof(entry);
+    entry.fMask = MIIM_STRING;
+    entry.dwTypeData = pause.data();
+    SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
     EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
-    for (const UINT entry : {mnuCloseScorlet, mnuPrint})
-        EnableMenuItem(menu, entry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
+    for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint})
+        EnableMenuItem(menu, scorletEntry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
 }
 
 void frmClock::Tick() {
@@ -238,6 +254,10 @@ void frmClock::GameChanged() {
 LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam)); return 0;
+        case WM_HELP:
+            // F1, here or in the about box, which has no page of its own.
+            ShowHelp(HelpPage::Contents);
+            return TRUE;
         case WM_BUTTONKEY: OnButtonKey(static_cast<int>(lParam), wParam); return 0;
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
@@ -311,8 +331,10 @@ void frmClock::OnCommand(int id) {
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
         case mnuPrint: return printer.Print(Window());
-        case mnuSetup: return ShowSetup();
-        case mnuContents: return help.Open(Window(), HelpPage::Contents);
+        case mnuSetup:
+        case mnuSetupByKey: return ShowSetup();
+        case mnuContents: return ShowHelp(HelpPage::Contents);
+        case mnuScorletHelp: return ShowHelp(HelpPage::Scorlet);
         case mnuAbout: return ShowAbout();
         case cmdPause:
         case cmdPause + 1: return game.PauseOrResume(PlaceOf(id).Panel);

@@ -44,6 +44,7 @@ class frmClock : public Form, private ClockView {
     void LoadPictures();
     void ShowSetup();
     void ShowAbout();
+    void ShowHelp(HelpPage page);
     void ShowFiles(FilesMode mode);
     void TakeGame(const SavedGame& saved, const std::wstring& title);
     void BringBack(const SavedGame& saved);

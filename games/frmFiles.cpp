@@ -69,6 +69,10 @@ LRESULT frmFiles::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         OnCommand(LOWORD(wParam), HIWORD(wParam));
         return 0;
     }
+    if (message == WM_HELP) {
+        openHelp(Window());
+        return TRUE;
+    }
     return Dialog::Handle(message, wParam, lParam);
 }
 

@@ -27,6 +27,11 @@ bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 *
 static_assert(CapturedSlots == SlotsPerSide);
 bool IsPromotion(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
 
+std::wstring WithoutAccessKey(std::wstring caption) {
+    std::erase(caption, L'&');
+    return caption;
+}
+
 template <typename Action>
 void ForEachSquare(Action action) {
     for (int rank = 8; rank >= 1; --rank) {
@@ -188,6 +193,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CHAR:
             if (IsPauseKey(wParam)) game.PressKeyP();
             return 0;
+        case WM_HELP: SendMessageW(shell, WM_COMMAND, mnuScorletHelp, 0); return TRUE;
         case WM_ENDEDIT: EndEdit(wParam != 0); return 0;
         case WM_CONTEXTMENU:
             if (OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
@@ -366,7 +372,7 @@ std::wstring frmScorlet::SpokenName(int id) const {
         case lstMoves:
         case lstMoves + 1:
             return captions.SideName(id == lstMoves ? White : Black) + L", " + captions(TextId::MovesOfSide);
-        case txtMove: return captions(TextId::EditMove);
+        case txtMove: return WithoutAccessKey(captions(TextId::EditMove));
         default: return {};
     }
 }

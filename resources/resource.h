@@ -42,8 +42,11 @@ enum ClockControl : int {
     mnuPrint,
     mnuContents,
     mnuAbout,
-    mnuNextWindow,  // has a key, but no menu entry
     mnuBringBack,
+    // These have no menu entry.
+    mnuNextWindow,
+    mnuSetupByKey,
+    mnuScorletHelp,
 };
 
 // The Scorlet.

@@ -2,6 +2,8 @@
 
 #include "settings/Settings.h"
 
+#include <optional>
+
 // What the setup dialog lets the players set.
 
 // The range of a time's scroll bar and its steps: minutes for periods, seconds for the bonus.
@@ -23,14 +25,19 @@ struct TypeRules {
 };
 TypeRules RulesOf(int32_t clockType);
 
-// Makes 0 what cannot be set with the type.
-void DropWhatTypeLacks(Settings& settings);
+// What the dialog holds. Times that the chosen type lacks are kept for a type that has them.
+struct SetupDraft {
+    Settings Held;
+    std::optional<bool> BeforeHourglass;  // CountTimeDown, which HOURGLASS has set
+
+    // HOURGLASS counts down; a type that follows has back what was chosen before.
+    void ChooseClockType(int32_t type);
+    void ChooseCountTimeDown(bool down);
+    void ChoosePreset(const Preset& preset);
+
+    // What OK takes: times that the type lacks are 0.
+    Settings Chosen() const;
+};
 
 // Cuts the periods of a loaded game to the whole minutes that the dialog shows and the settings file stores.
 void DropFractions(Settings& settings);
-
-// Takes the type and applies its rules: what cannot be set becomes 0, and HOURGLASS counts down.
-void ChooseClockType(Settings& settings, int32_t type);
-
-// Takes a preset, then applies the rules of its type.
-void ChoosePreset(Settings& settings, const Preset& preset);

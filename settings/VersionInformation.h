@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 // What the running program file says of itself in its version resource; empty where it says nothing.
@@ -10,4 +11,5 @@ struct VersionInformation {
     std::wstring LegalCopyright;
 };
 
-VersionInformation ReadVersionInformation();
+// In a language of the program; an unknown one is answered in English.
+VersionInformation ReadVersionInformation(int32_t language);

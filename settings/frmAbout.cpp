@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array KnightNames{"WN", "BN", "BNR", "WNR"};
 
-// The knights of a colour face each other across the texts.
+// The knights of both columns face the texts.
 constexpr int Width = 690, Height = 250, Knight = 96, Row = 44;
 
 constexpr DialogItem KnightAt(int index, int left, int top) {
@@ -25,8 +25,8 @@ constexpr DialogItem ValueAt(int row) {
 }
 
 constexpr std::array Items{
-    KnightAt(0, 16, 20),
-    KnightAt(1, 16, 134),
+    KnightAt(2, 16, 20),
+    KnightAt(3, 16, 134),
     CaptionAt(0, TextId::CopyrightNotice),
     ValueAt(0),
     CaptionAt(1, TextId::ProgramName),
@@ -35,15 +35,15 @@ constexpr std::array Items{
     ValueAt(2),
     CaptionAt(3, TextId::LegalTrademarks),
     ValueAt(3),
-    KnightAt(2, Width - 16 - Knight, 20),
-    KnightAt(3, Width - 16 - Knight, 134),
+    KnightAt(0, Width - 16 - Knight, 20),
+    KnightAt(1, Width - 16 - Knight, 134),
 };
 
 }  // namespace
 
 void frmAbout::Open(HWND owner) {
     Create(owner, L"frmAbout", TextId::ProductTitle, L"AAATORVANIX", Width, Height, Items);
-    const VersionInformation version = ReadVersionInformation();
+    const VersionInformation version = ReadVersionInformation(language);
     SetText(lblAboutValue, version.Comments);
     SetText(lblAboutValue + 1, version.ProductName);
     SetText(lblAboutValue + 2, version.Version);

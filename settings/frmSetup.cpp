@@ -32,16 +32,17 @@ constexpr DialogItem Button(int id, Box box, TextId text, bool first = false) {
 constexpr DialogItem Name(int id, int left, int top) {
     return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, 180, 23}};
 }
-// A caption over the scroll bars of both sides; what it says depends on the clock type.
+// A caption over the scroll bars of both sides; what it says, and whether there is anything, depends on the clock type.
 constexpr DialogItem TimeCaption(int id, int top) { return {id, WC_STATICW, SS_NOPREFIX, {22, top, 290, LineHeight}}; }
 constexpr DialogItem Unit(int id, int top, TextId text) {
     return {id, WC_STATICW, SS_RIGHT | SS_NOTIFY, {312, top, 84, LineHeight}, text};
 }
 constexpr DialogItem Bar(int id, int left, int top) {
-    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 128, 20}};
+    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 96, 20}};
 }
 constexpr DialogItem Value(int id, int left, int top) {
-    return {id, WC_STATICW, SS_RIGHT, {left, top + 2, 46, LineHeight}};
+    // As wide as the longest time that a settings file can hold.
+    return {id, WC_STATICW, SS_RIGHT, {left, top + 2, 80, LineHeight}};
 }
 
 constexpr std::array Items{
@@ -56,21 +57,21 @@ constexpr std::array Items{
     TimeCaption(lblFirstCaption, 184),
     Unit(lblFirstUnit, 184, TextId::HoursMinutes),
     Bar(hsbFirstPeriod, 22, 207),
-    Value(lblFirstPeriod, 154, 207),
+    Value(lblFirstPeriod, 122, 207),
     Bar(hsbFirstPeriod + 1, 216, 207),
-    Value(lblFirstPeriod + 1, 350, 207),
+    Value(lblFirstPeriod + 1, 316, 207),
     TimeCaption(lblSecondCaption, 262),
     Unit(lblSecondUnit, 262, TextId::HoursMinutes),
     Bar(hsbSecondPeriod, 22, 285),
-    Value(lblSecondPeriod, 154, 285),
+    Value(lblSecondPeriod, 122, 285),
     Bar(hsbSecondPeriod + 1, 216, 285),
-    Value(lblSecondPeriod + 1, 350, 285),
+    Value(lblSecondPeriod + 1, 316, 285),
     TimeCaption(lblBonusCaption, 340),
     Unit(lblBonusUnit, 340, TextId::MinutesSeconds),
     Bar(hsbBonus, 22, 363),
-    Value(lblBonusValue, 154, 363),
+    Value(lblBonusValue, 122, 363),
     Bar(hsbBonus + 1, 216, 363),
-    Value(lblBonusValue + 1, 350, 363),
+    Value(lblBonusValue + 1, 316, 363),
     Group(frameLanguage, {420, 8, 290, 58}, TextId::LanguageGroup),
     List(cmbLanguage, 432, 30, 266),
     Group(fraScorlet, {420, 74, 290, 124}, TextId::ScorletGroup),
@@ -91,15 +92,17 @@ constexpr std::array Items{
     CheckBox(chkCountTimeDown, 432, 392, TextId::CountTimeDown),
     Button(cmdDefault, {10, 430, 116, 30}, TextId::ButtonDefault, true),
     Button(cmdBlitz, {134, 430, 116, 30}, TextId::ButtonBlitz),
-    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {382, 430, 104, 30}, TextId::ButtonOk},
+    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {382, 430, 104, 30}, TextId::ButtonSetupOk},
     Button(cmdCancel, {494, 430, 104, 30}, TextId::ButtonCancel),
     Button(cmdHelp, {606, 430, 104, 30}, TextId::ButtonHelp),
 };
 
 constexpr std::array Times{
-    TimeBars{hsbFirstPeriod, lblFirstPeriod, FirstPeriodScale, 60, &TimeControl::PeriodLimit},
-    TimeBars{hsbSecondPeriod, lblSecondPeriod, SecondPeriodScale, 60, &TimeControl::SecondPeriodTime},
-    TimeBars{hsbBonus, lblBonusValue, BonusScale, 1, &TimeControl::MoveBonus},
+    TimeBars{lblFirstCaption, lblFirstUnit, hsbFirstPeriod, lblFirstPeriod, FirstPeriodScale, 60,
+             &TimeControl::PeriodLimit},
+    TimeBars{lblSecondCaption, lblSecondUnit, hsbSecondPeriod, lblSecondPeriod, SecondPeriodScale, 60,
+             &TimeControl::SecondPeriodTime},
+    TimeBars{lblBonusCaption, lblBonusUnit, hsbBonus, lblBonusValue, BonusScale, 1, &TimeControl::MoveBonus},
 };
 
 constexpr std::array Checks{chkOpenScorlet, chkPGN, chkShowMoveNumber, chkTurnClock, chkCountTimeDown};
@@ -125,9 +128,8 @@ constexpr int32_t ClockTypes = 4;
 
 frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Settings& settings,
                    std::function<void(HWND)> openHelp)
-    : Dialog(around), file(file), settings(settings), draft(settings), openHelp(std::move(openHelp)) {
-    DropWhatTypeLacks(draft);
-    DropFractions(draft);
+    : Dialog(around), file(file), settings(settings), draft{settings, {}}, openHelp(std::move(openHelp)) {
+    DropFractions(draft.Held);
 }
 
 void frmSetup::Open(HWND owner) {
@@ -136,7 +138,7 @@ void frmSetup::Open(HWND owner) {
     FillLists();
     SetToolTips();
     ShowDraft();
-    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.PlayerNames[side]));
+    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.Held.PlayerNames[side]));
 }
 
 void frmSetup::FillLists() {
@@ -144,8 +146,8 @@ void frmSetup::FillLists() {
     for (int32_t language : Languages)
         AddEntry(cmbLanguage, captions.LookUp(TextIdentifier(TextId::LanguageNames, language)));
     for (int32_t moves = 1; moves <= MostMovesListed; ++moves) AddEntry(cmbMoveAmount, std::to_wstring(moves));
-    if (draft.Control.MovesFirstPeriod > MostMovesListed)
-        AddEntry(cmbMoveAmount, std::to_wstring(draft.Control.MovesFirstPeriod));
+    if (draft.Held.Control.MovesFirstPeriod > MostMovesListed)
+        AddEntry(cmbMoveAmount, std::to_wstring(draft.Held.Control.MovesFirstPeriod));
     for (size_t i = 0; i < ButtonSounds.size(); ++i)
         AddEntry(cmbButtonSound, captions(RowBehind(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
     for (size_t i = 0; i < FlagSounds.size(); ++i)
@@ -162,7 +164,7 @@ void frmSetup::SetToolTips() {
 void frmSetup::ShowDraft() {
     for (int list : Lists) SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(PositionOf(list)), 0);
     for (const int box : Checks)
-        SendMessageW(Control(box), BM_SETCHECK, CheckedBy(box, draft) ? BST_CHECKED : BST_UNCHECKED, 0);
+        SendMessageW(Control(box), BM_SETCHECK, CheckedBy(box, draft.Held) ? BST_CHECKED : BST_UNCHECKED, 0);
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) ShowTime(bars, side);
     }
@@ -173,40 +175,47 @@ void frmSetup::ShowDraft() {
 // What a list shows of the draft; -1 where it has no entry for it.
 int frmSetup::PositionOf(int list) const {
     switch (list) {
-        case cmbClockType: return draft.ClockType;
+        case cmbClockType: return draft.Held.ClockType;
         case cmbLanguage: {
             const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
             return language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin());
         }
-        case cmbMoveAmount: return std::min(draft.Control.MovesFirstPeriod - 1, MostMovesListed);
-        case cmbButtonSound: return draft.ButtonSoundIndex;
-        default: return draft.FlagSoundIndex;
+        case cmbMoveAmount: return std::min(draft.Held.Control.MovesFirstPeriod - 1, MostMovesListed);
+        case cmbButtonSound: return draft.Held.ButtonSoundIndex;
+        default: return draft.Held.FlagSoundIndex;
     }
 }
 
 void frmSetup::ShowClockType() {
-    const TypeRules rules = RulesOf(draft.ClockType);
-    SetText(lblFirstCaption, CaptionOf(Times[0]));
-    SetText(lblSecondCaption, rules.SecondPeriod ? CaptionOf(Times[1]) : L"");
-    SetText(lblBonusCaption, rules.Bonus ? CaptionOf(Times[2]) : L"");
-    SetVisible(lblSecondCaption, rules.SecondPeriod);
-    SetVisible(lblBonusCaption, rules.Bonus);
-    for (Side side : BothSides) {
-        for (int pair : {hsbSecondPeriod, lblSecondPeriod}) SetEnabled(ControlOf(pair, side), rules.SecondPeriod);
-        for (int pair : {hsbBonus, lblBonusValue}) SetEnabled(ControlOf(pair, side), rules.Bonus);
-    }
-    SetEnabled(lblSecondUnit, rules.SecondPeriod);
-    SetEnabled(lblBonusUnit, rules.Bonus);
+    const TypeRules rules = RulesOf(draft.Held.ClockType);
+    ShowTimeRow(Times[0], true);
+    ShowTimeRow(Times[1], rules.SecondPeriod);
+    ShowTimeRow(Times[2], rules.Bonus);
     SetEnabled(lblMoveAmount, rules.MoveAmount);
     SetEnabled(cmbMoveAmount, rules.MoveAmount);
 }
 
+void frmSetup::ShowTimeRow(const TimeBars& bars, bool has) {
+    SetText(bars.Caption, has ? CaptionOf(bars) : L"");
+    SetVisible(bars.Caption, has);
+    SetVisible(bars.Measure, has);
+    for (Side side : BothSides) {
+        for (int pair : {bars.Bar, bars.Value}) {
+            SetEnabled(ControlOf(pair, side), has);
+            SetVisible(ControlOf(pair, side), has);
+        }
+    }
+}
+
 std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
-    const std::wstring moves = std::to_wstring(draft.Control.MovesFirstPeriod);
+    const bool one = draft.Held.Control.MovesFirstPeriod == 1;
+    const std::wstring moves = std::to_wstring(draft.Held.Control.MovesFirstPeriod);
     if (bars.Bar == hsbBonus) return captions(TextId::BonusTime);
     if (bars.Bar == hsbSecondPeriod)
-        return captions(TextId::SecondTimeBefore) + moves + captions(TextId::SecondTimeAfter);
-    if (!RulesOf(draft.ClockType).MoveAmount) return captions(TextId::CompleteGameTime);
+        return captions(TextId::SecondTimeBefore) + moves +
+               captions(one ? TextId::SecondTimeAfterOne : TextId::SecondTimeAfter);
+    if (!RulesOf(draft.Held.ClockType).MoveAmount) return captions(TextId::CompleteGameTime);
+    if (one) return captions(TextId::FirstTimeOne);
     return captions(TextId::FirstTimeBefore) + moves + captions(TextId::FirstTimeAfter);
 }
 
@@ -214,7 +223,7 @@ std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
 std::wstring frmSetup::SpokenName(int id) const {
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) {
-            std::wstring time = captions.Duration((draft.Control.*bars.Time)[side]);
+            std::wstring time = captions.Duration((draft.Chosen().Control.*bars.Time)[side]);
             if (id == ControlOf(bars.Value, side)) return time;
             if (id == ControlOf(bars.Bar, side))
                 return CaptionOf(bars) + L", " + captions.SideName(side) + L", " + time;
@@ -232,7 +241,7 @@ std::wstring frmSetup::SpokenName(int id) const {
 }
 
 void frmSetup::ShowTime(const TimeBars& bars, Side side) {
-    const int32_t seconds = (draft.Control.*bars.Time)[side];
+    const int32_t seconds = (draft.Chosen().Control.*bars.Time)[side];
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
     info.fMask = SIF_RANGE | SIF_POS;
@@ -247,6 +256,7 @@ void frmSetup::ShowTime(const TimeBars& bars, Side side) {
 LRESULT frmSetup::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
+        case WM_HELP: openHelp(Window()); return TRUE;
         case WM_HSCROLL: OnScroll(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), LOWORD(wParam)); return 0;
         case WM_MOUSEWHEEL:
             if (OnWheel(GET_WHEEL_DELTA_WPARAM(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
@@ -269,21 +279,26 @@ void frmSetup::OnCommand(int id, int notification) {
         case cmbMoveAmount:
         case cmbButtonSound:
         case cmbFlagSound: return OnListNotification(id, notification);
-        case cmdPreviewButton: return modSound::Play(draft.ButtonSoundName);
-        case cmdPreviewFlag: return modSound::Play(draft.FlagSoundName);
-        case cmdDefault: ChoosePreset(draft, DefaultPreset); return ShowDraft();
-        case cmdBlitz: ChoosePreset(draft, BlitzPreset); return ShowDraft();
+        case cmdPreviewButton: return modSound::Play(draft.Held.ButtonSoundName);
+        case cmdPreviewFlag: return modSound::Play(draft.Held.FlagSoundName);
+        case cmdDefault: draft.ChoosePreset(DefaultPreset); return ShowDraft();
+        case cmdBlitz: draft.ChoosePreset(BlitzPreset); return ShowDraft();
         case cmdOK: return OnOk();
         case cmdCancel: return Close();
         case cmdHelp: return openHelp(Window());
         default: break;
     }
     for (const int box : Checks) {
-        if (box == id) CheckedBy(box, draft) = SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
+        if (box == id) Check(box, SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED);
     }
 }
 
-// What is passed over in an open list has not been chosen: a clock type would take times away.
+void frmSetup::Check(int box, bool checked) {
+    if (box == chkCountTimeDown) return draft.ChooseCountTimeDown(checked);
+    CheckedBy(box, draft.Held) = checked;
+}
+
+// What is passed over in an open list has not been chosen.
 void frmSetup::OnListNotification(int id, int notification) {
     const HWND list = Control(id);
     if (notification == CBN_SELENDCANCEL) SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(PositionOf(id)), 0);
@@ -295,15 +310,15 @@ void frmSetup::OnListNotification(int id, int notification) {
 
 void frmSetup::OnChoice(int list, int position) {
     switch (list) {
-        case cmbClockType: ChooseClockType(draft, position); return ShowDraft();
+        case cmbClockType: draft.ChooseClockType(position); return ShowDraft();
         case cmbLanguage: settings.LanguageIndex = Languages[static_cast<size_t>(position)]; return;
         case cmbMoveAmount:
             // The last entry is a stored amount that the others do not reach.
-            draft.Control.MovesFirstPeriod =
+            draft.Held.Control.MovesFirstPeriod =
                 position < MostMovesListed ? position + 1 : settings.Control.MovesFirstPeriod;
             return ShowClockType();
-        case cmbButtonSound: return draft.SetButtonSound(position);
-        default: return draft.SetFlagSound(position);
+        case cmbButtonSound: return draft.Held.SetButtonSound(position);
+        default: return draft.Held.SetFlagSound(position);
     }
 }
 
@@ -317,9 +332,9 @@ LRESULT CALLBACK frmSetup::ListProcedure(HWND list, UINT message, WPARAM wParam,
 
 // A change that the settings file could not hold is undone.
 std::wstring frmSetup::TakeName(Side side, const std::wstring& text) {
-    std::string& name = draft.PlayerNames[side];
+    std::string& name = draft.Held.PlayerNames[side];
     const auto typed = ToAnsiExactly(text);
-    const size_t other = draft.PlayerNames[Other(side)].size();
+    const size_t other = draft.Held.PlayerNames[Other(side)].size();
     const bool clean = typed && std::none_of(typed->begin(), typed->end(), IsControlCharacter);
     if (clean && typed->size() + other <= static_cast<size_t>(MaxNameCharacters))
         name = *typed;
@@ -332,7 +347,7 @@ void frmSetup::OnScroll(int bar, int request) {
     for (const TimeBars& bars : Times) {
         const int side = bar - bars.Bar;
         if (side != White && side != Black) continue;
-        int32_t& seconds = (draft.Control.*bars.Time)[static_cast<size_t>(side)];
+        int32_t& seconds = (draft.Held.Control.*bars.Time)[static_cast<size_t>(side)];
         int32_t value = seconds / bars.Unit;
         switch (request) {
             case SB_LINELEFT: value -= bars.Scale.SmallStep; break;
@@ -374,15 +389,16 @@ bool frmSetup::OnWheel(short delta, POINT screenPoint) {
 }
 
 void frmSetup::OnOk() {
-    draft.LanguageIndex = settings.LanguageIndex;
+    draft.Held.LanguageIndex = settings.LanguageIndex;
+    const Settings chosen = draft.Chosen();
     try {
-        file.Save(draft);
+        file.Save(chosen);
     } catch (const SystemError& error) {
         messageBoxes.Inform(Window(),
                             texts.Compose(TextId::SettingsNotSaved, error.Thing(), texts.Reason(error.Code())));
         return;
     }
-    settings = draft;
+    settings = chosen;
     accepted = true;
     Close();
 }

@@ -10,9 +10,10 @@
 #include <array>
 #include <functional>
 
-// The scroll bars of a time, one for each side, and the labels of their values.
+// A time's caption with what it is measured in, and its scroll bars, one for each side, with the labels of their
+// values.
 struct TimeBars {
-    int Bar, Value;
+    int Caption, Measure, Bar, Value;
     TimeScale Scale;
     int32_t Unit;  // seconds
     std::array<int32_t, 2> TimeControl::*Time;
@@ -44,10 +45,12 @@ class frmSetup : public Dialog {
     // Show the draft in the controls.
     void ShowDraft();
     void ShowClockType();
+    void ShowTimeRow(const TimeBars& bars, bool has);
     void ShowTime(const TimeBars& bars, Side side);
     std::wstring CaptionOf(const TimeBars& bars) const;
 
     void OnCommand(int id, int notification);
+    void Check(int box, bool checked);
     void OnListNotification(int id, int notification);
     void OnChoice(int list, int position);
     void OnScroll(int bar, int request);
@@ -63,7 +66,7 @@ class frmSetup : public Dialog {
 
     const SettingsFile& file;
     Settings& settings;
-    Settings draft;
+    SetupDraft draft;
     std::function<void(HWND)> openHelp;
     ToolTips toolTips{*this};
     std::array<FilteredEdit, 2> names{

@@ -4,13 +4,22 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+Settings Fischer() {
+    Settings settings;
+    settings.PlayerNames = {"A", "B"};
+    settings.Control = {{60, 70}, {80, 90}, {5, 6}, false, true, 12};
+    settings.ClockType = 2;
+    settings.TurnClock = settings.WritePgn = true;
+    settings.LanguageIndex = French;
+    return settings;
+}
+
+}  // namespace
+
 TEST(SetupRulesTest, TypesAndPresetsLeaveNothingThatTheyCannotHave) {
-    Settings fischer;
-    fischer.PlayerNames = {"A", "B"};
-    fischer.Control = {{60, 70}, {80, 90}, {5, 6}, false, true, 12};
-    fischer.ClockType = 2;
-    fischer.TurnClock = fischer.WritePgn = true;
-    fischer.LanguageIndex = French;
+    Settings fischer = Fischer();
     // What the type lets one set, and what is left of the settings of a game with a bonus when it is chosen.
     const char* rows[] = {
         "0 A/B 60,70 0,0 0,0 turn number open pgn 0:12 BUTTONPUSHED PIECEMOVED 3",
@@ -20,16 +29,16 @@ TEST(SetupRulesTest, TypesAndPresetsLeaveNothingThatTheyCannotHave) {
         "second bonus moves 4 A/B 60,70 80,90 5,6 second turn number open pgn 4:12 BUTTONPUSHED PIECEMOVED 3"};
     for (int32_t type = 0; type < 5; ++type) {
         const TypeRules rules = RulesOf(type);
-        Settings settings = fischer;
-        ChooseClockType(settings, type);
+        SetupDraft draft{fischer, {}};
+        draft.ChooseClockType(type);
         EXPECT_EQ(std::string(rules.SecondPeriod ? "second " : "") + (rules.Bonus ? "bonus " : "") +
-                      (rules.MoveAmount ? "moves " : "") + std::to_string(type) + " " + SettingsText(settings),
+                      (rules.MoveAmount ? "moves " : "") + std::to_string(type) + " " + SettingsText(draft.Chosen()),
                   rows[type]);
     }
     const auto after = [&](const Preset& preset, bool withRules) {
-        Settings settings = fischer;
-        withRules ? ChoosePreset(settings, preset) : ApplyPreset(preset, settings);
-        return SettingsText(settings);
+        SetupDraft draft{fischer, {}};
+        draft.ChoosePreset(preset);
+        return SettingsText(withRules ? draft.Chosen() : draft.Held);
     };
     EXPECT_EQ(after(DefaultPreset, true),
               "A/B 1200,1200 1200,1200 0,0 down second number open pgn 1:40 BUTTONPUSHED PIECEMOVED 3");
@@ -40,4 +49,23 @@ TEST(SetupRulesTest, TypesAndPresetsLeaveNothingThatTheyCannotHave) {
     EXPECT_FALSE(fischer.Control.SecondPeriodEnabled) << "an unknown type leaves that as it was";
     EXPECT_EQ(SettingsText(Settings()),
               "/ 1200,1200 1200,1200 0,0 down second number open 1:40 BUTTONPUSHED PIECEMOVED 2");
+}
+
+TEST(SetupRulesTest, GoingThroughOtherTypesLosesNothing) {
+    // What the dialog would save after each step.
+    const auto shown = [](const SetupDraft& draft) { return SettingsText(draft.Chosen()); };
+    SetupDraft draft{Fischer(), {}};
+    const std::string before = shown(draft);
+    for (const int32_t type : {1, 0, 3, 0, 3, 2}) draft.ChooseClockType(type);
+    EXPECT_EQ(shown(draft), before) << "times, and that it counts up";
+    draft.ChooseClockType(3);
+    draft.ChooseCountTimeDown(false);
+    draft.ChooseCountTimeDown(true);
+    draft.ChooseClockType(2);
+    EXPECT_TRUE(draft.Held.Control.CountTimeDown) << "chosen by hand";
+    draft.ChooseCountTimeDown(false);
+    draft.ChooseClockType(3);
+    draft.ChoosePreset(BlitzPreset);
+    draft.ChooseClockType(1);
+    EXPECT_EQ(shown(draft), "A/B 300,300 80,90 0,0 down second pgn 1:40 BUTTONPUSHED NOSOUND 3");
 }
