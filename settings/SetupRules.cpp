@@ -1,7 +1,5 @@
 #include "settings/SetupRules.h"
 
-#include <utility>
-
 namespace {
 
 constexpr int32_t Hourglass = 3;
@@ -17,30 +15,16 @@ TypeRules RulesOf(int32_t clockType) {
     }
 }
 
-void SetupDraft::ChooseClockType(int32_t type) {
-    Held.SetClockType(type);
-    if (type == Hourglass && !BeforeHourglass)
-        BeforeHourglass = std::exchange(Held.Control.CountTimeDown, true);
-    else if (type != Hourglass && BeforeHourglass)
-        Held.Control.CountTimeDown = *std::exchange(BeforeHourglass, std::nullopt);
+void ChooseClockType(Settings& settings, int32_t type) {
+    settings.SetClockType(type);
+    if (type == Hourglass) settings.Control.CountTimeDown = true;
 }
 
-void SetupDraft::ChooseCountTimeDown(bool down) {
-    Held.Control.CountTimeDown = down;
-    BeforeHourglass.reset();
-}
-
-void SetupDraft::ChoosePreset(const Preset& preset) {
-    ApplyPreset(preset, Held);
-    BeforeHourglass.reset();
-}
-
-Settings SetupDraft::Chosen() const {
-    Settings chosen = Held;
-    const TypeRules rules = RulesOf(chosen.ClockType);
-    if (!rules.SecondPeriod) chosen.Control.SecondPeriodTime.fill(0);
-    if (!rules.Bonus) chosen.Control.MoveBonus.fill(0);
-    return chosen;
+Settings WithoutWhatTypeLacks(Settings settings) {
+    const TypeRules rules = RulesOf(settings.ClockType);
+    if (!rules.SecondPeriod) settings.Control.SecondPeriodTime.fill(0);
+    if (!rules.Bonus) settings.Control.MoveBonus.fill(0);
+    return settings;
 }
 
 void DropFractions(Settings& settings) {

@@ -2,8 +2,6 @@
 
 #include "settings/Settings.h"
 
-#include <optional>
-
 // What the setup dialog lets the players set.
 
 // The range of a time's scroll bar and its steps: minutes for periods, seconds for the bonus.
@@ -25,19 +23,11 @@ struct TypeRules {
 };
 TypeRules RulesOf(int32_t clockType);
 
-// What the dialog holds. Times that the chosen type lacks are kept for a type that has them.
-struct SetupDraft {
-    Settings Held;
-    std::optional<bool> BeforeHourglass;  // CountTimeDown, which HOURGLASS has set
+// Takes the type; HOURGLASS counts down. Times that the type lacks are kept for one that has them.
+void ChooseClockType(Settings& settings, int32_t type);
 
-    // HOURGLASS counts down; a type that follows has back what was chosen before.
-    void ChooseClockType(int32_t type);
-    void ChooseCountTimeDown(bool down);
-    void ChoosePreset(const Preset& preset);
-
-    // What OK takes: times that the type lacks are 0.
-    Settings Chosen() const;
-};
+// The settings with 0 for what cannot be set with their type.
+Settings WithoutWhatTypeLacks(Settings settings);
 
 // Cuts the periods of a loaded game to the whole minutes that the dialog shows and the settings file stores.
 void DropFractions(Settings& settings);

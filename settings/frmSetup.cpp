@@ -128,8 +128,8 @@ constexpr int32_t ClockTypes = 4;
 
 frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Settings& settings,
                    std::function<void(HWND)> openHelp)
-    : Dialog(around), file(file), settings(settings), draft{settings, {}}, openHelp(std::move(openHelp)) {
-    DropFractions(draft.Held);
+    : Dialog(around), file(file), settings(settings), draft(settings), openHelp(std::move(openHelp)) {
+    DropFractions(draft);
 }
 
 void frmSetup::Open(HWND owner) {
@@ -138,7 +138,7 @@ void frmSetup::Open(HWND owner) {
     FillLists();
     SetToolTips();
     ShowDraft();
-    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.Held.PlayerNames[side]));
+    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.PlayerNames[side]));
 }
 
 void frmSetup::FillLists() {
@@ -146,8 +146,8 @@ void frmSetup::FillLists() {
     for (int32_t language : Languages)
         AddEntry(cmbLanguage, captions.LookUp(TextIdentifier(TextId::LanguageNames, language)));
     for (int32_t moves = 1; moves <= MostMovesListed; ++moves) AddEntry(cmbMoveAmount, std::to_wstring(moves));
-    if (draft.Held.Control.MovesFirstPeriod > MostMovesListed)
-        AddEntry(cmbMoveAmount, std::to_wstring(draft.Held.Control.MovesFirstPeriod));
+    if (draft.Control.MovesFirstPeriod > MostMovesListed)
+        AddEntry(cmbMoveAmount, std::to_wstring(draft.Control.MovesFirstPeriod));
     for (size_t i = 0; i < ButtonSounds.size(); ++i)
         AddEntry(cmbButtonSound, captions(RowBehind(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
     for (size_t i = 0; i < FlagSounds.size(); ++i)
@@ -164,7 +164,7 @@ void frmSetup::SetToolTips() {
 void frmSetup::ShowDraft() {
     for (int list : Lists) SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(PositionOf(list)), 0);
     for (const int box : Checks)
-        SendMessageW(Control(box), BM_SETCHECK, CheckedBy(box, draft.Held) ? BST_CHECKED : BST_UNCHECKED, 0);
+        SendMessageW(Control(box), BM_SETCHECK, CheckedBy(box, draft) ? BST_CHECKED : BST_UNCHECKED, 0);
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) ShowTime(bars, side);
     }
@@ -175,19 +175,19 @@ void frmSetup::ShowDraft() {
 // What a list shows of the draft; -1 where it has no entry for it.
 int frmSetup::PositionOf(int list) const {
     switch (list) {
-        case cmbClockType: return draft.Held.ClockType;
+        case cmbClockType: return draft.ClockType;
         case cmbLanguage: {
             const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
             return language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin());
         }
-        case cmbMoveAmount: return std::min(draft.Held.Control.MovesFirstPeriod - 1, MostMovesListed);
-        case cmbButtonSound: return draft.Held.ButtonSoundIndex;
-        default: return draft.Held.FlagSoundIndex;
+        case cmbMoveAmount: return std::min(draft.Control.MovesFirstPeriod - 1, MostMovesListed);
+        case cmbButtonSound: return draft.ButtonSoundIndex;
+        default: return draft.FlagSoundIndex;
     }
 }
 
 void frmSetup::ShowClockType() {
-    const TypeRules rules = RulesOf(draft.Held.ClockType);
+    const TypeRules rules = RulesOf(draft.ClockType);
     ShowTimeRow(Times[0], true);
     ShowTimeRow(Times[1], rules.SecondPeriod);
     ShowTimeRow(Times[2], rules.Bonus);
@@ -208,13 +208,13 @@ void frmSetup::ShowTimeRow(const TimeBars& bars, bool has) {
 }
 
 std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
-    const bool one = draft.Held.Control.MovesFirstPeriod == 1;
-    const std::wstring moves = std::to_wstring(draft.Held.Control.MovesFirstPeriod);
+    const bool one = draft.Control.MovesFirstPeriod == 1;
+    const std::wstring moves = std::to_wstring(draft.Control.MovesFirstPeriod);
     if (bars.Bar == hsbBonus) return captions(TextId::BonusTime);
     if (bars.Bar == hsbSecondPeriod)
         return captions(TextId::SecondTimeBefore) + moves +
                captions(one ? TextId::SecondTimeAfterOne : TextId::SecondTimeAfter);
-    if (!RulesOf(draft.Held.ClockType).MoveAmount) return captions(TextId::CompleteGameTime);
+    if (!RulesOf(draft.ClockType).MoveAmount) return captions(TextId::CompleteGameTime);
     if (one) return captions(TextId::FirstTimeOne);
     return captions(TextId::FirstTimeBefore) + moves + captions(TextId::FirstTimeAfter);
 }
@@ -223,7 +223,7 @@ std::wstring frmSetup::CaptionOf(const TimeBars& bars) const {
 std::wstring frmSetup::SpokenName(int id) const {
     for (const TimeBars& bars : Times) {
         for (Side side : BothSides) {
-            std::wstring time = captions.Duration((draft.Chosen().Control.*bars.Time)[side]);
+            std::wstring time = captions.Duration((WithoutWhatTypeLacks(draft).Control.*bars.Time)[side]);
             if (id == ControlOf(bars.Value, side)) return time;
             if (id == ControlOf(bars.Bar, side))
                 return CaptionOf(bars) + L", " + captions.SideName(side) + L", " + time;
@@ -241,7 +241,7 @@ std::wstring frmSetup::SpokenName(int id) const {
 }
 
 void frmSetup::ShowTime(const TimeBars& bars, Side side) {
-    const int32_t seconds = (draft.Chosen().Control.*bars.Time)[side];
+    const int32_t seconds = (WithoutWhatTypeLacks(draft).Control.*bars.Time)[side];
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
     info.fMask = SIF_RANGE | SIF_POS;
@@ -279,23 +279,18 @@ void frmSetup::OnCommand(int id, int notification) {
         case cmbMoveAmount:
         case cmbButtonSound:
         case cmbFlagSound: return OnListNotification(id, notification);
-        case cmdPreviewButton: return modSound::Play(draft.Held.ButtonSoundName);
-        case cmdPreviewFlag: return modSound::Play(draft.Held.FlagSoundName);
-        case cmdDefault: draft.ChoosePreset(DefaultPreset); return ShowDraft();
-        case cmdBlitz: draft.ChoosePreset(BlitzPreset); return ShowDraft();
+        case cmdPreviewButton: return modSound::Play(draft.ButtonSoundName);
+        case cmdPreviewFlag: return modSound::Play(draft.FlagSoundName);
+        case cmdDefault: ApplyPreset(DefaultPreset, draft); return ShowDraft();
+        case cmdBlitz: ApplyPreset(BlitzPreset, draft); return ShowDraft();
         case cmdOK: return OnOk();
         case cmdCancel: return Close();
         case cmdHelp: return openHelp(Window());
         default: break;
     }
     for (const int box : Checks) {
-        if (box == id) Check(box, SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED);
+        if (box == id) CheckedBy(box, draft) = SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
-}
-
-void frmSetup::Check(int box, bool checked) {
-    if (box == chkCountTimeDown) return draft.ChooseCountTimeDown(checked);
-    CheckedBy(box, draft.Held) = checked;
 }
 
 // What is passed over in an open list has not been chosen.
@@ -310,15 +305,15 @@ void frmSetup::OnListNotification(int id, int notification) {
 
 void frmSetup::OnChoice(int list, int position) {
     switch (list) {
-        case cmbClockType: draft.ChooseClockType(position); return ShowDraft();
+        case cmbClockType: ChooseClockType(draft, position); return ShowDraft();
         case cmbLanguage: settings.LanguageIndex = Languages[static_cast<size_t>(position)]; return;
         case cmbMoveAmount:
             // The last entry is a stored amount that the others do not reach.
-            draft.Held.Control.MovesFirstPeriod =
+            draft.Control.MovesFirstPeriod =
                 position < MostMovesListed ? position + 1 : settings.Control.MovesFirstPeriod;
             return ShowClockType();
-        case cmbButtonSound: return draft.Held.SetButtonSound(position);
-        default: return draft.Held.SetFlagSound(position);
+        case cmbButtonSound: return draft.SetButtonSound(position);
+        default: return draft.SetFlagSound(position);
     }
 }
 
@@ -332,9 +327,9 @@ LRESULT CALLBACK frmSetup::ListProcedure(HWND list, UINT message, WPARAM wParam,
 
 // A change that the settings file could not hold is undone.
 std::wstring frmSetup::TakeName(Side side, const std::wstring& text) {
-    std::string& name = draft.Held.PlayerNames[side];
+    std::string& name = draft.PlayerNames[side];
     const auto typed = ToAnsiExactly(text);
-    const size_t other = draft.Held.PlayerNames[Other(side)].size();
+    const size_t other = draft.PlayerNames[Other(side)].size();
     const bool clean = typed && std::none_of(typed->begin(), typed->end(), IsControlCharacter);
     if (clean && typed->size() + other <= static_cast<size_t>(MaxNameCharacters))
         name = *typed;
@@ -347,7 +342,7 @@ void frmSetup::OnScroll(int bar, int request) {
     for (const TimeBars& bars : Times) {
         const int side = bar - bars.Bar;
         if (side != White && side != Black) continue;
-        int32_t& seconds = (draft.Held.Control.*bars.Time)[static_cast<size_t>(side)];
+        int32_t& seconds = (draft.Control.*bars.Time)[static_cast<size_t>(side)];
         int32_t value = seconds / bars.Unit;
         switch (request) {
             case SB_LINELEFT: value -= bars.Scale.SmallStep; break;
@@ -389,8 +384,8 @@ bool frmSetup::OnWheel(short delta, POINT screenPoint) {
 }
 
 void frmSetup::OnOk() {
-    draft.Held.LanguageIndex = settings.LanguageIndex;
-    const Settings chosen = draft.Chosen();
+    draft.LanguageIndex = settings.LanguageIndex;
+    const Settings chosen = WithoutWhatTypeLacks(draft);
     try {
         file.Save(chosen);
     } catch (const SystemError& error) {

@@ -50,7 +50,6 @@ class frmSetup : public Dialog {
     std::wstring CaptionOf(const TimeBars& bars) const;
 
     void OnCommand(int id, int notification);
-    void Check(int box, bool checked);
     void OnListNotification(int id, int notification);
     void OnChoice(int list, int position);
     void OnScroll(int bar, int request);
@@ -66,7 +65,7 @@ class frmSetup : public Dialog {
 
     const SettingsFile& file;
     Settings& settings;
-    SetupDraft draft;
+    Settings draft;  // with times that its type lacks, see WithoutWhatTypeLacks
     std::function<void(HWND)> openHelp;
     ToolTips toolTips{*this};
     std::array<FilteredEdit, 2> names{

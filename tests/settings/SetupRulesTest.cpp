@@ -29,16 +29,17 @@ TEST(SetupRulesTest, TypesAndPresetsLeaveNothingThatTheyCannotHave) {
         "second bonus moves 4 A/B 60,70 80,90 5,6 second turn number open pgn 4:12 BUTTONPUSHED PIECEMOVED 3"};
     for (int32_t type = 0; type < 5; ++type) {
         const TypeRules rules = RulesOf(type);
-        SetupDraft draft{fischer, {}};
-        draft.ChooseClockType(type);
+        Settings draft = fischer;
+        ChooseClockType(draft, type);
         EXPECT_EQ(std::string(rules.SecondPeriod ? "second " : "") + (rules.Bonus ? "bonus " : "") +
-                      (rules.MoveAmount ? "moves " : "") + std::to_string(type) + " " + SettingsText(draft.Chosen()),
+                      (rules.MoveAmount ? "moves " : "") + std::to_string(type) + " " +
+                      SettingsText(WithoutWhatTypeLacks(draft)),
                   rows[type]);
     }
     const auto after = [&](const Preset& preset, bool withRules) {
-        SetupDraft draft{fischer, {}};
-        draft.ChoosePreset(preset);
-        return SettingsText(withRules ? draft.Chosen() : draft.Held);
+        Settings draft = fischer;
+        ApplyPreset(preset, draft);
+        return SettingsText(withRules ? WithoutWhatTypeLacks(draft) : draft);
     };
     EXPECT_EQ(after(DefaultPreset, true),
               "A/B 1200,1200 1200,1200 0,0 down second number open pgn 1:40 BUTTONPUSHED PIECEMOVED 3");
@@ -51,21 +52,9 @@ TEST(SetupRulesTest, TypesAndPresetsLeaveNothingThatTheyCannotHave) {
               "/ 1200,1200 1200,1200 0,0 down second number open 1:40 BUTTONPUSHED PIECEMOVED 2");
 }
 
-TEST(SetupRulesTest, GoingThroughOtherTypesLosesNothing) {
-    // What the dialog would save after each step.
-    const auto shown = [](const SetupDraft& draft) { return SettingsText(draft.Chosen()); };
-    SetupDraft draft{Fischer(), {}};
-    const std::string before = shown(draft);
-    for (const int32_t type : {1, 0, 3, 0, 3, 2}) draft.ChooseClockType(type);
-    EXPECT_EQ(shown(draft), before) << "times, and that it counts up";
-    draft.ChooseClockType(3);
-    draft.ChooseCountTimeDown(false);
-    draft.ChooseCountTimeDown(true);
-    draft.ChooseClockType(2);
-    EXPECT_TRUE(draft.Held.Control.CountTimeDown) << "chosen by hand";
-    draft.ChooseCountTimeDown(false);
-    draft.ChooseClockType(3);
-    draft.ChoosePreset(BlitzPreset);
-    draft.ChooseClockType(1);
-    EXPECT_EQ(shown(draft), "A/B 300,300 80,90 0,0 down second pgn 1:40 BUTTONPUSHED NOSOUND 3");
+TEST(SetupRulesTest, GoingThroughOtherTypesLosesNoTimes) {
+    Settings draft = Fischer();
+    for (const int32_t type : {1, 0, 3, 2}) ChooseClockType(draft, type);
+    EXPECT_EQ(SettingsText(WithoutWhatTypeLacks(draft)),
+              "A/B 60,70 80,90 5,6 down second turn number open pgn 2:12 BUTTONPUSHED PIECEMOVED 3");
 }
