@@ -33,7 +33,7 @@ struct Script {
 
 Script ReadFiles() {
     Script script;
-    const std::regex word("([a-z-]+) = (.*)");
+    const std::regex word("([a-z0-9-]+) = (.*)");
     for (const auto& entry : std::filesystem::recursive_directory_iterator(TESTS)) {
         const std::filesystem::path& file = entry.path();
         std::ifstream lines(file.extension() == ".steps" ? file : "");
@@ -44,8 +44,10 @@ Script ReadFiles() {
                 script.Words[parts[1]] = parts[2];
             else if (line.starts_with("# "))
                 script.Scenarios.push_back({file, number, line.substr(2), {}});
+            else if (!line.empty() && (script.Scenarios.empty() || script.Scenarios.back().File != file))
+                Fail(file.string() + " begins with neither a word nor a scenario");
             else if (!line.empty())
-                script.Scenarios.at(script.Scenarios.size() - 1).Lines[number] = line;
+                script.Scenarios.back().Lines[number] = line;
         }
     }
     return script;
