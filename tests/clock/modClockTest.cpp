@@ -80,8 +80,7 @@ std::string Played(const std::string& row) {
 TEST(modClockTest, Games) {
     ExpectRows(Played, R"(
         Idle clocks.
-        down 3665: => 01:01:05 0, 01:01:05 0; Black over 0
-        up 300: => 00:00:00 0, 00:00:00 0; Black over 0
+        down 3665: => 01:01:05 0, 01:01:05 0; Black over 0 | up 300: => 00:00:00 0, 00:00:00 0; Black over 0
         Presses, in turns.
         down 300: press => 00:05:00 1, 00:05:00 0; White runs
         down 300: press 3s press 2s press => 00:04:57 2, 00:04:58 1; White runs

@@ -20,7 +20,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
     int32_t Handle = 32767;  // of the next timer
     int Timers = 0;
     bool KillWorks = true, Yes = false;
-    std::function<void()> DuringSound = [] {};
+    std::function<void()> DuringSound;
     std::string Said, Kept;
 
     void Say(const std::string& what) { Said += (Said.empty() ? "" : ", ") + what; }
@@ -53,7 +53,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
         Say("ask");
         return Yes;
     }
-    void GameChanged() override { Kept += "keep"; }
+    void GameChanged() override { Kept += "keep "; }
     void LosingGame() override { Kept += "aside "; }
     void ReadSettings() override {
         Say("read");
@@ -68,80 +68,75 @@ struct Around final : modClock::Timer, ClockView, RecordView {
     void RecordReplaced() override { Say("new record"); }
 };
 
-SavedGame Saved(int32_t white, int32_t black, bool started) {
+// "load3,2" and, of a game that is on, "load3,2on".
+SavedGame Saved(const std::string& word) {
     SavedGame saved;
     saved.Options.Control.PeriodLimit.fill(600);
     saved.Clock.Control = saved.Options.Control;
-    saved.Clock.MoveCount = {white, black};
-    saved.Clock.PlayerTime = {white * 15, black * 15};
-    saved.Clock.GameStarted = saved.Clock.TurnFlag = started;
-    saved.Scorlet.Play(SquareNamed("d2"), SquareNamed("d4"));
+    saved.Clock.MoveCount = {word[4] - '0', word[6] - '0'};
+    for (Side side : BothSides) saved.Clock.PlayerTime[side] = saved.Clock.MoveCount[side] * 15;
+    saved.Clock.GameStarted = saved.Clock.TurnFlag = word.ends_with("on");
+    Do(saved.Scorlet, "d2d4");
     return saved;
 }
 
-// Plays the words of a script with 60 seconds for each side. The answer: what the last word made the windows do; for
-// each side C where the clock button can be pressed, P where the pause button can, R where it reads "Resume", T for the
-// turn marks, F for the fallen flag, and the blinking mark as m (to move) or p (paused); S where Setup can be opened;
-// White's face; the lists, where there are any.
-std::string Played(const std::string& script) {
-    Around around;
-    around.Own.SetClockType(0);
-    around.Own.Control.PeriodLimit.fill(60);
-    Game game(around.Options, around);
-    game.Begin(around);
-    Recorder* record = nullptr;
-    const std::map<std::string, std::function<void()>> words{
-        {"W", [&] { game.Press(White); }},
-        {"B", [&] { game.Press(Black); }},
-        {"space", [&] { game.PressEnabledButton(); }},
-        {"start", [&] { game.Start(); }},
-        {"pause", [&] { game.PauseOrResume(); }},
-        {"pauseW", [&] { game.PauseOrResume(White); }},
-        {"pauseB", [&] { game.PauseOrResume(Black); }},
-        {"p", [&] { game.PressKeyP(); }},
-        {"flag", [&] { game.AskedReset(); }},
-        {"reset", [&] { game.AskedResetIfStarted(); }},
-        {"setup", [&] { around.Options.Control.PeriodLimit[White] += 60, game.TakeSettings(); }},
-        {"unload", [&] { game.Unload(); }},
-        {"open", [&] { record = &game.OpenRecord(around); }},
-        {"close", [&] { game.CloseRecord(); }},
-        {"check", [&] { game.Declare(Declaration::Check); }},
-        {"mate", [&] { game.Declare(Declaration::Mate); }},
-        {"resign", [&] { game.Declare(Declaration::Resign); }},
-        {"draw", [&] { game.Declare(Declaration::Draw); }},
-        {"top", [&] { game.TopUpMoveLists(); }},
-        {"load", [&] { game.TakeLoadedGame(Saved(3, 2, true)); }},
-        {"loadW", [&] { game.TakeLoadedGame(Saved(3, 2, false)); }},
-        {"load1", [&] { game.TakeLoadedGame(Saved(1, 0, false)); }},
-        {"loadB", [&] { game.TakeLoadedGame(Saved(3, 3, false)); }},
-        {"load0", [&] { game.TakeLoadedGame(Saved(0, 0, false)); }},
-        {"yes", [&] { around.Yes = true; }},
-        {"no-timer", [&] { around.Handle = 0; }},
-        {"timer-1", [&] { around.Handle = 1; }},
-        {"timer", [&] { around.Handle = 32767; }},
-        {"no-kill", [&] { around.KillWorks = false; }},
-        {"slow-sound", [&] { around.DuringSound = [&] { game.Tick(); }; }},
-        {"great-bonus", [&] { around.Own.Control.MoveBonus.fill(std::numeric_limits<int32_t>::max()), game.Reset(); }},
-        {"up", [&] {
-             around.Own.Control.CountTimeDown = false;
-             around.Own.Control.PeriodLimit.fill(std::numeric_limits<int32_t>::max());
-             game.Reset();
-         }}};
-    std::istringstream stream(script);
-    for (std::string word; stream >> word;) {
-        around.Said.clear();
-        if (word.ends_with("s") && isdigit(word[0]))
-            for (int left = std::stoi(word); left > 0; --left) {
-                around.Said.clear();
-                game.Tick();
-            }
-        else if (word.size() == 4 && isdigit(word[1]) && isdigit(word[3]))
-            record->Play(SquareNamed(word.substr(0, 2)), SquareNamed(word.substr(2)));
-        else
-            words.at(word)();
+// A game with 60 seconds for each side, and the words that can be said to it.
+struct Play {
+    Around Beside;
+    Game Played{Beside.Options, Beside};
+    Recorder* Record = nullptr;
+
+    Play() {
+        Beside.Own.SetClockType(0);
+        Beside.Own.Control.PeriodLimit.fill(60);
+        Played.Begin(Beside);
     }
-    const ClockCommands& clock = game.Clock();
-    std::string shown = (around.Said.empty() ? "nothing" : around.Said) + ";";
+
+    void Say(const std::string& word) {
+        const std::map<std::string, void (Game::*)()> commands{
+            {"space", &Game::PressEnabledButton},  {"start", &Game::Start},        {"p", &Game::PressKeyP},
+            {"reset", &Game::AskedResetIfStarted}, {"flag", &Game::AskedReset},    {"unload", &Game::Unload},
+            {"close", &Game::CloseRecord},         {"top", &Game::TopUpMoveLists}, {"edited", &Game::RecordEdited}};
+        const std::map<std::string, Declaration> declarations{{"check", Declaration::Check},
+                                                              {"mate", Declaration::Mate},
+                                                              {"resign", Declaration::Resign},
+                                                              {"draw", Declaration::Draw}};
+        TimeControl& control = Beside.Own.Control;
+        if (const auto command = commands.find(word); command != commands.end()) return (Played.*command->second)();
+        if (const auto said = declarations.find(word); said != declarations.end()) return Played.Declare(said->second);
+        if (word == "W" || word == "B") return Played.Press(word == "W" ? White : Black);
+        if (word == "pause") return Played.PauseOrResume();
+        if (word.starts_with("pause")) return Played.PauseOrResume(word == "pauseW" ? White : Black);
+        if (word.starts_with("load")) return Played.TakeLoadedGame(Saved(word));
+        if (word.starts_with("timer=")) Beside.Handle = std::stoi(word.substr(6));
+        if (word == "yes") Beside.Yes = true;
+        if (word == "no-kill") Beside.KillWorks = false;
+        if (word == "slow-sound") Beside.DuringSound = [&] { Played.Tick(); };
+        if (word == "great-bonus") control.MoveBonus.fill(std::numeric_limits<int32_t>::max()), Played.Reset();
+        if (word == "up") control.CountTimeDown = false;
+        if (word == "up") control.PeriodLimit.fill(std::numeric_limits<int32_t>::max()), Played.Reset();
+        if (word == "setup") Beside.Options.Control.PeriodLimit[White] += 60, Played.TakeSettings();
+        if (word == "open") Record = &Played.OpenRecord(Beside);
+        if (word.size() == 4 && isdigit(word[1]) && isdigit(word[3])) Do(*Record, word);
+        for (int left = isdigit(word[0]) ? std::stoi(word) : 0; left > 0; --left) {
+            Beside.Said.clear();
+            Played.Tick();
+        }
+    }
+    void SayAll(const std::string& script) {
+        std::istringstream words(script);
+        for (std::string word; words >> word; Say(word)) Beside.Said = Beside.Kept = "";
+    }
+};
+
+// What the last word of a script made the windows do; for each side C where the clock button can be pressed, P where
+// the pause button can, R where it reads "Resume", T for the turn marks, F for the fallen flag, and the blinking mark
+// as m (to move) or p (paused); S where Setup can be opened; White's face; the lists, where there are any.
+std::string Played(const std::string& script) {
+    Play play;
+    play.SayAll(script);
+    const ClockCommands& clock = play.Played.Clock();
+    std::string shown = (play.Beside.Said.empty() ? "nothing" : play.Beside.Said) + ";";
     for (Side side : BothSides) {
         const std::pair<bool, const char*> marks[] = {
             {clock.ClockButtonEnabled(side), "C"},
@@ -154,8 +149,15 @@ std::string Played(const std::string& script) {
         shown += " " + (letters.empty() ? "-" : letters);
     }
     shown += (clock.SetupEnabled() ? " S " : " ") + clock.Clock().Face(White);
-    if (around.Timers != (clock.Clock().State().TimerRunning ? 1 : 0)) shown += " and a timer is left";
-    return game.Record() ? shown + "; " + ListText(game.Record()->Lists()) : shown;
+    if (play.Beside.Timers != (clock.Clock().State().TimerRunning ? 1 : 0)) shown += " and a timer is left";
+    return play.Played.Record() ? shown + "; " + ListText(play.Played.Record()->Lists()) : shown;
+}
+
+// Whether the last word has the game kept, or first put aside as the last one; "worth" where there is a game to keep.
+std::string Kept(const std::string& script) {
+    Play play;
+    play.SayAll(script);
+    return play.Beside.Kept + (play.Played.WorthKeeping() ? "worth" : "");
 }
 
 }  // namespace
@@ -163,13 +165,10 @@ std::string Played(const std::string& script) {
 TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
     ExpectRows(Played, R"(
         Presses.
-        W => click, show B all; CPTm - 00:01:00
-        B => click, show B all; CPTm - 00:01:00
-        W W => click, show W all; - CPTm 00:01:00
-        W B => nothing; CPTm - 00:01:00
-        W space space => click, show B all; CPTm - 00:01:00
-        W 1s => show W; CPTm - 00:00:59
-        no-timer W => click, not created; CP CP S 00:01:00
+        W => click, show B all; CPTm - 00:01:00 | B => click, show B all; CPTm - 00:01:00
+        W W => click, show W all; - CPTm 00:01:00 | W B => nothing; CPTm - 00:01:00
+        W space space => click, show B all; CPTm - 00:01:00 | W 1s => show W; CPTm - 00:00:59
+        timer=0 W => click, not created; CP CP S 00:01:00
         W 59s slow-sound W => click, show W all, gong; F - 00:00:00
         A press gives the side that then runs its line, once the other has written its move.
         open W => click, show B all, lists W0; CPTm - 00:01:00; 1. _ /
@@ -179,27 +178,19 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W open W => click, show W all; - CPTm 00:01:00;  /
         open W e2e4 W close B => click, show B all; CPTm - 00:01:00
         Pause and resume.
-        W W p => show all; - Rp 00:01:00
-        W W p p => nothing; - Rp 00:01:00
-        W W p B => nothing; - Rp 00:01:00
-        W W pause no-timer pause => not resumed; - Rp 00:01:00
-        W W pause pauseB => show all; - CPTm 00:01:00
-        W pauseB => nothing; CPTm - 00:01:00
-        W pauseW => show all; Rp - 00:01:00
-        W pause timer-1 pause p => nothing; CPTm - 00:01:00
-        p => nothing; CP CP S 00:01:00
+        W W p => show all; - Rp 00:01:00 | W W p p => nothing; - Rp 00:01:00 | W W p B => nothing; - Rp 00:01:00
+        W W pause timer=0 pause => not resumed; - Rp 00:01:00 | W W pause pauseB => show all; - CPTm 00:01:00
+        W pauseB => nothing; CPTm - 00:01:00 | W pauseW => show all; Rp - 00:01:00
+        W pause timer=1 pause p => nothing; CPTm - 00:01:00 | p => nothing; CP CP S 00:01:00
         pauseB => how to begin; CP CP S 00:01:00
         A fallen flag writes the result.
-        W 60s => show W all, gong; F - 00:00:00
-        W W 60s => show B all, gong; - F 00:01:00
+        W 60s => show W all, gong; F - 00:00:00 | W W 60s => show B all, gong; - F 00:01:00
         open W 60s => lists, show W all, gong; F - 00:00:00; 1. _|[0-1] /
         open W e2e4 W 60s => lists, show B all, gong; - F 00:01:00; 1. e4 / 1. _|[1-0]
         open W 60s e2e4 e7e5 => nothing; F - 00:00:00; 1. e4|[0-1] / e5
         W 60s open draw e2e4 e7e5 => nothing; F - 00:00:00; 1. e4|[1/2-1/2] / e5
-        open load1 draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2]
-        W 60s W => how to restart; F - 00:00:00
-        W 60s space => how to restart; F - 00:00:00
-        W 60s pauseB => how to restart; F - 00:00:00
+        open load1,0 draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2] | W 60s W => how to restart; F - 00:00:00
+        W 60s space => how to restart; F - 00:00:00 | W 60s pauseB => how to restart; F - 00:00:00
         W 60s p => nothing; F - 00:00:00
         Declarations: a result pauses the clock, and fills the lists where it ends the game at once.
         open W e2e4 check => lists; CPTm - 00:01:00; 1. e4+ /
@@ -209,40 +200,47 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open draw => lists; CP CP S 00:01:00; [1/2-1/2] /
         open W draw pause resign => lists; CPTm - 00:01:00; 1. _|[1/2-1/2] /
         Saving fills the lists up to the counts.
-        open W W B top => lists W1 B0; CPTm - 00:01:00; 1. _|2. _ / 1. _
-        W W top => nothing; - CPTm 00:01:00
+        open W W B top => lists W1 B0; CPTm - 00:01:00; 1. _|2. _ / 1. _ | W W top => nothing; - CPTm 00:01:00
         Start, reset and setup.
-        start => click, show B all; CPTm - 00:01:00
-        W start => ask; CPTm - 00:01:00
+        start => click, show B all; CPTm - 00:01:00 | W start => ask; CPTm - 00:01:00
         W yes start => ask, read, show W B all, click, show B all; CPTm - 00:01:00
-        W pause no-timer pause timer start => read, show W B all, click, show B all; CPTm - 00:01:00
+        W pause timer=0 pause timer=32767 start => read, show W B all, click, show B all; CPTm - 00:01:00
         W 60s start => read, show W B all, click, show B all; CPTm - 00:01:00
-        reset => read, show W B all; CP CP S 00:01:00
-        flag => ask; CP CP S 00:01:00
+        reset => read, show W B all; CP CP S 00:01:00 | flag => ask; CP CP S 00:01:00
         open reset => new record, read, show W B all, lists; CP CP S 00:01:00;  /
         open e2e4 reset => ask; CP CP S 00:01:00; 1. e4 /
         open e2e4 yes flag => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
-        W 1s reset => ask; CPTm - 00:00:59
-        W 1s yes reset => ask, read, show W B all; CP CP S 00:01:00
-        W 60s reset => read, show W B all; CP CP S 00:01:00
-        setup => show W B all; CP CP S 00:02:00
+        W 1s reset => ask; CPTm - 00:00:59 | W 1s yes reset => ask, read, show W B all; CP CP S 00:01:00
+        W 60s reset => read, show W B all; CP CP S 00:01:00 | setup => show W B all; CP CP S 00:02:00
         open e2e4 setup => show W B all, lists; CP CP S 00:02:00; 1. e4 /
         setup reset => read, show W B all; CP CP S 00:01:00
         A loaded game takes the place of clock, record and settings.
-        open W load => show W B all, new record; Rp - 00:00:45; 1. d4 /
-        open load pause => show all; CPTm - 00:00:45; 1. d4 /
-        open loadW => show W B all, new record; F - 00:00:45; 1. d4 /
-        open load1 => show W B all, new record; F - 00:00:15; 1. d4 /
-        open load0 setup => show W B all, lists; CP CP S 00:11:00; 1. d4 /
-        open loadB => show W B all, new record; - F 00:00:45; 1. d4 /
-        open W load0 => show W B all, new record; CP CP S 00:10:00; 1. d4 /
-        open load0 start => click, show B all; CPTm - 00:10:00; 1. d4 /
-        open load yes reset => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
+        open W load3,2on => show W B all, new record; Rp - 00:00:45; 1. d4 /
+        open load3,2on pause => show all; CPTm - 00:00:45; 1. d4 /
+        open load3,2 => show W B all, new record; F - 00:00:45; 1. d4 /
+        open load1,0 => show W B all, new record; F - 00:00:15; 1. d4 /
+        open load0,0 setup => show W B all, lists; CP CP S 00:11:00; 1. d4 /
+        open load3,3 => show W B all, new record; - F 00:00:45; 1. d4 /
+        open W load0,0 => show W B all, new record; CP CP S 00:10:00; 1. d4 /
+        open load0,0 start => click, show B all; CPTm - 00:10:00; 1. d4 /
+        open load3,2on yes reset => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
         What goes wrong.
-        W unload => show all; Rm - 00:01:00
-        W no-kill unload => not killed; Rm - 00:01:00
+        W unload => show all; Rm - 00:01:00 | W no-kill unload => not killed; Rm - 00:01:00
         up great-bonus W 1s => show W all, overflow; Rp - 00:00:00
         great-bonus W W => click, show B all, overflow; Rp - 00:01:00
+    )");
+}
+
+TEST(GameTest, WhatIsKeptAndPutAside) {
+    ExpectRows(Kept, R"(
+        Soon after everything that changes the game, and every five seconds of a clock that runs.
+        W => keep worth | W W => keep worth | W B => worth | W pause => keep worth | W pause pause => keep worth
+        W 4s => worth | W 5s => keep worth | W 5s 4s => worth | open W e2e4 mate => keep keep worth
+        open e2e4 edited => keep worth | open W W top => keep worth | open check => keep | timer=0 W => | pause =>
+        A game that would be lost is put aside, a finished one too; what nobody has begun is not.
+        W yes reset => aside keep | W pause start => aside keep keep worth | W 60s reset => aside keep | reset => keep
+        W load3,2on => aside keep worth | load3,2on => keep worth | open reset => keep | setup => keep
+        open e2e4 close => aside keep | open W close => aside keep worth | open close => keep
     )");
 }
 

@@ -60,7 +60,8 @@ TEST(TextIdsTest, IdentifiersAreTakenOnce) {
 TEST(TextIdsTest, AccessKeysAreTakenOnceInEachMenu) {
     const std::vector<TextId> menus[] = {
         {TextId::MenuGame, TextId::MenuClock, TextId::MenuScorlet, TextId::MenuHelp},
-        {TextId::MenuStart, TextId::MenuLoad, TextId::MenuSave, TextId::MenuDelete, TextId::MenuExit},
+        {TextId::MenuStart, TextId::MenuLoad, TextId::MenuSave, TextId::MenuDelete, TextId::MenuBringBack,
+         TextId::MenuExit},
         {TextId::MenuReset, TextId::MenuPause, TextId::MenuSetup},
         {TextId::MenuReset, TextId::MenuResume, TextId::MenuSetup},
         {TextId::MenuShow, TextId::MenuClose, TextId::MenuPrint},
