@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz.h"
 #include "settings/SettingsRecord.h"
 
-// Settings that can be read are written and read as the same; of damaged ones, what has been taken can be written.
+// Settings that can be read are written and read as the same. What has been taken of damaged ones can be written too.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const DecodedRecord record = DecodeRecord({data, size});
     Settings settings, again;
