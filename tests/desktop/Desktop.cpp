@@ -8,7 +8,6 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace {
@@ -42,13 +41,10 @@ void MoveMouseTo(HWND window) {
         const POINT wanted = MiddleOf(window);
         POINT mouse{};
         GetCursorPos(&mouse);
-        if (mouse.x != wanted.x || mouse.y != wanted.y) {
-            SetCursorPos(wanted.x, wanted.y);
-            settled = 0;
-            return false;
-        }
         const bool onTop = GetAncestor(WindowFromPoint(wanted), GA_ROOT) == GetAncestor(window, GA_ROOT);
-        settled = onTop ? settled + 1 : 0;
+        const bool over = onTop && mouse.x == wanted.x && mouse.y == wanted.y;
+        if (!over) SetCursorPos(wanted.x, wanted.y);
+        settled = over ? settled + 1 : 0;
         return settled >= 3;
     });
     if (!there) throw std::runtime_error("the mouse does not reach the window");

@@ -71,8 +71,6 @@ class ProgramRun {
   public:
     explicit ProgramRun(const std::wstring& path);
     ~ProgramRun();
-    ProgramRun(const ProgramRun&) = delete;
-    ProgramRun& operator=(const ProgramRun&) = delete;
 
     // Its visible windows, the one in front first.
     std::vector<HWND> Windows() const;

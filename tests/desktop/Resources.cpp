@@ -13,9 +13,6 @@
 namespace {
 
 // Structures and classes of the native system calls that no header of the compiler has.
-struct ProcessInformation {
-    uintptr_t ExitStatus, EnvironmentBlock, Affinity, Priority, Id, ParentId;
-};
 struct SystemHandle {
     uintptr_t Object, ProcessId, Value;
     uint32_t Access;
@@ -42,12 +39,12 @@ Function* NativeCall(const char* name) {
 size_t GdiObjects(HANDLE process) {
     if (const DWORD counted = GetGuiResources(process, GR_GDIOBJECTS)) return counted;
     static const auto query = NativeCall<LONG WINAPI(HANDLE, ULONG, void*, ULONG, ULONG*)>("NtQueryInformationProcess");
-    ProcessInformation information{};
+    std::array<uintptr_t, 6> information{};  // the second is the place of the environment block
     uintptr_t table = 0;
     std::vector<GdiEntry> entries(GdiTableEntries);
-    const bool read = query(process, ProcessBasicInformation, &information, sizeof(information), nullptr) >= 0 &&
-                      ReadProcessMemory(process, reinterpret_cast<void*>(information.EnvironmentBlock + GdiTableOffset),
-                                        &table, sizeof(table), nullptr) &&
+    const bool read = query(process, ProcessBasicInformation, information.data(), sizeof(information), nullptr) >= 0 &&
+                      ReadProcessMemory(process, reinterpret_cast<void*>(information[1] + GdiTableOffset), &table,
+                                        sizeof(table), nullptr) &&
                       ReadProcessMemory(process, reinterpret_cast<void*>(table), entries.data(),
                                         entries.size() * sizeof(GdiEntry), nullptr);
     EXPECT_TRUE(read) << "the table of GDI objects cannot be read";
@@ -96,11 +93,6 @@ size_t PrivateBytes(HANDLE process) {
     return std::max(memory.PrivateUsage, memory.PagefileUsage);
 }
 
-size_t TemporaryFiles() {
-    const std::filesystem::directory_iterator files(std::filesystem::temp_directory_path());
-    return static_cast<size_t>(std::distance(begin(files), end(files)));
-}
-
 }  // namespace
 
 std::string Resources::Text() const {
@@ -109,5 +101,7 @@ std::string Resources::Text() const {
 }
 
 Resources CountResources(HANDLE process) {
-    return {GdiObjects(process), UserObjects(process), Handles(process), PrivateBytes(process), TemporaryFiles()};
+    const std::filesystem::directory_iterator files(std::filesystem::temp_directory_path());
+    return {GdiObjects(process), UserObjects(process), Handles(process), PrivateBytes(process),
+            static_cast<size_t>(std::distance(begin(files), end(files)))};
 }

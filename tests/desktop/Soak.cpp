@@ -37,7 +37,6 @@ Resources Count(Steps& steps) {
 TEST(SoakTest, HoldsAtTheEndWhatItHeldOnceAllWasUsed) {
     const char* wanted = std::getenv("TORVANIX_SOAK_SECONDS");
     const int seconds = wanted ? std::atoi(wanted) : 60;
-    ASSERT_GT(seconds, 0) << wanted;
     const ULONGLONG start = GetTickCount64();
     const auto elapsed = [&] { return static_cast<int>((GetTickCount64() - start) / 1000); };
     Steps steps;

@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <stdexcept>
 
 // The words of the steps.
 
@@ -34,12 +33,6 @@ void Stroke(const std::string& keys) {
         Key(code, control);
 }
 
-int SecondsOf(const std::string& face) {
-    int hours = 0, minutes = 0, seconds = 0;
-    if (std::sscanf(face.c_str(), "%d:%d:%d", &hours, &minutes, &seconds) != 3) Fail("no time: " + face);
-    return hours * 3600 + minutes * 60 + seconds;
-}
-
 // A text of several lines, their ends as "|".
 std::string InOneLine(std::string text) {
     for (size_t at; (at = text.find("\r\n")) != std::string::npos;) text.replace(at, 2, "|");
@@ -54,18 +47,16 @@ void Until(const std::function<bool()>& condition, const std::string& otherwise,
 void Set(Settings& settings, const std::string& assigned) {
     const size_t sign = assigned.find('=');
     const std::string name = assigned.substr(0, sign), value = assigned.substr(sign + 1), black = "," + value;
-    if (name == "White" || name == "Black") {
-        settings.PlayerNames[name == "White" ? White : Black] = ToAnsi(Wide(value));
-        return;
-    }
-    const int32_t number = std::stoi(value);
-    const std::array<int32_t, 2> pair{number, std::stoi(black.substr(black.rfind(',') + 1))};
+    const int32_t number = std::atoi(value.c_str());
+    const std::array<int32_t, 2> pair{number, std::atoi(black.c_str() + black.rfind(',') + 1)};
     bool known = false;
     const auto field = [&](const char* which, auto set) {
         if (name != which) return;
         known = true;
         set();
     };
+    field("White", [&] { settings.PlayerNames[White] = ToAnsi(Wide(value)); });
+    field("Black", [&] { settings.PlayerNames[Black] = ToAnsi(Wide(value)); });
     field("ClockType", [&] { settings.SetClockType(number); });
     field("FirstPeriod", [&] { settings.Control.PeriodLimit = pair; });
     field("Bonus", [&] { settings.Control.MoveBonus = pair; });
@@ -127,9 +118,9 @@ HWND OpenViewer() {
 
 }  // namespace
 
-int Steps::TimeLeft() const {
+std::string Steps::Face() const {
     const bool white = std::stoi(ValueOf("lblMoveCount.W")) > std::stoi(ValueOf("lblMoveCount.B"));
-    return SecondsOf(ValueOf(white ? "lblFace.W" : "lblFace.B"));
+    return ValueOf(white ? "lblFace.W" : "lblFace.B");
 }
 
 void Steps::AddLooks() {
@@ -186,11 +177,10 @@ void Steps::AddLooks() {
         SendMessageW(program->Clock(), WM_NULL, 0, 0);
         if (program->Message()) Fail("a message");
     });
-    Add("runs",
-        [this](Words&) { Until([this, before = TimeLeft()] { return TimeLeft() != before; }, "the clock stands"); });
+    Add("runs", [this](Words&) { Until([this, before = Face()] { return Face() != before; }, "the clock stands"); });
     // For longer than a tick takes.
     Add("stands", [this](Words&) {
-        if (Eventually([this, before = TimeLeft()] { return TimeLeft() != before; }, 1200)) Fail("the clock runs");
+        if (Eventually([this, before = Face()] { return Face() != before; }, 1200)) Fail("the clock runs");
     });
     // How many samples of the last sound played are loud: none, or more than so many.
     Add("quiet", [](Words&) { Await([] { return std::to_string(LoudSamples()); }, "0"); });

@@ -151,10 +151,8 @@ void Steps::HideSoundDevice(bool hidden) {
 }
 
 Steps::Steps() {
-    SYSTEMTIME now;
-    GetLocalTime(&now);
     std::array<wchar_t, 16> today{};
-    swprintf(today.data(), today.size(), L"%02d/%02d/%04d", now.wDay, now.wMonth, now.wYear);
+    GetDateFormatW(LOCALE_INVARIANT, 0, nullptr, L"dd'/'MM'/'yyyy", today.data(), static_cast<int>(today.size()));
     SetEnvironmentVariableW(L"TODAY", today.data());
     SetEnvironmentVariableW(L"VERSION", Wide(TORVANIX_VERSION).c_str());
     SetEnvironmentVariableW(L"BUILD", BuildFolder().c_str());

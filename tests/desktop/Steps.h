@@ -28,8 +28,6 @@ class Steps {
   public:
     Steps();
     ~Steps();
-    Steps(const Steps&) = delete;
-    Steps& operator=(const Steps&) = delete;
 
     // Throws std::runtime_error at the step that fails, with what there was and what should have been.
     void Do(const std::string& steps);
@@ -55,7 +53,7 @@ class Steps {
     std::string Turn();
     std::string Counts() const { return ValueOf("lblMoveCount.W") + ValueOf("lblMoveCount.B"); }
     std::string Lists() const { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }
-    int TimeLeft() const;  // of the side to move
+    std::string Face() const;  // of the side to move
 
     TestFolder folder;
     std::optional<ProgramRun> program;

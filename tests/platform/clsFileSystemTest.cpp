@@ -6,6 +6,7 @@
 #include <objbase.h>
 
 #include <algorithm>
+#include <ctime>
 
 namespace {
 
@@ -41,10 +42,8 @@ TEST_F(clsFileSystemTest, FoldersAndFiles) {
 
 TEST_F(clsFileSystemTest, DatesOrTheReasonWhyThereIsNone) {
     WriteFileText(folder.Path() + L"a.txt", "x");
-    SYSTEMTIME now;
-    GetLocalTime(&now);
-    DATE today = 0;
-    SystemTimeToVariantTime(&now, &today);
+    constexpr DATE unixTime = 25569;  // 1970 in days of this kind
+    const DATE today = unixTime + static_cast<DATE>(std::time(nullptr)) / (24 * 3600);
     const auto date = fileSystem.FileDate(folder.Path() + L"a.txt", clsFileSystem::DateKind::LastModified);
     ASSERT_EQ(date.Status, S_OK);
     EXPECT_NEAR(date.Result, today, 1.1) << "days";
