@@ -239,8 +239,8 @@ void frmClock::ReadSettings() {
     const std::wstring problem = settingsFile.Load(settings, texts);
     if (!problem.empty()) {
         problems.push_back(problem);
-        // When the reset is done: the message must not stop it.
-        PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
+        // When the reset is done: the message must not stop it. A window that opens tells when all are open.
+        if (IsWindowVisible(Window())) PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
     }
     SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
     panels.ShowSettings();

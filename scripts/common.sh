@@ -62,6 +62,7 @@ use_own_wine() {
     # The signs on the buttons of title bars. Debian's Wine does not look into the folder of its own fonts and would
     # show the letters 0, 1 and r.
     local signs=/usr/share/wine/fonts/marlett.ttf
+    mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
     [ ! -f "$signs" ] || ln -sf "$signs" "$WINEPREFIX/drive_c/windows/Fonts/"
 }
 

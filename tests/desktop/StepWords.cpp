@@ -217,6 +217,8 @@ void Steps::AddInput() {
     });
     Add("start", [this](Words& words) {
         actions["settings"](words);
+        // A game that was kept would be asked about.
+        DeleteFileW((folder.Path() + L"Data\\Game1.kept").c_str());
         Launch();
     });
     Add("restart", [this](Words&) { Launch(); });
