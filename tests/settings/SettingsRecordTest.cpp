@@ -47,12 +47,14 @@ std::string Read(const std::string& changes) {
 TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
     ExpectRows(Read, R"(
         => | bonus0=30.5 => 30,7 | bonus0=31.5 => 32,7 | down=1 => down | number=-1 => number
-        type=- => 0:1 | type=7 => 7:1 | open=1 => open | button=0 => NOSOUND | moves=2147483645 => 2:2147483646
+        type=- => 0:1 | type=7 => 7:1 | open=1 => open | button=0 => NOSOUND | flag=0 => NOSOUND
+        moves=2147483645 => 2:2147483646
         first0=35791394 => 2147483640,10800 | 300=- => 2 | 300=1.0 => 1 | 300=7 => 7
         0=-1 => OutOfRange 0 / | 0=285 => OutOfRange 0 / | 1=256 => OutOfRange 1 / | 1=-1 => OutOfRange 1 /
         1=0 => OutOfRange 1 / | 5=31 => OutOfRange 5 Ann/ | 3=127 => OutOfRange 3 / | 5=32 => Ann/ | 5=126 => Ann/~
         4=282 => OutOfRange 4 Ann/ | first0=0 => OutOfRange 6 1200,1200 | first1=35791395 => Overflow 7 60,1200
-        second0=-1 => OutOfRange 8 1200,1200 | first0=1.5 => OutOfRange 6 1200,1200 | second1=0.5 => OutOfRange 9 0,1200 | bonus1=-1 => OutOfRange 11 3599,0
+        second0=-1 => OutOfRange 8 1200,1200 | first0=1.5 => OutOfRange 6 1200,1200 | second1=0.5 => OutOfRange 9 0,1200
+        bonus1=-1 => OutOfRange 11 3599,0
         bonus1=99999999999. => Overflow 11 3599,0 | bonus1=-99999999999. => Overflow 11 3599,0
         bonus1=nan => OutOfRange 11 3599,0 | moves=-1 => OutOfRange 17 2:40 | moves=2147483646 => OutOfRange 17 2:40
         button=5 => OutOfRange 18 BUTTONPUSHED | button=-1 => OutOfRange 18 BUTTONPUSHED

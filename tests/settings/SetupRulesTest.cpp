@@ -45,6 +45,9 @@ TEST(SetupRulesTest, TypesAndPresetsLeaveNothingThatTheyCannotHave) {
               "A/B 1200,1200 1200,1200 0,0 down second number open pgn 1:40 BUTTONPUSHED PIECEMOVED 3");
     EXPECT_EQ(after(BlitzPreset, true), "A/B 300,300 0,0 0,0 down pgn 0:40 BUTTONPUSHED NOSOUND 3");
     EXPECT_EQ(after(BlitzPreset, false), "A/B 300,300 80,90 0,0 down pgn 0:40 BUTTONPUSHED NOSOUND 3");
+    Settings whole = fischer;
+    DropFractions(whole);
+    EXPECT_EQ(SettingsText(whole).substr(0, 18), "A/B 60,60 60,60 5,");
     fischer.SetClockType(0);
     fischer.SetClockType(7);
     EXPECT_FALSE(fischer.Control.SecondPeriodEnabled) << "an unknown type leaves that as it was";
