@@ -62,8 +62,7 @@ void frmClock::Open() {
     UpdateWindow(Window());
     // As a command of its own: what stops it does not stop the clock.
     if (settings.OpenScorletAtStart) PostMessageW(Window(), WM_COMMAND, mnuShowScorlet, 0);
-    PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
-    PostMessageW(Window(), WM_OFFERGAME, 0, 0);
+    PostMessageW(Window(), WM_OPENED, 0, 0);
 }
 
 void frmClock::LoadPictures() {
@@ -283,7 +282,12 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
             return 0;
         case WM_TELLPROBLEMS: TellProblems(); return 0;
-        case WM_OFFERGAME: kept.Offer([this](const SavedGame& saved) { BringBack(saved); }); return 0;
+        case WM_OPENED:
+            // One after the other.
+            TellProblems();
+            store.SettleAll();
+            kept.Offer([this](const SavedGame& saved) { BringBack(saved); });
+            return 0;
         case WM_KEEPGAME:
             toKeep = false;
             kept.Keep();

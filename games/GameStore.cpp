@@ -27,6 +27,13 @@ bool ComesBefore(const std::wstring& first, const std::wstring& second) {
     return CompareStringOrdinal(first.c_str(), -1, second.c_str(), -1, TRUE) == CSTR_LESS_THAN;
 }
 
+// Whether a file name ends so, whatever the letter case.
+bool EndsWith(std::wstring_view name, std::wstring_view ending) {
+    return name.size() > ending.size() && AreEqual(name.substr(name.size() - ending.size()), ending);
+}
+
+constexpr std::wstring_view MarkEnding = L".saving";
+
 }  // namespace
 
 std::vector<std::wstring> GameStore::Names() const {
@@ -48,12 +55,15 @@ std::wstring GameStore::PathOf(const std::wstring& name, GameFile file) const {
     return folder + name + FromAnsi(ExtensionOf(file));
 }
 
+std::wstring GameStore::MarkOf(const std::wstring& name) const { return folder + name + std::wstring(MarkEnding); }
+
 void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const {
     // It may have been removed since the program began. Where it cannot be made the first file says why.
     MakeFolder(folder);
+    SavingMark mark(MarkOf(name), PathOf(name, DiagramFile));
+    Settle(name, mark);
     std::vector<FileBeside> written;
     std::vector<std::pair<std::wstring, std::optional<std::vector<uint8_t>>>> replaced;
-    // The clock file last: when the program is killed in between, a new game is not there yet.
     for (GameFile file : {DiagramFile, MovesFile, PgnFile, ClockFile}) {
         if (!files[file]) continue;
         const std::wstring path = PathOf(name, file);
@@ -64,11 +74,13 @@ void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const
         written.emplace_back(path, bytes);
         replaced.emplace_back(path, std::move(older));
     }
+    mark.SetComplete(true);
     size_t done = 0;
     try {
         for (; done < written.size(); ++done) written[done].TakePlace();
     } catch (const SystemError&) {
         // One game is not made of old and new files: what has been replaced comes back.
+        mark.SetComplete(false);
         for (size_t i = 0; i < done; ++i) {
             if (replaced[i].second)
                 ReplaceFileBytes(replaced[i].first, TextOf(*replaced[i].second));
@@ -79,8 +91,42 @@ void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const
     }
 }
 
+// A program that ended while it saved has left files beside those of the game. When all were there, they take their
+// places now, else they are removed.
+void GameStore::Settle(const std::wstring& name, const SavingMark& mark) const {
+    for (GameFile file : AllGameFiles) {
+        const std::wstring path = PathOf(name, file);
+        if (mark.IsComplete())
+            FileBeside::TakePlaceLeft(path);
+        else
+            FileBeside::RemoveLeft(path);
+    }
+}
+
+void GameStore::SettleAll() const {
+    // The marks, and what versions without marks have left.
+    for (const std::wstring& file : FilesLike(folder + L"*")) {
+        std::wstring name;
+        if (EndsWith(file, MarkEnding)) name = file.substr(0, file.size() - MarkEnding.size());
+        if (EndsWith(file, L".new") && file.size() > 2 * ExtensionLength)
+            name = file.substr(0, file.size() - 2 * ExtensionLength);
+        if (!name.empty()) SettleIfLeft(name);
+    }
+}
+
+// What cannot be settled now is so at the next chance.
+void GameStore::SettleIfLeft(const std::wstring& name) const try {
+    bool left = FileExists(MarkOf(name));
+    for (GameFile file : AllGameFiles) left = left || FileBeside::IsLeft(PathOf(name, file));
+    if (!left) return;
+    const SavingMark mark(MarkOf(name), PathOf(name, ClockFile));
+    Settle(name, mark);
+} catch (const SystemError&) {
+}
+
 std::optional<GameFileError> GameStore::LoadGame(const std::wstring& name, const Settings& present,
                                                  SavedGame& game) const {
+    SettleIfLeft(name);
     const auto read = [&](GameFile file, size_t limit) {
         try {
             return ReadFileBytes(PathOf(name, file), limit);
@@ -95,6 +141,7 @@ std::optional<GameFileError> GameStore::LoadGame(const std::wstring& name, const
 
 void GameStore::DeleteGame(const std::wstring& name) const {
     constexpr std::array removed{ClockFile, DiagramFile, MovesFile};
+    SettleIfLeft(name);
     // Before the clock file goes: the game would not be listed any more.
     for (GameFile file : removed) ExpectReplaceable(PathOf(name, file));
     for (GameFile file : removed) DeleteFileAt(PathOf(name, file));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "games/GameCodec.h"
+#include "games/SavingMark.h"
 
 #include <string>
 #include <vector>
@@ -19,8 +20,9 @@ class GameStore {
 
     std::wstring PathOf(const std::wstring& name, GameFile file) const;
 
-    // Writes the files of a game. All are written beside before the first takes its place, and what has taken it is put
-    // back when another cannot; files that are not given stay as they are. Throws SystemError that names the file.
+    // Writes the files of a game in one step: at whatever moment the program ends, the game is the old one or the new
+    // one as soon as it is settled. Programs that save the same game come one after the other. Files that are not given
+    // stay as they are. Throws SystemError that names the file; the old game is then there.
     void SaveGame(const std::wstring& name, const GameFiles& files) const;
 
     // Reads and checks a game; the error says which file is damaged and how. Throws SystemError for one that cannot be
@@ -31,6 +33,13 @@ class GameStore {
     // SystemError that names the file, when one cannot be removed with all still there.
     void DeleteGame(const std::wstring& name) const;
 
+    // Settles what programs that ended while they saved have left; loading, saving and deleting do so for their game.
+    void SettleAll() const;
+
   private:
+    std::wstring MarkOf(const std::wstring& name) const;
+    void Settle(const std::wstring& name, const SavingMark& mark) const;
+    void SettleIfLeft(const std::wstring& name) const;
+
     std::wstring folder;
 };

@@ -125,15 +125,30 @@ FileBeside::FileBeside(FileBeside&& other) noexcept
     : path(std::move(other.path)), waiting(std::exchange(other.waiting, false)) {}
 
 void FileBeside::TakePlace() {
+    if (!IsLeft(path)) throw SystemError(ERROR_FILE_NOT_FOUND, path);
+    TakePlaceLeft(path);
+    waiting = false;
+}
+
+bool FileBeside::IsLeft(const std::wstring& path) {
+    return GetFileAttributesW(Beside(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void FileBeside::TakePlaceLeft(const std::wstring& path) {
     constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    // A virus scanner or an indexer may briefly open a file that has just been written.
-    for (int tries = 1; !MoveFileExW(Beside(path).c_str(), Long(path).c_str(), flags); ++tries) {
+    // A virus scanner or an indexer may have opened a file that has just been written, for a moment.
+    for (int tries = 1; IsLeft(path) && !MoveFileExW(Beside(path).c_str(), Long(path).c_str(), flags); ++tries) {
         const DWORD code = GetLastError();
         if (tries == 20 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))
             throw SystemError(code, path);
         Sleep(25);
     }
-    waiting = false;
+}
+
+void FileBeside::RemoveLeft(const std::wstring& path) { DeleteFileW(Beside(path).c_str()); }
+
+UniqueFile OpenAlone(const std::wstring& path) {
+    return Open(Long(path), GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS);
 }
 
 void ReplaceFileBytes(const std::wstring& path, std::string_view bytes) { FileBeside(path, bytes).TakePlace(); }

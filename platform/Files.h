@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Handles.h"
+
 #include <windows.h>
 
 #include <cstdint>
@@ -47,10 +49,19 @@ class FileBeside {
 
     void TakePlace();
 
+    // What a program that ended in between has left beside a file: takes its place, or is removed, where it is there.
+    static bool IsLeft(const std::wstring& path);
+    static void TakePlaceLeft(const std::wstring& path);
+    static void RemoveLeft(const std::wstring& path);
+
   private:
     std::wstring path;
     bool waiting = true;
 };
+
+// Opens a file, a new one where there is none, for reading and writing as long as no other program has it open. Null,
+// and the code in GetLastError, where that fails.
+UniqueFile OpenAlone(const std::wstring& path);
 
 // Replaces the whole of a single file.
 void ReplaceFileBytes(const std::wstring& path, std::string_view bytes);

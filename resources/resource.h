@@ -144,9 +144,9 @@ enum FilesControl : int {
 // Messages that the windows send themselves and one another, from WM_APP on.
 enum ClockMessage : unsigned {
     WM_BUTTONKEY = 0x8001,  // a button was pressed with the key in wParam, 0 for the mouse; its number is in lParam
-    WM_TELLPROBLEMS,        // the window is open and can show what has gone wrong before
+    WM_TELLPROBLEMS,        // something went wrong that can be told now
     WM_SCORLETGONE,         // the Scorlet's window has been destroyed
-    WM_OFFERGAME,           // the window is open, and a game that was kept can be offered
+    WM_OPENED,              // the window is open: what went wrong can be told, a game that was kept be offered
     WM_KEEPGAME,            // the game has changed and is to be kept, when all is drawn
     WM_KEEPFAILED,          // it could not be, for the reason with the code in wParam
     WM_TELLSLEEP,           // the computer is awake again: a clock was paused
