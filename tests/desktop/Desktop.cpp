@@ -195,14 +195,17 @@ ProgramRun::~ProgramRun() {
 }
 
 std::vector<HWND> ProgramRun::Windows() const {
-    std::vector<HWND> windows;
-    const DWORD own = GetProcessId(process.get());
-    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
+    std::pair<DWORD, std::vector<HWND>> found{GetProcessId(process.get()), {}};
+    // Going from window to window would miss those after one that ends meanwhile.
+    const auto take = [](HWND window, LPARAM to) -> BOOL {
+        auto& [own, windows] = *reinterpret_cast<std::pair<DWORD, std::vector<HWND>>*>(to);
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
         if (owner == own && IsWindowVisible(window)) windows.push_back(window);
-    }
-    return windows;
+        return TRUE;
+    };
+    EnumWindows(take, reinterpret_cast<LPARAM>(&found));
+    return found.second;
 }
 
 HWND ProgramRun::FindWindowNow(const std::wstring& className) const {

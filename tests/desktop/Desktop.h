@@ -27,7 +27,6 @@ std::wstring SpokenName(HWND control);
 std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);
 
-// The middle of a window on the screen, and the mouse put there.
 POINT MiddleOf(HWND window);
 void MoveMouseTo(HWND window);
 // A click at a place of the screen, where the mouse need not have come to rest.
@@ -52,8 +51,7 @@ class TestFolder {
     std::wstring path;
 };
 
-// A file, or a folder with all it holds, write-protected or not.
-void Remove(const std::wstring& path);
+void Remove(const std::wstring& path);  // a file, or a folder with all it holds
 void WriteFileText(const std::wstring& path, const std::string& bytes);
 std::string ReadFileText(const std::wstring& path);  // empty where there is no such file
 bool Exists(const std::wstring& path);

@@ -89,8 +89,7 @@ size_t PrivateBytes(HANDLE process) {
     PROCESS_MEMORY_COUNTERS_EX memory{};
     memory.cb = sizeof(memory);
     GetProcessMemoryInfo(process, reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof(memory));
-    // Two names of one figure; Wine gives it the older one only.
-    return std::max(memory.PrivateUsage, memory.PagefileUsage);
+    return std::max(memory.PrivateUsage, memory.PagefileUsage);  // two names of one figure, of which Wine knows one
 }
 
 }  // namespace
