@@ -37,12 +37,6 @@ std::vector<HWND> ControlsOf(HWND form, DWORD style) {
     return controls;
 }
 
-RECT AreaOf(HWND control) {
-    RECT area{};
-    GetWindowRect(control, &area);
-    return area;
-}
-
 // With so much of the width taken by other things.
 void ExpectFits(HWND control, const std::wstring& text, int taken, bool wraps = false) {
     if (text.empty()) return;

@@ -108,8 +108,7 @@ void Change(const Form& form, const Texts& texts, int state) {
 
 // As the system does when a window comes to a screen of another resolution.
 void ScaleTo(HWND window, int dpi) {
-    RECT area{};
-    GetWindowRect(window, &area);
+    RECT area = AreaOf(window);
     const int from = DpiOf(window);
     area.right = area.left + MulDiv(area.right - area.left, dpi, from);
     area.bottom = area.top + MulDiv(area.bottom - area.top, dpi, from);
@@ -151,8 +150,7 @@ TEST_P(FormsTest, IsReadableFitsAndTakesTheSystemsColours) {
         ScaleTo(window, dpi);
         ExpectTextsFit(window, name == "clock");
         if (!resizable) continue;
-        RECT before{};
-        GetWindowRect(window, &before);
+        const RECT before = AreaOf(window);
         // It keeps to its least size.
         SetWindowPos(window, nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER);
         ExpectTextsFit(window, name == "clock");

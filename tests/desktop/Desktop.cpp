@@ -1,7 +1,6 @@
 #include "tests/desktop/Desktop.h"
 
 #include "platform/Process.h"
-#include "settings/SettingsRecord.h"
 
 #include <oleacc.h>
 
@@ -28,9 +27,14 @@ INPUT MouseAt(POINT place, DWORD flags) {
 
 }  // namespace
 
-POINT MiddleOf(HWND window) {
+RECT AreaOf(HWND window) {
     RECT area{};
     GetWindowRect(window, &area);
+    return area;
+}
+
+POINT MiddleOf(HWND window) {
+    const RECT area = AreaOf(window);
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
@@ -61,20 +65,21 @@ void Click(HWND window, bool rightButton) {
     ClickAt(MiddleOf(window), rightButton);
 }
 
-void SendKey(WORD key, bool up) {
+void SendKey(WORD key, DWORD flags) {
+    const bool character = flags & KEYEVENTF_UNICODE;
     INPUT input{};
     input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+    input.ki.wVk = character ? 0 : key;
+    input.ki.wScan = character ? key : static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
     SendInput(1, &input, sizeof(INPUT));
 }
 
 void Key(WORD key, bool control) {
-    if (control) SendKey(VK_CONTROL, false);
-    SendKey(key, false);
-    SendKey(key, true);
-    if (control) SendKey(VK_CONTROL, true);
+    if (control) SendKey(VK_CONTROL);
+    SendKey(key);
+    SendKey(key, KEYEVENTF_KEYUP);
+    if (control) SendKey(VK_CONTROL, KEYEVENTF_KEYUP);
 }
 
 std::wstring BuildFolder() {
@@ -90,6 +95,12 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds) {
         Sleep(5);
     }
     return true;
+}
+
+DWORD ProcessOf(HWND window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    return id;
 }
 
 bool IsKind(HWND window, const wchar_t* className) {
@@ -167,22 +178,12 @@ std::string ReadFileText(const std::wstring& path) {
 
 bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
-Settings QuietSettings(bool withScorlet) {
+Settings QuietSettings() {
     Settings settings;
     settings.SetButtonSound(0);
     settings.SetFlagSound(0);
-    settings.OpenScorletAtStart = withScorlet;
+    settings.OpenScorletAtStart = false;
     return settings;
-}
-
-void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings) {
-    CreateDirectoryW((programFolder + L"Data").c_str(), nullptr);
-    WriteFileText(programFolder + L"Data\\TORVANIX.set", EncodeRecord(EncodeSettings(settings)));
-}
-
-std::wstring PutProgramInto(const TestFolder& folder) {
-    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), (folder.Path() + L"torvanix.exe").c_str(), FALSE);
-    return folder.Path() + L"torvanix.exe";
 }
 
 ProgramRun::ProgramRun(const std::wstring& program) : process(StartProgram(program)) {}
@@ -195,6 +196,7 @@ ProgramRun::~ProgramRun() {
 }
 
 std::vector<HWND> ProgramRun::Windows() const {
+<<<<<<< HEAD
     std::pair<DWORD, std::vector<HWND>> found{GetProcessId(process.get()), {}};
     // Going from window to window would miss those after one that ends meanwhile.
     const auto take = [](HWND window, LPARAM to) -> BOOL {
@@ -206,6 +208,14 @@ std::vector<HWND> ProgramRun::Windows() const {
     };
     EnumWindows(take, reinterpret_cast<LPARAM>(&found));
     return found.second;
+=======
+    std::vector<HWND> windows;
+    const DWORD own = GetProcessId(process.get());
+    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
+        if (ProcessOf(window) == own && IsWindowVisible(window)) windows.push_back(window);
+    }
+    return windows;
+>>>>>>> 5246c5b3d1fdcc60453001443db23f01d27c3ce6
 }
 
 HWND ProgramRun::FindWindowNow(const std::wstring& className) const {
@@ -221,9 +231,9 @@ HWND ProgramRun::Clock() {
     return clock;
 }
 
-int ProgramRun::Focused() {
+HWND ProgramRun::Focused() {
     GUITHREADINFO info{};
     info.cbSize = sizeof(info);
-    if (!GetGUIThreadInfo(GetWindowThreadProcessId(Clock(), nullptr), &info) || !info.hwndFocus) return 0;
-    return GetAncestor(info.hwndFocus, GA_ROOT) == info.hwndFocus ? -1 : GetDlgCtrlID(info.hwndFocus);
+    GetGUIThreadInfo(GetWindowThreadProcessId(Clock(), nullptr), &info);
+    return info.hwndFocus;
 }

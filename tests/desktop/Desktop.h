@@ -19,7 +19,8 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000
 // Where the programs lie that the build makes, this one among them; with a trailing backslash.
 std::wstring BuildFolder();
 
-// Of a window of any process: whether it is of a class, its text, the name that a screen reader says.
+// Of a window of any process: the process, whether it is of a class, its text, the name that a screen reader says.
+DWORD ProcessOf(HWND window);
 bool IsKind(HWND window, const wchar_t* className);
 std::wstring TextOf(HWND window);
 std::wstring SpokenName(HWND control);
@@ -27,12 +28,17 @@ std::wstring SpokenName(HWND control);
 std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);
 
+<<<<<<< HEAD
+=======
+// Where a window is on the screen, its middle, and the mouse put there.
+RECT AreaOf(HWND window);
+>>>>>>> 5246c5b3d1fdcc60453001443db23f01d27c3ce6
 POINT MiddleOf(HWND window);
 void MoveMouseTo(HWND window);
 // A click at a place of the screen, where the mouse need not have come to rest.
 void ClickAt(POINT place, bool rightButton = false);
 void Click(HWND window, bool rightButton = false);
-void SendKey(WORD key, bool up);
+void SendKey(WORD key, DWORD flags = 0);
 // A key down and up, with Ctrl held where it is asked for.
 void Key(WORD key, bool control = false);
 
@@ -56,13 +62,8 @@ void WriteFileText(const std::wstring& path, const std::string& bytes);
 std::string ReadFileText(const std::wstring& path);  // empty where there is no such file
 bool Exists(const std::wstring& path);
 
-// The DEFAULT preset without sounds, and without the Scorlet where it is not asked for.
-Settings QuietSettings(bool withScorlet = false);
-// The settings file of a program in that folder.
-void WriteSettingsFile(const std::wstring& programFolder, const Settings& settings);
-
-// A copy of the program in the folder; its path.
-std::wstring PutProgramInto(const TestFolder& folder);
+// The DEFAULT preset without sounds and without the Scorlet.
+Settings QuietSettings();
 
 // One run of the program at a path, ended with the object.
 class ProgramRun {
@@ -78,9 +79,7 @@ class ProgramRun {
     HWND Clock();                                              // the clock window, waited for
 
     HWND Control(int id) { return GetDlgItem(Clock(), id); }
-    std::wstring Text(int id) { return TextOf(Control(id)); }
-    // Number of the control with the focus, -1 for a window without number, 0 for none.
-    int Focused();
+    HWND Focused();
 
     HANDLE Process() const { return process.get(); }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/Process.h"
+#include "settings/SettingsRecord.h"
 
 #include <commctrl.h>
 
@@ -49,25 +50,21 @@ void Set(Settings& settings, const std::string& assigned) {
     const std::string name = assigned.substr(0, sign), value = assigned.substr(sign + 1), black = "," + value;
     const int32_t number = std::atoi(value.c_str());
     const std::array<int32_t, 2> pair{number, std::atoi(black.c_str() + black.rfind(',') + 1)};
-    bool known = false;
-    const auto field = [&](const char* which, auto set) {
-        if (name != which) return;
-        known = true;
-        set();
+    const std::map<std::string, std::function<void()>> fields{
+        {"White", [&] { settings.PlayerNames[White] = ToAnsi(Wide(value)); }},
+        {"Black", [&] { settings.PlayerNames[Black] = ToAnsi(Wide(value)); }},
+        {"ClockType", [&] { settings.SetClockType(number); }},
+        {"FirstPeriod", [&] { settings.Control.PeriodLimit = pair; }},
+        {"Bonus", [&] { settings.Control.MoveBonus = pair; }},
+        {"CountDown", [&] { settings.Control.CountTimeDown = number; }},
+        {"TurnClock", [&] { settings.TurnClock = number; }},
+        {"Scorlet", [&] { settings.OpenScorletAtStart = number; }},
+        {"Pgn", [&] { settings.WritePgn = number; }},
+        {"Language", [&] { settings.LanguageIndex = number; }},
+        {"ButtonSound", [&] { settings.SetButtonSound(number); }},
+        {"FlagSound", [&] { settings.SetFlagSound(number); }},
     };
-    field("White", [&] { settings.PlayerNames[White] = ToAnsi(Wide(value)); });
-    field("Black", [&] { settings.PlayerNames[Black] = ToAnsi(Wide(value)); });
-    field("ClockType", [&] { settings.SetClockType(number); });
-    field("FirstPeriod", [&] { settings.Control.PeriodLimit = pair; });
-    field("Bonus", [&] { settings.Control.MoveBonus = pair; });
-    field("CountDown", [&] { settings.Control.CountTimeDown = number; });
-    field("TurnClock", [&] { settings.TurnClock = number; });
-    field("Scorlet", [&] { settings.OpenScorletAtStart = number; });
-    field("Pgn", [&] { settings.WritePgn = number; });
-    field("Language", [&] { settings.LanguageIndex = number; });
-    field("ButtonSound", [&] { settings.SetButtonSound(number); });
-    field("FlagSound", [&] { settings.SetFlagSound(number); });
-    if (!known) Fail("no setting " + name);
+    fields.at(name)();
 }
 
 // What the program has played, where the sound system of this machine writes it to a file.
@@ -96,12 +93,6 @@ DWORD ExitCodeOf(HANDLE process) {
     return code;
 }
 
-DWORD ProcessOf(HWND window) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window, &id);
-    return id;
-}
-
 // The help viewer, null until it shows its contents tree and is done with opening: before that it takes the foreground
 // again.
 HWND OpenViewer() {
@@ -124,7 +115,7 @@ std::string Steps::Face() const {
 }
 
 void Steps::AddLooks() {
-    const auto each = [this](const char* word, bool (*holds)(HWND)) {
+    const auto each = [this](const char* word, std::function<bool(HWND)> holds) {
         Add(word, [this, holds](Words& words) {
             for (std::string name; words.More();) Until([&] { return holds(Find(name)); }, name = words.Take());
         });
@@ -134,6 +125,8 @@ void Steps::AddLooks() {
     each("enabled", [](HWND window) { return IsWindowEnabled(window) != 0; });
     each("disabled", [](HWND window) { return window && !IsWindowEnabled(window); });
     each("in-front", [](HWND window) { return window && window == GetForegroundWindow(); });
+    each("focus", [this](HWND window) { return window && window == program->Focused(); });
+    each("shut", [](HWND list) { return !SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0); });
     Add("see", [this](Words& words) {
         const std::string name = words.Take();
         Await([&] { return ValueOf(name); }, words.Take());
@@ -143,17 +136,15 @@ void Steps::AddLooks() {
         const HWND control = Shown(words.Take());
         Await([&] { return Utf8(SpokenName(control)); }, words.Take());
     });
-    Add("lists", [this](Words& words) { Await([this] { return Lists(); }, words.Take()); });
+    Add("lists", [this](Words& words) {
+        Await([this] { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }, words.Take());
+    });
     Add("counts", [this](Words& words) { Await([this] { return Counts(); }, words.Take()); });
     // The move numbers while the clock runs, and all that shows whose turn it is.
     Add("turn", [this](Words& words) {
         const std::string white = words.Take(), black = words.Take(), runs = ". press pause focus !!!", waits = ". ";
         const bool turn = std::stoi(white) > std::stoi(black);
         Await([this] { return Turn(); }, white + (turn ? runs : waits) + black + (turn ? waits : runs));
-    });
-    Add("focus", [this](Words& words) {
-        const std::string wanted = std::to_string(IdOf(words.Take()));
-        Await([this] { return std::to_string(program->Focused()); }, wanted);
     });
     // With the button that answers it, where one does. No other window takes input meanwhile.
     Add("message", [this](Words& words) {
@@ -172,11 +163,8 @@ void Steps::AddLooks() {
         Click(Shown(words.Take()));
         Until([&] { return !IsWindow(box); }, "the message stays");
     });
-    // What has been sent to the window so far brought no message.
-    Add("silent", [this](Words&) {
-        SendMessageW(program->Clock(), WM_NULL, 0, 0);
-        if (program->Message()) Fail("a message");
-    });
+    // Until what has been sent to the window so far has been dealt with.
+    Add("settle", [this](Words&) { SendMessageW(program->Clock(), WM_NULL, 0, 0); });
     Add("runs", [this](Words&) { Until([this, before = Face()] { return Face() != before; }, "the clock stands"); });
     // For longer than a tick takes.
     Add("stands", [this](Words&) {
@@ -193,9 +181,6 @@ void Steps::AddLooks() {
         const HWND before = viewer;
         Until([&] { return (viewer = OpenViewer()) && viewer != before && !IsWindow(before); }, "no new viewer");
     });
-    Add("help-in-front", [this](Words&) { Until([this] { return GetForegroundWindow() == viewer; }, "it is not"); });
-    Add("help-closed", [this](Words&) { Until([this] { return !IsWindow(viewer); }, "it is open"); });
-    Add("close-help", [this](Words&) { PostMessageW(viewer, WM_CLOSE, 0, 0); });
     // The text in the editor, which then is ended.
     Add("editor", [](Words& words) {
         Until([] { return EditorText() != nullptr; }, "no editor");
@@ -213,7 +198,8 @@ void Steps::AddInput() {
     Add("settings", [this](Words& words) {
         Settings settings = QuietSettings();
         while (words.More()) Set(settings, words.Take());
-        WriteSettingsFile(folder.Path(), settings);
+        CreateDirectoryW((folder.Path() + L"Data").c_str(), nullptr);
+        WriteFileText(folder.Path() + L"Data\\TORVANIX.set", EncodeRecord(EncodeSettings(settings)));
     });
     Add("start", [this](Words& words) {
         actions["settings"](words);
@@ -223,20 +209,14 @@ void Steps::AddInput() {
     });
     Add("restart", [this](Words&) { Launch(); });
     Add("close", [this](Words& words) { PostMessageW(Shown(words.Take()), WM_CLOSE, 0, 0); });
-    Add("front", [this](Words& words) {
-        const HWND window = Shown(words.Take());
-        SetForegroundWindow(window);
-        Until([&] { return GetForegroundWindow() == window; }, "it does not come");
-    });
+    Add("bring", [this](Words& words) { SetForegroundWindow(Shown(words.Take())); });
     Add("click", [this](Words& words) { Click(Shown(words.Take())); });
     Add("rclick", [this](Words& words) { Click(Shown(words.Take()), true); });
     // So many pixels from the right edge.
     Add("click-end", [this](Words& words) {
         const HWND control = Shown(words.Take());
-        RECT area{};
-        GetWindowRect(control, &area);
         MoveMouseTo(control);
-        ClickAt({area.right - words.Number(), MiddleOf(control).y});
+        ClickAt({AreaOf(control).right - words.Number(), MiddleOf(control).y});
     });
     Add("mouse-away", [](Words&) { SetCursorPos(0, 0); });
     Add("mouse-to", [this](Words& words) { MoveMouseTo(Shown(words.Take())); });
@@ -245,64 +225,30 @@ void Steps::AddInput() {
     Add("wheel", [](Words& words) {
         mouse_event(MOUSEEVENTF_WHEEL, 0, 0, static_cast<DWORD>(words.Number() * WHEEL_DELTA), 0);
     });
-    // Near the upper left corner: the first line of a list.
-    Add("double-click", [this](Words& words) {
-        const HWND control = Shown(words.Take());
-        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
-            PostMessageW(control, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(20, 5));
-    });
     Add("key", [](Words& words) {
         while (words.More()) Stroke(words.Take());
     });
-    Add("key-down", [](Words& words) { SendKey(CodeOf(words.Take()), false); });
-    Add("key-up", [](Words& words) { SendKey(CodeOf(words.Take()), true); });
+    Add("key-down", [](Words& words) { SendKey(CodeOf(words.Take())); });
+    Add("key-up", [](Words& words) { SendKey(CodeOf(words.Take()), KEYEVENTF_KEYUP); });
     Add("type", [](Words& words) {
-        for (const wchar_t character : Wide(words.Take())) {
-            INPUT input{};
-            input.type = INPUT_KEYBOARD;
-            input.ki.wScan = character;
-            input.ki.dwFlags = KEYEVENTF_UNICODE;
-            SendInput(1, &input, sizeof(input));
-        }
+        for (const wchar_t character : Wide(words.Take())) SendKey(character, KEYEVENTF_UNICODE);
     });
     // At once, as pasting does.
     Add("put", [this](Words& words) {
         const HWND field = Shown(words.Take());
         SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(words.Take()).c_str()));
     });
-    // By the keys: a menu of the bar and its entry by their places, separators not counted.
-    Add("menu", [this](Words& words) {
-        Do("in-front frmClock");
-        Key(VK_F10);
-        for (int menu = words.Number(); menu > 0; --menu) Key(VK_RIGHT);
-        for (int entry = words.Number(); entry >= 0; --entry) Key(VK_DOWN);
-        Key(VK_RETURN);
-    });
-    // An entry of the menu that has been opened over a list.
-    Add("pick", [this](Words& words) {
-        Until([this] { return program->FindWindowNow(L"#32768") != nullptr; }, "no menu");
-        for (int entry = words.Number(); entry >= 0; --entry) Key(VK_DOWN);
-        Key(VK_RETURN);
-        Until([this] { return !program->FindWindowNow(L"#32768"); }, "the menu stays");
-    });
     Add("command", [this](Words& words) {
         PostMessageW(program->Clock(), WM_COMMAND, static_cast<WPARAM>(IdOf(words.Take())), 0);
     });
     Add("drop", [this](Words& words) {
-        const std::string name = words.Take();
-        const HWND list = Shown(name);
+        const HWND list = Shown(words.Take());
         // A second click on the same place would be a double click.
-        if (program->Focused() == IdOf(name))
+        if (program->Focused() == list)
             Key(VK_F4);
         else
             Click(list);
         Until([&] { return SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) != 0; }, "the list stays shut");
-    });
-    // An entry of a list that drops down, by its place.
-    Add("choose", [this](Words& words) {
-        const std::string name = words.Take();
-        Do("drop " + name + " / key Home Down*" + words.Take() + " Enter");
-        Until([&] { return !SendMessageW(Shown(name), CB_GETDROPPEDSTATE, 0, 0); }, "the list stays open");
     });
     Add("play", [this](Words& words) {
         while (words.More()) {
@@ -360,7 +306,6 @@ void Steps::AddFaults() {
         held.reset(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     });
     Add("unlock", [this](Words&) { held.reset(); });
-    Add("no-sound-device", [this](Words&) { HideSoundDevice(true); });
     Add("listen", [](Words&) { Remove(CaptureFile()); });
     Add("no-sound", [](Words&) { Await([] { return Exists(CaptureFile()) ? "a device" : ""; }, ""); });
     // A program by its path, with its parameters: it ends with that code.

@@ -142,14 +142,6 @@ std::string Words::Take() {
     return Utf8(expanded.data());
 }
 
-// Whether programs that start from now on find a sound device.
-void Steps::HideSoundDevice(bool hidden) {
-    soundDeviceHidden = hidden;
-    const std::wstring driver = hidden ? L"" : L"alsa";
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Audio", REG_SZ, driver.c_str(),
-                    static_cast<DWORD>((driver.size() + 1) * sizeof(wchar_t)));
-}
-
 Steps::Steps() {
     std::array<wchar_t, 16> today{};
     GetDateFormatW(LOCALE_INVARIANT, 0, nullptr, L"dd'/'MM'/'yyyy", today.data(), static_cast<int>(today.size()));
@@ -164,7 +156,6 @@ Steps::Steps() {
 
 Steps::~Steps() {
     program.reset();
-    if (soundDeviceHidden) HideSoundDevice(false);
     try {
         if (!linesAtEnd.empty()) RunShell(linesAtEnd);
     } catch (const std::exception& error) {
@@ -199,13 +190,15 @@ void Steps::Do(const std::string& steps) {
 
 void Steps::Launch(const std::wstring& installed) {
     program.reset();
-    program.emplace(installed.empty() ? PutProgramInto(folder) : installed);
+    const std::wstring copy = folder.Path() + L"torvanix.exe";
+    if (installed.empty()) CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), copy.c_str(), FALSE);
+    program.emplace(installed.empty() ? copy : installed);
     const auto ready = [&] {
         const HWND clock = program->FindWindowNow(L"frmClock");
         if (program->Message()) return true;
         // All that opens at the start has opened once it waits for input.
         return clock && WaitForInputIdle(program->Process(), 0) == 0 && GetForegroundWindow() == clock &&
-               program->Focused() > 0;
+               IsChild(clock, program->Focused());
     };
     if (!Eventually(ready, 20000)) Fail("the program does not open its window");
 }
@@ -225,6 +218,8 @@ void Steps::RunShell(const std::string& lines) const {
 
 HWND Steps::Find(const std::string& name) const {
     if (name == "message") return program->Message();
+    if (name == "popup") return program->FindWindowNow(L"#32768");
+    if (name == "help") return viewer;
     if (name.starts_with("frm")) return program->FindWindowNow(Wide(name));
     for (const HWND window : program->Windows()) {
         if (const HWND control = GetDlgItem(window, IdOf(name))) return control;
@@ -257,10 +252,10 @@ std::string Steps::ValueOf(const std::string& name) const {
 std::string Steps::Turn() {
     std::string turn;
     for (Side side : BothSides) {
-        turn += Utf8(program->Text(ControlOf(lblMoveCount, side)));
+        turn += Utf8(TextOf(program->Control(ControlOf(lblMoveCount, side))));
         for (const auto& [id, what] : {std::pair{cmdClock, " press"}, {cmdPause, " pause"}})
             turn += IsWindowEnabled(program->Control(ControlOf(id, side))) ? what : "";
-        turn += program->Focused() == ControlOf(cmdClock, side) ? " focus " : " ";
+        turn += program->Focused() == program->Control(ControlOf(cmdClock, side)) ? " focus " : " ";
         for (int mark = 0; mark < TurnMarksPerSide; ++mark)
             turn += IsWindowVisible(program->Control(TurnMark(side, mark))) ? "!" : "";
     }

@@ -45,14 +45,12 @@ class Steps {
     void AddInput();
     void AddFaults();
     void RunShell(const std::string& lines) const;
-    void HideSoundDevice(bool hidden);
 
     HWND Find(const std::string& name) const;   // null where there is none now
     HWND Shown(const std::string& name) const;  // waited for
     std::string ValueOf(const std::string& name) const;
     std::string Turn();
     std::string Counts() const { return ValueOf("lblMoveCount.W") + ValueOf("lblMoveCount.B"); }
-    std::string Lists() const { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }
     std::string Face() const;  // of the side to move
 
     TestFolder folder;
@@ -61,7 +59,6 @@ class Steps {
     UniqueFile held;
     Time::duration savingTime{};
     std::string linesAtEnd;
-    bool soundDeviceHidden = false;
     HWND viewer = nullptr;  // of the help
 };
 
