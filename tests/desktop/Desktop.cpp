@@ -196,26 +196,15 @@ ProgramRun::~ProgramRun() {
 }
 
 std::vector<HWND> ProgramRun::Windows() const {
-<<<<<<< HEAD
     std::pair<DWORD, std::vector<HWND>> found{GetProcessId(process.get()), {}};
     // Going from window to window would miss those after one that ends meanwhile.
     const auto take = [](HWND window, LPARAM to) -> BOOL {
         auto& [own, windows] = *reinterpret_cast<std::pair<DWORD, std::vector<HWND>>*>(to);
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        if (owner == own && IsWindowVisible(window)) windows.push_back(window);
+        if (ProcessOf(window) == own && IsWindowVisible(window)) windows.push_back(window);
         return TRUE;
     };
     EnumWindows(take, reinterpret_cast<LPARAM>(&found));
     return found.second;
-=======
-    std::vector<HWND> windows;
-    const DWORD own = GetProcessId(process.get());
-    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
-        if (ProcessOf(window) == own && IsWindowVisible(window)) windows.push_back(window);
-    }
-    return windows;
->>>>>>> 5246c5b3d1fdcc60453001443db23f01d27c3ce6
 }
 
 HWND ProgramRun::FindWindowNow(const std::wstring& className) const {

@@ -28,11 +28,8 @@ std::wstring SpokenName(HWND control);
 std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);
 
-<<<<<<< HEAD
-=======
 // Where a window is on the screen, its middle, and the mouse put there.
 RECT AreaOf(HWND window);
->>>>>>> 5246c5b3d1fdcc60453001443db23f01d27c3ce6
 POINT MiddleOf(HWND window);
 void MoveMouseTo(HWND window);
 // A click at a place of the screen, where the mouse need not have come to rest.
