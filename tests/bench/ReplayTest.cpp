@@ -1,11 +1,9 @@
 #include "bench/Replay.h"
 
+#include "tests/base/Rows.h"
 #include "tests/games/RealGames.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
-#include <sstream>
 
 namespace {
 
@@ -17,8 +15,7 @@ std::vector<std::vector<std::string>> PublishedGames() {
         for (std::string line; std::getline(file, line);) {
             if (line.starts_with("[Event \"")) games.emplace_back();
             if (line.starts_with('[')) continue;
-            std::istringstream words(line);
-            for (std::string word; words >> word;) {
+            for (std::string word : Words(line)) {
                 word.erase(0, word.find('.') + 1);
                 if (!word.empty()) games.back().push_back(word.substr(0, word.find_last_not_of("+#") + 1));
             }

@@ -3,10 +3,6 @@
 #include "base/RunTimeError.h"
 #include "tests/base/Rows.h"
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-
 namespace {
 
 struct FakeTimer : modClock::Timer {
@@ -23,7 +19,7 @@ struct FakeTimer : modClock::Timer {
 std::string Played(const std::string& row) {
     FakeTimer timer;
     modClock::Clock clock(timer);
-    std::istringstream numbers(row.substr(0, row.find(':'))), words(row.substr(row.find(':') + 1));
+    std::istringstream numbers(row.substr(0, row.find(':')));
     std::string direction;
     int32_t first = 0, second = 0, bonus = 0, moves = 40;
     numbers >> direction >> first >> second >> bonus >> moves;
@@ -35,33 +31,24 @@ std::string Played(const std::string& row) {
     control.MoveBonus.fill(bonus);
     clock.InitialiseClock(control);
     std::string said;
-    for (std::string word; words >> word;) try {
+    for (const std::string& word : Words(row.substr(row.find(':') + 1))) try {
             const size_t sign = word.find('=');
             const int32_t number = sign == std::string::npos ? 0 : std::stoi(word.substr(sign + 1));
             modClock::ClockState state = clock.State();
             const std::string what = word.substr(0, sign);
-            if (what == "press") {
-                if (clock.PressClock(clock.TurnSide()) != modClock::PressOutcome::Counted) said += ", refused";
-            } else if (what == "pause") {
-                clock.PauseClock();
-            } else if (what == "resume") {
-                said += clock.ResumeClock() ? "" : ", refused";
-            } else if (what == "handle") {
-                timer.Handle = number;
-            } else if (word.ends_with('s')) {
-                for (int left = std::stoi(word); left > 0; --left)
-                    if (clock.ClockTick() == modClock::TickOutcome::FlagFell) said += ", flag";
-            } else {
-                if (what == "limit") state.Control.PeriodLimit.fill(number);
-                if (what == "time") state.PlayerTime[White] = number;
-                if (what == "white") state.MoveCount[White] = number;
-                if (what == "black") state.MoveCount[Black] = number;
-                if (what == "second") {
-                    state.Control.SecondPeriodEnabled = true;
-                    state.SecondPeriodArmed.fill(true);
-                }
-                clock.Restore(state);
-            }
+            if (what == "press" && clock.PressClock(clock.TurnSide()) != modClock::PressOutcome::Counted)
+                said += ", refused";
+            if (what == "pause") clock.PauseClock();
+            if (what == "resume" && !clock.ResumeClock()) said += ", refused";
+            for (int left = isdigit(word[0]) ? std::stoi(word) : 0; left > 0; --left)
+                if (clock.ClockTick() == modClock::TickOutcome::FlagFell) said += ", flag";
+            if (what == "handle") timer.Handle = number;
+            if (what == "limit") state.Control.PeriodLimit.fill(number);
+            if (what == "time") state.PlayerTime[White] = number;
+            if (what == "white") state.MoveCount[White] = number;
+            if (what == "black") state.MoveCount[Black] = number;
+            if (what == "second") state.Control.SecondPeriodEnabled = true, state.SecondPeriodArmed.fill(true);
+            if (sign != std::string::npos && what != "handle") clock.Restore(state);
         } catch (const RunTimeError&) {
             said += ", overflow";
         }

@@ -1,7 +1,5 @@
 #include "games/Cgn.h"
 
-#include "tests/base/DamageText.h"
-#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
 namespace {
@@ -36,22 +34,21 @@ std::string Read(const std::string& given) {
 
 TEST(CgnTest, MovetextIsReadAndWritten) {
     ExpectRows(Read, R"(
-        W: * =>  / | B: 1. e2-e4 1... e7-e5 2. g1-f3 * => 1. e2-e4|2. g1-f3 / e7-e5
-        B: 1. e4 1... _ 2. _ * => 1. e4|2. _ / 1. _ | W: 1... e5 2... d5 * =>  / e5|d5
+        W: * =>  / | B: 1. e2-e4 1... e7-e5 2. g1-f3 * => 1. e2-e4|2. g1-f3 / e7-e5 | W: 1... e5 2... d5 * =>  / e5|d5
+        B: 1. e4 1... _ 2. _ * => 1. e4|2. _ / 1. _
         The result goes to the side to move, or to the one that has mated.
-        B: 1. e4 1... e5 2. Nf3 1/2-1/2 => 1. e4|2. Nf3 / e5|[1/2-1/2]
-        W: 1. e4 1... e5 2. Nf3 1/2-1/2 => 1. e4|2. Nf3|[1/2-1/2] / e5
+        B: 1. e4 1... e5 2. Nf3 1/2-1/2 => 1. e4|2. Nf3 / e5|[1/2-1/2] | B: 1. e4# 1... _ 1-0 => 1. e4#|[1-0] / 1. _
+        W: 1. e4 1... e5 2. Nf3 1/2-1/2 => 1. e4|2. Nf3|[1/2-1/2] / e5 | B: 1-0 =>  / [1-0]
         W: 1. f3 1... e5 2. g4 2... Qh4# 0-1 => 1. f3|2. g4 / e5|Qh4#|[0-1]
-        B: 1. e4# 1... _ 1-0 => 1. e4#|[1-0] / 1. _ | B: 1-0 =>  / [1-0]
         Read, but never written so.
         W: 1. 1-0 1... 0-1 * => 1. 1-0 / 0-1 | B: 1. e4 1/ => 1. e4 / [1/2-1/2] = 1. e4 1/2-1/2
         B: 1. e4 0- => 1. e4 / [0-1] = 1. e4 0-1 | W: ~1. e4~1... e5 *~ => 1. e4 / e5 = 1. e4 1... e5 *
         B: {opening} 1. e4 * => 1. e4 /  = 1. e4 *
         Damaged.
         W: => EndsEarly 0 | W: x => UnexpectedText 0 | W: 1. e4 1... => EndsEarly 10 | W: 1. e4 => EndsEarly 5
-        W: 1. e4 e5 * => UnexpectedText 6 | W: 1. e4 1.. e5 * => UnexpectedText 6
-        W: 1. e4 99999999999999999999. e5 * => UnexpectedText 6 | W: 1. e4 3. e5 * => WrongNumber 6
-        W: 1. e4 1... e5 1... e5 * => WrongNumber 14 | W: 1. e4 1-0 2. d4 * => UnexpectedText 10
+        W: 1. e4 e5 * => UnexpectedText 6 | W: 1. e4 1.. e5 * => UnexpectedText 6 | W: 1. e4 3. e5 * => WrongNumber 6
+        W: 1. e4 99999999999999999999. e5 * => UnexpectedText 6 | W: 1. e4 1... e5 1... e5 * => WrongNumber 14
+        W: 1. e4 1-0 2. d4 * => UnexpectedText 10
     )");
     MoveLists lists;
     EXPECT_EQ(DecodeCgn("1. e4 *", White, lists), (GameFileError{MovesFile, Damage::NoHead, 7}));

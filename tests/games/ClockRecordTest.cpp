@@ -1,23 +1,13 @@
 #include "games/ClockRecord.h"
 
-#include "settings/SlotRecord.h"
-#include "tests/base/DamageText.h"
-#include "tests/base/Rows.h"
 #include "tests/settings/SettingsText.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
 // A game of two plies under way, with a value of its own in every field that may have one. Its fields begin at slot 4.
 ClockRecord UnderWay() {
-    ClockRecord saved{Settings(), modClock::ClockState(), Black, true};
+    ClockRecord saved{Unusual(), modClock::ClockState(), Black, true};
     saved.Options.PlayerNames = {"A\xF1", ""};
-    saved.Options.TurnClock = saved.Options.WritePgn = true;
-    saved.Options.ShowMoveNumber = false;
-    saved.Options.SetClockType(2);
-    saved.Options.SetButtonSound(3);
-    saved.Options.SetFlagSound(5);
     saved.Clock.Control = {{90, 1200}, {0, 61}, {7, 0}, true, true, 30};
     saved.Clock.PlayerTime = {59, 1000};
     saved.Clock.SecondPeriodDue = {false, true};
@@ -61,17 +51,16 @@ std::string Read(const std::string& given) {
 TEST(ClockRecordTest, EverythingComesBackButTheLanguage) {
     const std::string bytes = EncodeClockRecord(UnderWay());
     SlotRecord wanted =
-        Changed({}, "0=2 1=65. 2=241. 3=0 4=1.5 5=20. 6=0. 8=7 9=0 13=2 15=29 16=3 17=5 18=59 19=1000 22=2 23=1", 0);
+        Changed({}, "0=2 1=65. 2=241. 3=0 4=1.5 5=20. 6=0. 8=7 9=0 13=2 15=29 16=4 17=5 18=59 19=1000 22=2 23=1", 0);
     wanted[7] = 61 / 60.0;
-    for (const size_t slot : {10, 11, 14, 21, 25, 26, 27, 28, 30}) wanted[slot] = true;
-    for (const size_t slot : {12, 20, 24, 29}) wanted[slot] = false;
+    for (const size_t slot : {10, 11, 21, 25, 26, 27, 28, 30}) wanted[slot] = true;
+    for (const size_t slot : {12, 14, 20, 24, 29}) wanted[slot] = false;
     EXPECT_EQ(DecodeRecord(Bytes(bytes)).Slots, wanted);
-    Settings present;
-    present.LanguageIndex = French;
+    const Settings present;
     ClockRecord read;
     ASSERT_FALSE(DecodeClockRecord(Bytes(WithOldTail(bytes, std::string(20000, 'x'))), present, read));
     EXPECT_EQ(EncodeClockRecord(read), bytes);
-    EXPECT_EQ(SettingsText(read.Options), "A\xF1/ 90,1200 0,61 7,0 down second turn open pgn 2:30 TYPEWRITER TADA 3");
+    EXPECT_EQ(SettingsText(read.Options), "A\xF1/ 90,1200 0,61 7,0 down second turn pgn 2:30 TRAK TADA 2");
     EXPECT_EQ(WithOldTail("abc", "12345") + WithOldTail("abc", "12"), "abc45abc");
 
     ClockRecord saved = UnderWay();

@@ -1,20 +1,14 @@
 #include "games/Diagram.h"
 
-#include "tests/base/DamageText.h"
-#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
 namespace {
 
 const std::string Initial =
-    "BR  BN  BB  BQ  BK  BB  BN  BR  \r\n"
-    "BP  BP  BP  BP  BP  BP  BP  BP  \r\n"
-    "--  --  --  --  --  --  --  --  \r\n"
-    "--  --  --  --  --  --  --  --  \r\n"
-    "--  --  --  --  --  --  --  --  \r\n"
-    "--  --  --  --  --  --  --  --  \r\n"
-    "WP  WP  WP  WP  WP  WP  WP  WP  \r\n"
-    "WR  WN  WB  WQ  WK  WB  WN  WR  \r\n";
+    "BR  BN  BB  BQ  BK  BB  BN  BR  \r\nBP  BP  BP  BP  BP  BP  BP  BP  \r\n"
+    "--  --  --  --  --  --  --  --  \r\n--  --  --  --  --  --  --  --  \r\n"
+    "--  --  --  --  --  --  --  --  \r\n--  --  --  --  --  --  --  --  \r\n"
+    "WP  WP  WP  WP  WP  WP  WP  WP  \r\nWR  WN  WB  WQ  WK  WB  WN  WR  \r\n";
 
 // The piece on h1 after a text, "~" for a line end, has been put into the initial diagram, "place length text"; or the
 // damage.

@@ -1,10 +1,7 @@
 #include "games/GameCodec.h"
 
-#include "tests/base/DamageText.h"
 #include "tests/games/RealGames.h"
 #include "tests/recorder/RecordText.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -47,15 +44,15 @@ TEST(GameCodecTest, PlayGoesOnAsIfTheGameHadNotBeenSaved) {
         games.push_back({script, script, {}});
     for (const RealGame& game : games) {
         SCOPED_TRACE(game.Name);
-        std::istringstream words(game.Moves);
         Recorder played, reloaded;
         bool pgn = false;
-        for (std::string word; words >> word; pgn = !pgn) {
+        for (const std::string& word : Words(game.Moves)) {
             Do(played, word);
             Do(reloaded, word);
             SavedGame loaded;
             const std::string asked = Load(Saved(&reloaded, pgn), loaded);
             ASSERT_EQ(asked, pgn ? ".bin.txt.cgn.pgn" : ".bin.txt.cgn");
+            pgn = !pgn;
             reloaded = loaded.Scorlet;
             ASSERT_EQ(Saved(&reloaded), Saved(&played)) << word;
         }

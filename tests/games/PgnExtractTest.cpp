@@ -1,9 +1,6 @@
-#include "base/AsciiCase.h"
 #include "games/GameCodec.h"
 #include "tests/games/RealGames.h"
 #include "tests/recorder/RecordText.h"
-
-#include <gtest/gtest.h>
 
 #include <stdlib.h>
 

@@ -1,35 +1,25 @@
 #include "games/Pgn.h"
 
-#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
 
 namespace {
 
-// The result and the text that a script of play is written as; a recorder that is given the text writes the same.
+// The result and the text that a script of play is written as.
 std::string Written(const std::string& script) {
     const GameHead names{{2024, 12, 31}, {"A", "B"}};
-    const std::string head =
-        "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"2024-12-31\"]\r\n[Round \"\"]\r\n"
-        "[White \"A\"]\r\n[Black \"B\"]\r\n[Result \"";
     const Recorder played = Played(script);
-    const std::string file = EncodePgn(names, played);
-    EXPECT_EQ(file.substr(0, head.size()), head);
+    const std::string file = EncodePgn(names, played), result(ResultToken(played.Lists()));
+    const size_t head = EncodeHead(names, result).size();
     std::string text;
     EXPECT_FALSE(DecodePgn(file, text));
-    Recorder restored;
-    restored.Restore(played.Position(), played.Lists(), played.SideToMove(), text);
-    EXPECT_EQ(EncodePgn(names, restored), file);
-    for (const auto& [length, damage] : {std::pair<size_t, Damage>{0, Damage::NoHead},
-                                         {head.size() + 5, Damage::NoHead},
-                                         {file.size() - 2, Damage::EndsEarly},
-                                         {file.size() - 1, Damage::EndsEarly}}) {
+    EXPECT_EQ(file, EncodeHead(names, result) + "\r\n" + text + "\r\n");
+    for (const size_t length : {size_t{0}, head - 1, file.size() - 2, file.size() - 1}) {
         std::string kept = "kept";
+        const Damage damage = length < head ? Damage::NoHead : Damage::EndsEarly;
         EXPECT_EQ(DecodePgn(file.substr(0, length), kept),
                   (GameFileError{PgnFile, damage, static_cast<int32_t>(length)}));
         EXPECT_EQ(kept, "kept");
     }
-    const std::string result = file.substr(head.size(), file.find('"', head.size()) - head.size());
-    EXPECT_EQ(file, head + result + "\"]\r\n\r\n" + text + "\r\n");
     return result + ": " + text;
 }
 

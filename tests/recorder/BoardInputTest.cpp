@@ -1,9 +1,6 @@
 #include "recorder/BoardInput.h"
 
-#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -14,21 +11,15 @@ std::string Shown(const std::string& script) {
     Recorder recorder;
     BoardInput input(recorder);
     std::string written;
-    std::istringstream words(script);
-    for (std::string word; words >> word;) {
+    for (const std::string& word : Words(script)) {
         std::optional<ChosenLine> line;
-        if (word == "next")
-            input.PickNextCaptured();
-        else if (word == "esc")
-            input.Cancel();
-        else if (word == "reset")
-            input.Reset();
-        else if (const size_t comma = word.find(','); comma != std::string::npos)
-            input.MoveCursor(std::stoi(word), std::stoi(word.substr(comma + 1)));
-        else if (word.size() == 3)
-            input.ClickCaptured(*PieceOfCode(word.substr(0, 2)), word[2] - '0');
-        else
-            line = input.Click(SquareNamed(word));
+        const size_t comma = word.find(',');
+        if (word == "next") input.PickNextCaptured();
+        if (word == "esc") input.Cancel();
+        if (word == "reset") input.Reset();
+        if (comma != std::string::npos) input.MoveCursor(std::stoi(word), std::stoi(word.substr(comma + 1)));
+        if (const auto piece = PieceOfCode(word.substr(0, 2))) input.ClickCaptured(*piece, word[2] - '0');
+        if (word.size() == 2) line = input.Click(SquareNamed(word));
         written = line ? recorder.List(line->List).Line(line->Index, line->List) : "";
     }
     std::string text;

@@ -1,9 +1,6 @@
 #include "recorder/Board.h"
 
-#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -2,17 +2,16 @@
 
 #include "base/AsciiCase.h"
 #include "recorder/Recorder.h"
+#include "tests/base/Rows.h"
 
 #include <algorithm>
-#include <sstream>
-#include <string>
 
 // A position of pieces, "WKe1 BRh8".
 inline Board Position(const std::string& pieces) {
     Board board;
     for (int index = 11; index <= 88; ++index) board.Put(Square{index}, Piece::Empty);
-    std::istringstream words(pieces);
-    for (std::string word; words >> word;) board.Put(SquareNamed(word.substr(2)), *PieceOfCode(word.substr(0, 2)));
+    for (const std::string& word : Words(pieces))
+        board.Put(SquareNamed(word.substr(2)), *PieceOfCode(word.substr(0, 2)));
     return board;
 }
 
@@ -64,9 +63,9 @@ inline std::string ListText(const MoveLists& lists) {
 inline std::string Do(Recorder& recorder, const std::string& script) {
     const std::array<std::string, 4> declarations{"check", "mate", "resign", "draw"};
     std::array<std::optional<size_t>, 2> lines;
-    std::istringstream words(script);
-    for (std::string word; words >> word;) {
+    for (const std::string& word : Words(script)) {
         const size_t sign = word.find_first_of("=@"), number = word.find_first_of("0123456789"), comma = word.find(',');
+        const char mark = sign == std::string::npos ? ' ' : word[sign];
         const Side ofFirst = word.front() == 'W' ? White : Black, ofLast = word.back() == 'W' ? White : Black;
         const std::string name = word.substr(0, number), end = word.substr(sign + 1);
         const auto declared = std::ranges::find(declarations, name);
@@ -76,24 +75,17 @@ inline std::string Do(Recorder& recorder, const std::string& script) {
         lines = {};
         if (declared != declarations.end())
             lines = recorder.Declare(static_cast<Declaration>(declared - declarations.begin()), counts);
-        else if (name == "top")
-            lines = recorder.TopUpMoveLists(counts);
-        else if (word == "reset")
-            recorder.Reset();
-        else if (word.starts_with("flag"))
-            recorder.FlagFell(ofLast);
-        else if (word.starts_with("delete"))
-            recorder.DeleteLast(ofLast);
-        else if (word.starts_with("press") || word == "first")
-            line = recorder.AddLineForPress(word == "first", word == "first" ? White : ofLast);
-        else if (sign == 0)
-            recorder.Promote(KindOfLetter(word[1]));
-        else if (sign == std::string::npos)
+        if (name == "top") lines = recorder.TopUpMoveLists(counts);
+        if (word == "reset") recorder.Reset();
+        if (word.starts_with("flag")) recorder.FlagFell(ofLast);
+        if (word.starts_with("delete")) recorder.DeleteLast(ofLast);
+        if (word == "first") line = recorder.AddLineForPress(true, White);
+        if (word.starts_with("press")) line = recorder.AddLineForPress(false, ofLast);
+        if (sign == 0) recorder.Promote(KindOfLetter(word[1]));
+        if (number == 1 && mark == ' ')
             line = recorder.Play(SquareNamed(word.substr(0, 2)), SquareNamed(word.substr(2, 2)));
-        else if (word[sign] == '=')
-            recorder.Edit(ofFirst, std::stoul(word.substr(1)), end);
-        else
-            recorder.PutBack(*PieceOfCode(word.substr(0, 2)), word[2] - '0', SquareNamed(end));
+        if (number == 1 && mark == '=') recorder.Edit(ofFirst, std::stoul(word.substr(1)), end);
+        if (mark == '@') recorder.PutBack(*PieceOfCode(word.substr(0, 2)), word[2] - '0', SquareNamed(end));
         if (line) lines[line->List] = line->Index;
         if (number == 1 && word.size() == 5) recorder.Promote(KindOfLetter(AsciiUpper(word[4])));
     }

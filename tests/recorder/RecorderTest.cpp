@@ -1,9 +1,6 @@
 #include "recorder/Recorder.h"
 
-#include "tests/base/Rows.h"
 #include "tests/recorder/RecordText.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -29,25 +26,22 @@ TEST(RecorderTest, Scripts) {
         e2e4 mate b7b5 reset =>  / ; <> White
         A press gives the side that then runs its line.
         first => 1. _ / ; <> White at W0 | first first => 1. _ / ; <> White | first pressB => 1. _ / ; <> White
-        first e2e4 pressB => 1. e4 / 1. _; <1. e4 > Black at B0
+        first e2e4 pressB => 1. e4 / 1. _; <1. e4 > Black at B0 | flagW first => [0-1] / ; 0-1<> White
         first e2e4 pressB pressB => 1. e4 / 1. _; <1. e4 > Black
         e2e4 e7e5 pressW => 1. e4|2. _ / e5; 1. e4 <e5 > White at W1
-        e2e4 e7e5 draw pressB => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White | flagW first => [0-1] / ; 0-1<> White
+        e2e4 e7e5 draw pressB => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White
         Missing lines: up to the counts, White's up to Black's, before a result.
-        top3,2 => 1. _|2. _|3. _ / 1. _|2. _; <> White at W2 B1
-        top3,2 e2e4 e7e5 => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0
-        e2e4 e7e5 top1,1 => 1. e4 / e5; 1. e4 <e5 > White
+        top3,2 => 1. _|2. _|3. _ / 1. _|2. _; <> White at W2 B1 | e2e4 e7e5 top1,1 => 1. e4 / e5; 1. e4 <e5 > White
+        top3,2 e2e4 e7e5 => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0 | top0,1 top0,-1 => 1. _ / 1. _; <> White
         e2e4 e7e5 resign top2,3 => 1. e4|2. _|3. _|[0-1] / e5|2. _|3. _; 1. e4 e5 0-1<> White at W2 B2
-        top0,1 top0,-1 => 1. _ / 1. _; <> White
         Declarations mark the last move and end the game, once.
         check mate =>  / ; <> White | e2e4 check check => 1. e4+ / ; <1. e4+ > Black
-        e2e4 check mate mate => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
-        e2e4 mate check draw => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black
+        e2e4 check mate mate => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black | flagW => [0-1] / ; 0-1<> White
+        e2e4 mate check draw => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black | e2e4 flagB => 1. e4 / [1-0]; 1. e4 1-0<> Black
         e2e4 e7e5 mate => 1. e4 / e5#|[0-1]; 1. e4 e5# 0-1<> White
         e2e4 mate e7e5 => 1. e4# / e5; 1. e4# <e5 > White at B0 | e2e4 draw e7e5 => 1. e4 / e5; 1. e4 <e5 > White at B0
         e2e4 resign2,1 => 1. e4|2. _ / 1. _|[1-0]; 1. e4 1-0<> Black at W1 B0
-        e2e4 e7e5 draw2,1 => 1. e4|2. _|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White at W1 | flagW => [0-1] / ; 0-1<> White
-        e2e4 flagB => 1. e4 / [1-0]; 1. e4 1-0<> Black
+        e2e4 e7e5 draw2,1 => 1. e4|2. _|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> White at W1
         Lines that wait before a result are filled, and it stays; so it does after a flag has fallen.
         e2e4 resign2,2 e7e5 => 1. e4|2. _ / e5|2. _|[1-0]; 1. e4 e5 1-0<> White at B0
         e2e4 draw2,2 e7e5 g1f3 => 1. e4|2. Nf3 / e5|2. _|[1/2-1/2]; 1. e4 e5 2. Nf3 1/2-1/2<> Black at W1
@@ -77,15 +71,13 @@ TEST(RecorderTest, Scripts) {
         Edits and deletions reach the text, and the board keeps no history.
         e2e4 e7e5 g1f3 B0=0-0 => 1. e4|2. Nf3 / O-O; 1. e4 O-O <2. Nf3 > Black
         e2e4 e7e5 g1f3 B0= => 1. e4|2. Nf3 / 1. _; 1. e4 _ <2. Nf3 > Black
-        e2e4 e7e5 W1=Nf3 => 1. e4 / e5; 1. e4 <e5 > White
-        e2e4 e7e5 g1f3 W0=1-0 => 1. 1-0|2. Nf3 / e5; 1. 1-0 e5 <2. Nf3 > Black
-        e2e4 e7e5 g1f3 W1=1/2-1/2 => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> Black
-        e2e4 e7e5 draw W1=1-0 => 1. e4|[1-0] / e5; 1. e4 e5 1-0<> White
+        e2e4 e7e5 W1=Nf3 => 1. e4 / e5; 1. e4 <e5 > White | top1,0 W0=e4 => 1. e4 / ; <1. e4 > Black
+        e2e4 e7e5 g1f3 W0=1-0 => 1. 1-0|2. Nf3 / e5; 1. 1-0 e5 <2. Nf3 > Black | top1,0 W0=1-0 => [1-0] / ; 1-0<> White
+        e2e4 e7e5 g1f3 W1=1/2-1/2 => 1. e4|[1/2-1/2] / e5; 1. e4 e5 1/2-1/2<> Black | top1,0 W0= => 1. _ / ; <> White
+        e2e4 e7e5 draw W1=1-0 => 1. e4|[1-0] / e5; 1. e4 e5 1-0<> White | top1,1 B0=c5 => 1. _ / c5; 1. _ <c5 > White
         e2e4 e7e5 draw B0=1-0 => 1. e4|[1/2-1/2] / 1-0; 1. e4 1-0 1/2-1/2<> White
-        e2e4 e7e5 draw W1=nc3 => 1. e4|2. Nc3 / e5; 1. e4 e5 <2. Nc3 > White | top1,0 W0=e4 => 1. e4 / ; <1. e4 > Black
-        top1,0 W0=1-0 => [1-0] / ; 1-0<> White | top1,0 W0= => 1. _ / ; <> White
-        e2e4 top1,1 B0=c5 => 1. e4 / c5; 1. e4 <c5 > White | top1,1 B0=c5 => 1. _ / c5; 1. _ <c5 > White
-        e2e4 e7e5 g1f3 deleteW => 1. e4 / e5; 1. e4 <e5 > Black
+        e2e4 e7e5 draw W1=nc3 => 1. e4|2. Nc3 / e5; 1. e4 e5 <2. Nc3 > White
+        e2e4 top1,1 B0=c5 => 1. e4 / c5; 1. e4 <c5 > White | e2e4 e7e5 g1f3 deleteW => 1. e4 / e5; 1. e4 <e5 > Black
         e2e4 e7e5 g1f3 deleteW d7d6 b1c3 => 1. e4|2. Nc3 / e5|d6; 1. e4 e5 2. Nc3 <d6 > Black at W1
         e2e4 e7e5 deleteW =>  / e5; <1... e5 > White | e2e4 e7e5 deleteW deleteW deleteB deleteB =>  / ; <> White
         e2d7 c8d7 BP0@e2 => 1. exd7 / Bxd7; 1. exd7 <Bxd7 > White x WP0

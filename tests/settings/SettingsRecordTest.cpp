@@ -1,28 +1,11 @@
 #include "settings/SettingsRecord.h"
 
 #include "base/RunTimeError.h"
-#include "tests/base/DamageText.h"
-#include "tests/base/Rows.h"
 #include "tests/settings/SettingsText.h"
 
-#include <gtest/gtest.h>
-
-#include <set>
+#include <algorithm>
 
 namespace {
-
-Settings Unusual() {
-    Settings settings;
-    settings.PlayerNames = {"Ann", "B"};
-    settings.Control = {{60, 10800}, {0, 600}, {3599, 7}, false, true, 1};
-    settings.TurnClock = settings.WritePgn = true;
-    settings.ShowMoveNumber = settings.OpenScorletAtStart = false;
-    settings.ClockType = 2;
-    settings.SetButtonSound(4);
-    settings.SetFlagSound(5);
-    settings.LanguageIndex = French;
-    return settings;
-}
 
 // The first of the DEFAULT settings that differs from the unusual ones after their record has been read with some
 // changes, and the damage before it.
@@ -33,12 +16,10 @@ std::string Read(const std::string& changes) {
     Settings read;
     const auto error = DecodeSettings({record, cut}, read);
     read.LanguageIndex = DecodeLanguage(record);
-    std::istringstream usual(SettingsText(Unusual())), words(SettingsText(read));
-    const std::set<std::string> known{std::istream_iterator<std::string>(usual), {}};
-    std::string text = error ? DamageText(error->What, error->Slot) + " " : "", word;
-    while (words >> word) {
-        if (!known.contains(word)) return text + word;
-    }
+    const std::vector<std::string> usual = Words(SettingsText(Unusual()));
+    const std::string text = error ? DamageText(error->What, error->Slot) + " " : "";
+    for (const std::string& word : Words(SettingsText(read)))
+        if (std::ranges::find(usual, word) == usual.end()) return text + word;
     return text;
 }
 
@@ -46,21 +27,18 @@ std::string Read(const std::string& changes) {
 
 TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
     ExpectRows(Read, R"(
-        => | bonus0=30.5 => 30,7 | bonus0=31.5 => 32,7 | down=1 => down | number=-1 => number
-        type=- => 0:1 | type=7 => 7:1 | open=1 => open | button=0 => NOSOUND | flag=0 => NOSOUND
-        moves=2147483645 => 2:2147483646
-        first0=35791394 => 2147483640,10800 | 300=- => 2 | 300=1.0 => 1 | 300=7 => 7
-        0=-1 => OutOfRange 0 / | 0=285 => OutOfRange 0 / | 1=256 => OutOfRange 1 / | 1=-1 => OutOfRange 1 /
-        1=0 => OutOfRange 1 / | 5=31 => OutOfRange 5 Ann/ | 3=127 => OutOfRange 3 / | 5=32 => Ann/ | 5=126 => Ann/~
-        4=282 => OutOfRange 4 Ann/ | first0=0 => OutOfRange 6 1200,1200 | first1=35791395 => Overflow 7 60,1200
-        second0=-1 => OutOfRange 8 1200,1200 | first0=1.5 => OutOfRange 6 1200,1200 | second1=0.5 => OutOfRange 9 0,1200
-        bonus1=-1 => OutOfRange 11 3599,0
+        => | bonus0=30.5 => 30,7 | bonus0=31.5 => 32,7 | down=1 => down | number=-1 => number | type=- => 0:1
+        type=7 => 7:1 | open=1 => open | button=0 => NOSOUND | flag=0 => NOSOUND | moves=2147483645 => 2:2147483646
+        first0=35791394 => 2147483640,10800 | 300=- => 2 | 300=1.0 => 1 | 300=7 => 7 | 0=-1 => OutOfRange 0 /
+        0=285 => OutOfRange 0 / | 1=256 => OutOfRange 1 / | 1=-1 => OutOfRange 1 / | 1=0 => OutOfRange 1 /
+        5=31 => OutOfRange 5 Ann/ | 3=127 => OutOfRange 3 / | 5=32 => Ann/ | 5=126 => Ann/~ | 4=282 => OutOfRange 4 Ann/
+        first0=0 => OutOfRange 6 1200,1200 | first1=35791395 => Overflow 7 60,1200 | second1=0.5 => OutOfRange 9 0,1200
+        second0=-1 => OutOfRange 8 1200,1200 | first0=1.5 => OutOfRange 6 1200,1200 | bonus1=-1 => OutOfRange 11 3599,0
         bonus1=99999999999. => Overflow 11 3599,0 | bonus1=-99999999999. => Overflow 11 3599,0
         bonus1=nan => OutOfRange 11 3599,0 | moves=-1 => OutOfRange 17 2:40 | moves=2147483646 => OutOfRange 17 2:40
-        button=5 => OutOfRange 18 BUTTONPUSHED | button=-1 => OutOfRange 18 BUTTONPUSHED
-        flag=6 => OutOfRange 19 PIECEMOVED | 300=nan => OutOfRange 300 2 | 300=inf => Overflow 300 2
-        300=99999999999. => Overflow 300 2 | 301=99999999999. => Overflow 301 | cut 18 => ShortFile 18 BUTTONPUSHED
-        cut 900 => ShortFile 900
+        button=5 => OutOfRange 18 BUTTONPUSHED | button=-1 => OutOfRange 18 BUTTONPUSHED | 300=nan => OutOfRange 300 2
+        flag=6 => OutOfRange 19 PIECEMOVED | 300=inf => Overflow 300 2 | 300=99999999999. => Overflow 300 2
+        301=99999999999. => Overflow 301 | cut 18 => ShortFile 18 BUTTONPUSHED | cut 900 => ShortFile 900
     )");
     EXPECT_EQ(EncodeSettings(Unusual()),
               Changed({},

@@ -2,10 +2,23 @@
 
 #include "settings/Settings.h"
 #include "settings/SlotRecord.h"
+#include "tests/base/Rows.h"
 
 #include <span>
-#include <sstream>
-#include <string>
+
+// Settings with a value of its own in every field.
+inline Settings Unusual() {
+    Settings settings;
+    settings.PlayerNames = {"Ann", "B"};
+    settings.Control = {{60, 10800}, {0, 600}, {3599, 7}, false, true, 1};
+    settings.TurnClock = settings.WritePgn = true;
+    settings.ShowMoveNumber = settings.OpenScorletAtStart = false;
+    settings.ClockType = 2;
+    settings.SetButtonSound(4);
+    settings.SetFlagSound(5);
+    settings.LanguageIndex = French;
+    return settings;
+}
 
 // All settings: the names, the times, the options that are on, the type and its moves, the sounds, the language.
 inline std::string SettingsText(const Settings& settings) {
@@ -26,8 +39,7 @@ inline std::string SettingsText(const Settings& settings) {
 // A record with some fields changed: "bonus0=5", a real number "second1=0.5", an empty slot "type=-", or by number
 // "300=3". `first` is the slot of the first field after the names.
 inline SlotRecord Changed(SlotRecord record, const std::string& changes, size_t first) {
-    std::istringstream words(changes);
-    for (std::string word; words >> word;) {
+    for (const std::string& word : Words(changes)) {
         const std::string name = word.substr(0, word.find('=')), value = word.substr(word.find('=') + 1);
         size_t slot = name[0] <= '9' ? std::stoul(name) : first;
         std::istringstream names(

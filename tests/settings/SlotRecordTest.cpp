@@ -2,8 +2,6 @@
 
 #include "tests/settings/SettingsText.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 TEST(SlotRecordTest, BytesAreLittleEndianTagsAndValues) {

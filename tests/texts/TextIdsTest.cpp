@@ -6,7 +6,6 @@
 #include <cctype>
 #include <map>
 #include <set>
-#include <vector>
 
 namespace {
 
@@ -24,8 +23,6 @@ const Row Rows[] = {
 #undef TEXT_ROW
 };
 
-bool Blank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
-
 size_t Count(const std::string& text, const std::string& part) {
     size_t count = 0;
     for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
@@ -34,25 +31,19 @@ size_t Count(const std::string& text, const std::string& part) {
 
 }  // namespace
 
-TEST(TextIdsTest, EveryRowHasEveryLanguage) {
-    for (const Row& row : Rows) {
-        for (const std::string& text : row.Texts) {
-            // Turkish has nothing before the name or the number where the others have words.
-            const bool mayBeBlank = &text == row.Texts && (TextId{row.Identifier} == TextId::GameBefore ||
-                                                           TextId{row.Identifier} == TextId::SecondTimeBefore);
-            EXPECT_EQ(Blank(text), mayBeBlank) << row.Name;
-            for (const char* part : {"%1", "%2", "&&", "::", "[Ctrl+"})
-                EXPECT_EQ(Count(text, part), Count(row.Texts[English - 1], part)) << row.Name << ": " << text;
-        }
-    }
-}
-
-TEST(TextIdsTest, IdentifiersAreTakenOnce) {
+TEST(TextIdsTest, EveryRowHasEveryLanguageAndIdentifiersOfItsOwn) {
     std::map<int32_t, const char*> taken;
     for (const Row& row : Rows) {
-        for (int32_t language = Turkish; language <= French; ++language) {
-            const auto [place, isNew] = taken.emplace(row.Identifier + language, row.Name);
-            EXPECT_TRUE(isNew) << row.Name << " and " << place->second << ": " << row.Identifier + language;
+        for (size_t language = 0; language < 3; ++language) {
+            const auto [place, isNew] = taken.emplace(row.Identifier + Turkish + language, row.Name);
+            EXPECT_TRUE(isNew) << row.Name << " and " << place->second;
+            // Turkish has nothing before the name or the number where the others have words.
+            const TextId id{row.Identifier};
+            const bool mayBeBlank = language == 0 && (id == TextId::GameBefore || id == TextId::SecondTimeBefore);
+            const std::string& text = row.Texts[language];
+            EXPECT_EQ(Stripped(text).empty(), mayBeBlank) << row.Name;
+            for (const char* part : {"%1", "%2", "&&", "::", "[Ctrl+"})
+                EXPECT_EQ(Count(text, part), Count(row.Texts[English - 1], part)) << row.Name << ": " << text;
         }
     }
 }
