@@ -91,7 +91,7 @@ Recorder& Game::OpenRecord(RecordView& view) {
 }
 
 void Game::CloseRecord() {
-    if (record && record->MovesWritten()) LeaveGame();
+    if (record->MovesWritten()) LeaveGame();
     record.reset();
     recordView = nullptr;
     Changed();

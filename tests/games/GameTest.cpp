@@ -235,7 +235,7 @@ TEST(GameTest, WhatIsKeptAndPutAside) {
     ExpectRows(Kept, R"(
         Soon after everything that changes the game, and every five seconds of a clock that runs.
         W => keep worth | W W => keep worth | W B => worth | W pause => keep worth | W pause pause => keep worth
-        W 4s => worth | W 5s => keep worth | W 5s 4s => worth | open W e2e4 mate => keep keep worth
+        W 4s => worth | W 5s => keep worth | W 5s 4s => worth | W 3s pause pause 3s => worth | open W e2e4 mate => keep keep worth
         open e2e4 edited => keep worth | open W W top => keep worth | open check => keep | timer=0 W => | pause =>
         A game that would be lost is put aside, a finished one too; what nobody has begun is not.
         W yes reset => aside keep | W pause start => aside keep keep worth | W 60s reset => aside keep | reset => keep

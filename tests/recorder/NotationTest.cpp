@@ -39,6 +39,7 @@ TEST(NotationTest, MovesInShortAndLongForm) {
 TEST(NotationTest, TypedMovesArePutRight) {
     EXPECT_EQ(Normalised("   ") + Normalised(" nf3 "), "_Nf3");
     ExpectRows(Normalised, R"(
+        B1 => b1 | B8 => b8 | B9 => B9
         => _ | => _ | nf3  => Nf3 | qxd5+ => Qxd5+ | Kf1 => Kf1 | 0-0 => O-O | 0-0-0 => O-O-O | o-O+ => O-O+
         o-o-o+ => O-O-O+ | 0-0-0-0 => 0-0-0-0 | 0-1 => 0-1 | 1/2-1/2 => 1/2-1/2 | B4 => b4 | b1 => b1 | B8 => b8
         B9 => B9 | b9 => b9 | bc4 => Bc4 | bH4 => Bh4 | ba1 => Ba1 | Bxc6 => Bxc6 | bxc6 => bxc6 | bb4 => Bb4 | b => b
