@@ -310,9 +310,9 @@ void Steps::AddFaults() {
     Add("no-sound", [](Words&) { Await([] { return Exists(CaptureFile()) ? "a device" : ""; }, ""); });
     // A program by its path, with its parameters: it ends with that code.
     Add("run", [](Words& words) {
-        const std::string code = words.Take();
-        const std::wstring path = Wide(words.Take());
-        const UniqueFile process = StartProgram(path, L"\"" + path + L"\" " + Wide(words.Take()));
+        const std::string code = words.Take(), path = words.Take();
+        const UniqueFile process = StartProgram(Wide(path), Wide("\"" + path + "\" " + words.Take()));
+        WaitForSingleObject(process.get(), 30000);
         Await([&] { return std::to_string(ExitCodeOf(process.get())); }, code);
     });
     Add("launch", [this](Words& words) { Launch(Wide(words.Take())); });
