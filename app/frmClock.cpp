@@ -1,6 +1,7 @@
 #include "app/frmClock.h"
 
 #include "app/ClockMenu.h"
+#include "app/ClockNotices.h"
 #include "platform/Dpi.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
@@ -34,7 +35,9 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
       scorlet(around, *this, game),
       printer(around, game),
-      kept(around, *this, game) {
+      kept(around, *this, game),
+      bringBack(
+          [this](const SavedGame& saved) { TakeGame(saved, captions(TextId::ProductTitle), saved.ScorletLoaded); }) {
     timer.Calls([this] { Tick(); });
 }
 
@@ -123,23 +126,16 @@ void frmClock::ShowFiles(FilesMode mode) {
     files.RunModal();
     if (!files.Loaded()) return;
     const std::wstring name = L"- [" + files.Loaded()->Name + texts(TextId::LoadedGame) + L"]";
-    TakeGame(files.Loaded()->Saved, texts(TextId::ProductTitle) + name);
+    TakeGame(files.Loaded()->Saved, texts(TextId::ProductTitle) + name, true);
 }
 
-void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title) {
+void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title, bool opensScorlet) {
     // First what can fail. No message may come between: the running game goes on behind one.
-    const std::wstring problem = scorlet.Open();
+    const std::wstring problem = opensScorlet ? scorlet.Open() : L"";
     game.TakeLoadedGame(saved);
     panels.ShowSettings();
     SetWindowTextW(Window(), title.c_str());
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
-}
-
-void frmClock::BringBack(const SavedGame& saved) {
-    if (saved.ScorletLoaded) return TakeGame(saved, captions(TextId::ProductTitle));
-    game.TakeLoadedGame(saved);
-    panels.ShowSettings();
-    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
 }
 
 void frmClock::PlaceWindow() {
@@ -213,23 +209,7 @@ void frmClock::PlaySound(ClockSound sound) {
     modSound::Play(sound == ClockSound::Button ? settings.ButtonSoundName : settings.FlagSoundName);
 }
 
-void frmClock::Inform(ClockEvent event) { messageBoxes.Inform(Window(), TextOf(event)); }
-
-std::wstring frmClock::TextOf(ClockEvent event) const {
-    switch (event) {
-        case ClockEvent::TimerNotKilled: return texts(TextId::TimerNotKilled);
-        case ClockEvent::TimerNotCreated: return texts(TextId::TimerNotCreated);
-        case ClockEvent::TimerNotResumed: return texts(TextId::TimerNotCreatedEnding);
-        case ClockEvent::Overflow: return texts(TextId::ClockOverflow);
-        case ClockEvent::GameNotBegun: return texts(TextId::HelpToBegin) + WaysToBegin();
-        default: return texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpThenBegin) + WaysToBegin();
-    }
-}
-
-std::wstring frmClock::WaysToBegin() const {
-    return texts(TextId::HelpPushButton) + texts(TextId::HelpSelectStart) + texts(TextId::HelpSpace) +
-           texts(TextId::HelpMouse);
-}
+void frmClock::Inform(ClockEvent event) { messageBoxes.Inform(Window(), NoticeOf(event, texts)); }
 
 // No is preselected: the key that presses the clock must not throw a game away.
 bool frmClock::AskReset() { return messageBoxes.Ask(Window(), texts(TextId::ResetQuestion), false); }
@@ -286,7 +266,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             // One after the other.
             TellProblems();
             store.SettleAll();
-            kept.Offer([this](const SavedGame& saved) { BringBack(saved); });
+            kept.Offer(bringBack);
             return 0;
         case WM_KEEPGAME:
             toKeep = false;
@@ -324,7 +304,7 @@ void frmClock::OnCommand(int id) {
         case mnuLoad: return ShowFiles(FilesMode::Load);
         case mnuSave: return ShowFiles(FilesMode::Save);
         case mnuDelete: return ShowFiles(FilesMode::Delete);
-        case mnuBringBack: return kept.BringBackLast([this](const SavedGame& saved) { BringBack(saved); });
+        case mnuBringBack: return kept.BringBackLast(bringBack);
         case mnuExit: DestroyWindow(Window()); return;
         case mnuReset: return game.AskedResetIfStarted();
         case mnuPause: return game.PauseOrResume();

@@ -46,15 +46,12 @@ class frmClock : public Form, private ClockView {
     void ShowAbout();
     void ShowHelp(HelpPage page);
     void ShowFiles(FilesMode mode);
-    void TakeGame(const SavedGame& saved, const std::wstring& title);
-    void BringBack(const SavedGame& saved);
+    void TakeGame(const SavedGame& saved, const std::wstring& title, bool opensScorlet);
     void UpdateMenu();
     void PlaceWindow();
     void ShowPhase();
     void Tick();
     void TellProblems();
-    std::wstring TextOf(ClockEvent event) const;
-    std::wstring WaysToBegin() const;
 
     void OnCommand(int id);
     void OnMouseDown(POINT point, bool rightButton);
@@ -80,8 +77,9 @@ class frmClock : public Form, private ClockView {
     ClockScorlet scorlet;
     EditorPrinter printer;
     KeptGames kept;
-    bool toKeep = false;  // WM_KEEPGAME is on its way
-    bool slept = false;   // a clock that ran was paused for it
+    const KeptGames::Take bringBack;  // a game that was kept takes the place of the present one
+    bool toKeep = false;              // WM_KEEPGAME is on its way
+    bool slept = false;               // a clock that ran was paused for it
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told

@@ -191,11 +191,13 @@ Section /o "un.$(GamesAndSettings)" GamesAndSettings
     Delete "$INSTDIR\SavedGames\*.cgn"
     Delete "$INSTDIR\SavedGames\*.pgn"
     Delete "$INSTDIR\SavedGames\*.new"
+    Delete "$INSTDIR\SavedGames\*.saving"
   ${EndIf}
   !insertmacro IsLink Data
   ${If} $0 <> 1
     Delete "$INSTDIR\Data\TORVANIX.set"
     Delete "$INSTDIR\Data\TORVANIX.set.new"
+    Delete "$INSTDIR\Data\Game*.*"
   ${EndIf}
 SectionEnd
 

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "clock/ClockCommands.h"
+#include "texts/Texts.h"
+
+// What the players are told of an event that they are to be told of.
+std::wstring NoticeOf(ClockEvent event, const Texts& texts);
