@@ -203,7 +203,8 @@ void Steps::AddInput() {
     });
     Add("start", [this](Words& words) {
         actions["settings"](words);
-        // A game that was kept would be asked about.
+        // A game that was kept would be asked about; a program that still runs would keep it again.
+        program.reset();
         DeleteFileW((folder.Path() + L"Data\\Game1.kept").c_str());
         Launch();
     });
