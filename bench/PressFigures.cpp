@@ -158,12 +158,11 @@ std::vector<double> MeasureBareControl(int count) {
 }
 
 std::vector<double> MeasureKeys(int count) {
-    const TestFolder folder;
-    WriteSettingsFile(folder.Path(), WithBonus());
-    ProgramRun program(PutProgramInto(folder));
+    const Installed installed(WithBonus());
+    ProgramRun program(installed.Path());
     program.Clock();
     Key(VK_SPACE);
-    if (!Eventually([&] { return program.Focused() == ControlOf(cmdClock, White); }))
+    if (!Eventually([&] { return program.Focused() == program.Control(cmdClock); }))
         throw std::runtime_error("the program does not take the space key");
     std::vector<double> times;
     Side running = White;

@@ -17,17 +17,6 @@ namespace {
 
 constexpr int Starts = 20, Presses = 1000, Keeps = 200, SavedGames = 5000;
 
-// A folder with the program and its settings.
-class Installed {
-  public:
-    explicit Installed(const Settings& settings) { WriteSettingsFile(folder.Path(), settings); }
-    const std::wstring& Path() const { return path; }
-
-  private:
-    TestFolder folder;
-    const std::wstring path = PutProgramInto(folder);
-};
-
 std::wstring EmptyProgram() { return BuildFolder() + L"empty_window.exe"; }
 
 void Row(const char* figure, const char* unit, double ours, double empty) {
@@ -54,7 +43,7 @@ void MeasureStart() {
 }
 
 void MeasureMemory() {
-    const Installed clock(QuietSettings()), scorlet(QuietSettings(true));
+    const Installed clock(QuietSettings()), scorlet(WithScorlet());
     const RunningProgram alone(clock.Path(), L"frmClock");
     const RunningProgram both(scorlet.Path(), L"frmClock");
     const RunningProgram empty(EmptyProgram(), L"EmptyWindow");

@@ -325,10 +325,14 @@ void Steps::AddFaults() {
         const bool whole = Eventually([&] { return (now = State()) == before || now == after; });
         if (!whole) Fail("it is neither as before nor as after:\n" + now + "\n" + before + "\n" + after);
         const auto won = SecondsLeft() - (left - passed);
+        cameBack[now == after] = true;
         if (won < -1 || won > 5) Fail(std::to_string(won) + " seconds are won");
         Do("command mnuPause / runs");
         if (now == before) Do(steps);
         Await([this] { return State(); }, after);
+    });
+    Add("both-came-back", [this](Words&) {
+        if (!cameBack[0] || !cameBack[1]) Fail("the program was always killed too early, or too late");
     });
     // Another program begins beside this one; it, or this one again, is what the next steps are done with.
     Add("another", [this](Words&) {

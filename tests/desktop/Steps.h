@@ -60,6 +60,7 @@ class Steps {
     std::unique_ptr<ProgramRun> program, other;  // that runs beside it
     std::vector<std::string> states;             // of the game, that have been noted
     size_t compared = 0;                         // of these
+    bool cameBack[2]{};                          // after a kill: the state before, the one after
     std::map<std::string, std::function<void(Words&)>> actions;
     UniqueFile held;
     Time::duration savingTime{};
