@@ -322,8 +322,7 @@ void Steps::AddFaults() {
         const auto passed = std::chrono::duration_cast<std::chrono::seconds>(Time::now() - begun).count();
         Do("ended 99 / restart / message \"A game of *\" Yes");
         std::string now;
-        const bool whole = Eventually([&] { return (now = State()) == before || now == after; });
-        if (!whole) Fail("it is neither as before nor as after:\n" + now + "\n" + before + "\n" + after);
+        Until([&] { return (now = State()) == before || now == after; }, "it is neither as before nor as after");
         const auto won = SecondsLeft() - (left - passed);
         cameBack[now == after] = true;
         if (won < -1 || won > 5) Fail(std::to_string(won) + " seconds are won");
@@ -346,18 +345,13 @@ void Steps::AddFaults() {
         for (const HWND box : boxes) PostMessageW(box, WM_COMMAND, IDYES, 0);
         Until([&] { return !IsWindow(boxes[0]) && !IsWindow(boxes[1]); }, "a question stays");
     });
-    // Tells the program so, as the system does, which does not wait longer than that for the answer.
-    Add("system", [this](Words& words) {
-        const std::map<std::string, std::pair<UINT, WPARAM>> events{
-            {"sleeps", {WM_POWERBROADCAST, PBT_APMSUSPEND}},
-            {"wakes", {WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC}},
-            {"asks-to-end", {WM_QUERYENDSESSION, 0}},
-            {"goes-on", {WM_ENDSESSION, FALSE}},
-            {"ends", {WM_ENDSESSION, TRUE}}};
-        const auto [message, event] = events.at(words.Take());
+    // A message to the clock window, its parameter, and the answer, which must come at once.
+    Add("send", [this](Words& words) {
+        const auto message = static_cast<UINT>(words.Number());
+        const auto parameter = static_cast<WPARAM>(words.Number());
         DWORD_PTR answer = 0;
-        if (!SendMessageTimeoutW(program->Clock(), message, event, 0, SMTO_NORMAL, 1000, &answer)) Fail("no answer");
-        if (message != WM_ENDSESSION && answer != TRUE) Fail("refused");
+        SendMessageTimeoutW(program->Clock(), message, parameter, 0, SMTO_NORMAL, 1000, &answer);
+        if (static_cast<int>(answer) != words.Number()) Fail("another answer");
     });
     Add("lock", [this](Words& words) {
         const std::wstring path = folder.Path() + Wide(words.Take());

@@ -251,19 +251,15 @@ std::string Steps::ValueOf(const std::string& name) const {
 
 std::string Steps::State() const {
     std::string state = Counts() + " " + ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B");
-    for (const char file : {'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h'}) {
-        for (const char rank : {'1', '2', '3', '4', '5', '6', '7', '8'})
-            state += " " + ValueOf(std::string{file, rank});
-    }
+    for (int i = 0; i < 64; ++i)
+        state += " " + ValueOf({static_cast<char>('a' + i % 8), static_cast<char>('1' + i / 8)});
     return state;
 }
 
 int Steps::SecondsLeft() const {
     int left = 0;
-    for (const char* name : {"lblFace.W", "lblFace.B"}) {
-        const std::string face = ValueOf(name);
+    for (const std::string& face : {ValueOf("lblFace.W"), ValueOf("lblFace.B")})
         left += std::stoi(face) * 3600 + std::stoi(face.substr(3)) * 60 + std::stoi(face.substr(6));
-    }
     return left;
 }
 
