@@ -19,9 +19,6 @@ Settings WithBonus() {
     return settings;
 }
 
-// Milliseconds between presses, so that the game of one press is on the disk before the next: no players are faster.
-constexpr DWORD PressInterval = 40;
-
 // Notes when a face is painted with a text other than the last one.
 struct PaintWatch {
     std::wstring Before;
@@ -86,8 +83,6 @@ std::vector<double> MeasurePresses(int count, bool keeping) {
     std::vector<double> times;
     Side running = White;
     while (times.size() < static_cast<size_t>(count)) {
-        DealWithMessages(keeping);
-        Sleep(PressInterval);
         DealWithMessages(keeping);
         PaintWatch& watch = watches[running];
         watch = {TextOf(form.Control(ControlOf(lblFace, running))), 0};
