@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr DWORD BetweenPresses = 20;  // milliseconds
+
 Settings WithBonus() {
     Settings settings = QuietSettings();
     settings.Control.MoveBonus.fill(1);
@@ -84,6 +86,8 @@ std::vector<double> MeasurePresses(int count, bool keeping) {
     Side running = White;
     while (times.size() < static_cast<size_t>(count)) {
         DealWithMessages(keeping);
+        // Players are slower than the writing of a kept game.
+        Sleep(BetweenPresses);
         PaintWatch& watch = watches[running];
         watch = {TextOf(form.Control(ControlOf(lblFace, running))), 0};
         const double start = Now();
@@ -110,6 +114,7 @@ KeepCosts MeasureKeeping(int count) {
             saved.Scorlet.Play(SquareNamed(origin), SquareNamed(destination));
     }
     saved.Clock.MoveCount.fill(MovesOfKeptGame);
+    saved.Clock.PlayerTime = saved.Clock.Control.PeriodLimit;
     saved.Clock.GameStarted = true;
     here.Played.TakeLoadedGame(saved);
     DealWithMessages(true);
