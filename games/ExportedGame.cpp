@@ -112,14 +112,13 @@ void AddRest(const GameReading& game, Lines& lines) {
     }
 }
 
-// That a mate or a stalemate makes.
+}  // namespace
+
 std::string_view ResultOf(const LegalPosition& position) {
     if (!LegalMoves(position).empty()) return "*";
     if (!InCheck(position)) return "1/2-1/2";
     return position.ToMove == White ? "0-1" : "1-0";
 }
-
-}  // namespace
 
 std::string ExportGame(const ExportHead& head, const GameReading& game, std::string_view declared,
                        const ShownTimes& shown) {

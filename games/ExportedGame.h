@@ -23,6 +23,9 @@ struct ExportHead {
     std::optional<TimeControl> Control{};
 };
 
+// The result that a mate or a stalemate makes of a position, "*" for any other.
+std::string_view ResultOf(const LegalPosition& position);
+
 // The game with its tag pairs and result, in lines of less than 80 characters that end in LF. Moves that are not beyond
 // doubt follow the others as a comment, as they are written; where there are several ways, the other one is a comment
 // after "?". A mate or stalemate makes the result where none is declared ("*"). Texts are in the code page in which the

@@ -1,3 +1,4 @@
+#include "bench/RandomGame.h"
 #include "bench/Replay.h"
 #include "games/ExportedGame.h"
 #include "games/GameCodec.h"
@@ -9,7 +10,6 @@
 
 #include <filesystem>
 #include <map>
-#include <random>
 
 // What another program makes of the games: pgn-extract, which must be installed. Its exit status is always 0, so its
 // error stream is the judge.
@@ -44,24 +44,6 @@ std::string ReadByExtract(const std::string& pgn, const std::string& option = ""
     text.append(std::istreambuf_iterator<char>(errors), {});
     std::filesystem::remove_all(folder);
     return text;
-}
-
-// A game of legal moves in words as those of the real games, of up to 120 half-moves.
-std::string RandomGame(std::mt19937& random) {
-    LegalPosition position;
-    std::string words;
-    for (auto left = random() % 120 + 1; left > 0; --left) {
-        std::vector<LegalMove> moves = LegalMoves(position, static_cast<PieceKind>(random() % 6 + 1));
-        if (moves.empty()) moves = LegalMoves(position);
-        if (moves.empty()) break;
-        const LegalMove move = moves[random() % moves.size()];
-        for (const Square square : {move.Origin, move.Destination}) words += {FileLetter(square), RankDigit(square)};
-        if (move.Promotion != PieceKind::None) words += AsciiLower(PieceLetter(move.Promotion));
-        words += ' ';
-        Carry(position, move);
-    }
-    if (!LegalMoves(position).empty()) return words + "*";
-    return words + (!InCheck(position) ? "1/2-1/2" : position.ToMove == White ? "0-1" : "1-0");
 }
 
 }  // namespace
@@ -102,8 +84,8 @@ TEST(PgnExtractTest, ExportedGamesAreReadMoveByMoveWithEveryPosition) {
     std::string exported, wanted;
     int unclear = 0;
     for (size_t number = 0; number < published.size() + 500; ++number) {
-        const std::string game =
-            number < published.size() ? published[number].Moves + published[number].Result : RandomGame(random);
+        const std::string game = number < published.size() ? published[number].Moves + published[number].Result
+                                                           : RandomGame(random, random() % 100 + 1);
         const GameFiles files = Saved(*RecordLine(game));
         const GameFileReader read = [&](GameFile file, size_t) -> std::optional<std::vector<uint8_t>> {
             return std::vector<uint8_t>(files[file]->begin(), files[file]->end());
