@@ -165,12 +165,11 @@ void frmClock::ClockChanged(const ClockChange& change) {
 void frmClock::ShowPhase() {
     const bool active = GetActiveWindow() == Window();
     const Phase phase = game.Clock().CurrentPhase();
-    if (active && phase == Phase::Fallen) {
-        // The change of focus would close an open menu and leave its name in the menu bar highlighted.
-        EndMenu();
-        // A disabled button would swallow the keys.
-        SetFocus(Window());
-    }
+    // Where the clock stops by itself, the change of focus would close an open menu and leave its name in the menu bar
+    // highlighted.
+    if (active && phase != Phase::Running) EndMenu();
+    // A disabled button would swallow the keys.
+    if (active && phase == Phase::Fallen) SetFocus(Window());
     panels.ShowPhase();
     // A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
     if (active) FocusRightfulButton();
@@ -386,7 +385,7 @@ LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wPa
             if (isClock && wParam == VK_SPACE) return 0;
             break;
         case WM_CHAR:
-            if (isClock && IsPauseKey(wParam)) return act('p');
+            if (IsPauseKey(wParam)) return act('p');
             break;
         default: break;
     }

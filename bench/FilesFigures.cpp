@@ -2,21 +2,27 @@
 
 #include "bench/RunningProgram.h"
 #include "games/GameCodec.h"
+#include "platform/Ansi.h"
 #include "tests/desktop/Desktop.h"
 
 #include <stdexcept>
 
 namespace {
 
-// A folder of games that were saved without the Scorlet: a clock file each.
+// A folder of games with all their four files.
 void FillFolder(const std::wstring& folder, int games) {
-    const Settings settings = QuietSettings();
+    Settings settings = QuietSettings();
+    settings.WritePgn = true;
     modClock::ClockState clock;
     clock.Control = settings.Control;
     clock.PlayerTime = settings.Control.PeriodLimit;
-    const std::string bytes = *EncodeGame(settings, clock, nullptr, {2024, 3, 9})[ClockFile];
+    const Recorder scorlet;
+    const GameFiles files = EncodeGame(settings, clock, &scorlet, {2024, 3, 9});
     CreateDirectoryW(folder.c_str(), nullptr);
-    for (int i = 0; i < games; ++i) WriteFileText(folder + L"game" + std::to_wstring(i) + L".bin", bytes);
+    for (int i = 0; i < games; ++i) {
+        for (GameFile file : AllGameFiles)
+            WriteFileText(folder + L"game" + std::to_wstring(i) + FromAnsi(ExtensionOf(file)), *files[file]);
+    }
 }
 
 HWND OpenFiles(ProgramRun& program, int entry) {

@@ -17,10 +17,10 @@
 namespace {
 
 const std::map<std::string, WORD> NamedKeys{
-    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},   {"Tab", VK_TAB},   {"Back", VK_BACK},
-    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},        {"Down", VK_DOWN}, {"Home", VK_HOME},
-    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},    {"F4", VK_F4},     {"F6", VK_F6},
-    {"F10", VK_F10},     {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
+    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},    {"Tab", VK_TAB},      {"Back", VK_BACK},
+    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},         {"Down", VK_DOWN},    {"Home", VK_HOME},
+    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},     {"F1", VK_F1},        {"F4", VK_F4},
+    {"F6", VK_F6},       {"F10", VK_F10},       {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
 };
 
 WORD CodeOf(const std::string& key) { return key.size() == 1 ? static_cast<WORD>(key[0]) : NamedKeys.at(key); }
@@ -40,7 +40,7 @@ std::string InOneLine(std::string text) {
     return text;
 }
 
-void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds = 10000) {
+void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds = Patience) {
     if (!Eventually(condition, milliseconds)) Fail(otherwise);
 }
 
@@ -139,6 +139,22 @@ void Steps::AddLooks() {
     Add("lists", [this](Words& words) {
         Await([this] { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }, words.Take());
     });
+    // Both lists show their last row, or their first, and the same rows.
+    const auto listsShow = [this](bool last) {
+        std::array<LRESULT, 2> tops{};
+        for (const int side : {0, 1}) {
+            const HWND list = Find(side == 0 ? "lstMoves.W" : "lstMoves.B");
+            RECT row{}, area{};
+            SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(SendMessageW(list, LB_GETCOUNT, 0, 0) - 1),
+                         reinterpret_cast<LPARAM>(&row));
+            GetClientRect(list, &area);
+            tops[side] = SendMessageW(list, LB_GETTOPINDEX, 0, 0);
+            if (last ? row.bottom > area.bottom : tops[side] > 0) return false;
+        }
+        return tops[0] == tops[1];
+    };
+    Add("last-moves", [=](Words&) { Until([=] { return listsShow(true); }, "the last moves are not in sight"); });
+    Add("first-moves", [=](Words&) { Until([=] { return listsShow(false); }, "the first moves are not in sight"); });
     Add("counts", [this](Words& words) { Await([this] { return Counts(); }, words.Take()); });
     // The move numbers while the clock runs, and all that shows whose turn it is.
     Add("turn", [this](Words& words) {

@@ -200,7 +200,7 @@ void Steps::Launch(const std::wstring& installed) {
         return clock && WaitForInputIdle(program->Process(), 0) == 0 && GetForegroundWindow() == clock &&
                IsChild(clock, program->Focused());
     };
-    if (!Eventually(ready, 20000)) Fail("the program does not open its window");
+    if (!Eventually(ready)) Fail("the program does not open its window");
 }
 
 void Steps::RunShell(const std::string& lines) const {
