@@ -79,7 +79,7 @@ void GameExporter::CopyPosition(HWND owner) const {
 void GameExporter::Export(HWND owner) const {
     if (!game.Record()) return;
     std::wstring title = texts(TextId::MenuExportPgn);
-    std::erase(title, L'&');
+    std::erase_if(title, [](wchar_t character) { return character == L'&' || character == L'.'; });
     const std::wstring path = AskForFile(owner, title);
     if (path.empty() || !game.Record()) return;
     const GameReading reading = Read();
