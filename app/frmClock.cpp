@@ -137,6 +137,7 @@ void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title, bool 
     panels.ShowSettings();
     SetWindowTextW(Window(), title.c_str());
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+    if (saved.Mismatched) messageBoxes.Inform(Window(), texts(TextId::FilesMismatched));
 }
 
 void frmClock::PlaceWindow() {
@@ -272,11 +273,8 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             toKeep = false;
             kept.Keep();
             return 0;
-        case WM_KEEPFAILED:
-            messageBoxes.Inform(Window(), texts.Compose(TextId::GameNotKept, around.System.DataFolder,
-                                                        texts.Reason(static_cast<DWORD>(wParam))));
-            return 0;
-        case WM_QUERYENDSESSION: return TRUE;
+        case WM_KEEPFAILED: kept.TellFailure(static_cast<DWORD>(wParam)); return 0;
+        case WM_QUERYENDSESSION: kept.Keep(); return TRUE;
         case WM_ENDSESSION:
             if (wParam) kept.Finish();
             return 0;
