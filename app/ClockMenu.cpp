@@ -42,6 +42,10 @@ constexpr std::array ScorletEntries{
     Entry{mnuCloseScorlet, TextId::MenuClose, NoKey, false},
     Separator,
     Entry{mnuPrint, TextId::MenuPrint, NoKey, false},
+    Separator,
+    Entry{mnuCopyGame, TextId::MenuCopyGame, NoKey, false},
+    Entry{mnuCopyPosition, TextId::MenuCopyPosition, NoKey, false},
+    Entry{mnuExportPgn, TextId::MenuExportPgn, NoKey, false},
 };
 
 constexpr std::array HelpEntries{

@@ -35,6 +35,7 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
       scorlet(around, *this, game),
       printer(around, game),
+      exporter(around, game),
       kept(around, *this, game),
       bringBack(
           [this](const SavedGame& saved) { TakeGame(saved, captions(TextId::ProductTitle), saved.ScorletLoaded); }) {
@@ -192,7 +193,7 @@ void frmClock::UpdateMenu() {
     entry.dwTypeData = pause.data();
     SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
     EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
-    for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint})
+    for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn})
         EnableMenuItem(menu, scorletEntry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
 }
 
@@ -312,6 +313,9 @@ void frmClock::OnCommand(int id) {
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
         case mnuPrint: return printer.Print(Window());
+        case mnuCopyGame: return exporter.CopyGame(Window());
+        case mnuCopyPosition: return exporter.CopyPosition(Window());
+        case mnuExportPgn: return exporter.Export(Window());
         case mnuSetup:
         case mnuSetupByKey: return ShowSetup();
         case mnuContents: return ShowHelp(HelpPage::Contents);

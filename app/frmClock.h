@@ -3,6 +3,7 @@
 #include "app/ClockPanels.h"
 #include "app/ClockScorlet.h"
 #include "app/EditorPrinter.h"
+#include "app/GameExporter.h"
 #include "app/HelpWindow.h"
 #include "app/KeptGames.h"
 #include "clock/TickTimer.h"
@@ -76,6 +77,7 @@ class frmClock : public Form, private ClockView {
     ClockPanels panels;
     ClockScorlet scorlet;
     EditorPrinter printer;
+    GameExporter exporter;
     KeptGames kept;
     const KeptGames::Take bringBack;  // a game that was kept takes the place of the present one
     bool toKeep = false;              // WM_KEEPGAME is on its way

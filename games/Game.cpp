@@ -18,6 +18,7 @@ void Game::Press(Side button) {
     if (clock.CurrentPhase() != before) return;
     const ClockEvent event = clock.Press(button);
     const Side running = clock.Clock().TurnSide();
+    if (event == ClockEvent::Changed && before == Phase::Running) RememberTime(Other(running));
     ClockChange change{.Phase = true};
     change.Faces[Other(running)] = true;
     Show(event, change);
@@ -78,6 +79,7 @@ void Game::Reset() {
 
 void Game::TakeSettings() {
     clock.Initialise(settings.Control);
+    shown = {};
     ShowWhole();
     if (record) recordView->RecordChanged({});
     Changed();
@@ -123,6 +125,7 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
     LeaveGame();
     settings = saved.Options;
     clock.TakeLoadedGame(saved.Clock);
+    shown = {};
     ShowWhole();
     ReplaceRecord(saved.Scorlet);
     KeepResultIfFallen();
@@ -145,6 +148,13 @@ void Game::Show(ClockEvent event, ClockChange change) {
         case ClockEvent::Overflow: clockView->ClockChanged(change); return clockView->Inform(event);
         default: return clockView->Inform(event);
     }
+}
+
+void Game::RememberTime(Side side) {
+    const modClock::ClockState& state = clock.Clock().State();
+    const auto moves = static_cast<size_t>(state.MoveCount[side]);
+    shown[side].resize(moves);
+    if (moves > 0) shown[side].back() = state.PlayerTime[side];
 }
 
 void Game::Changed() {

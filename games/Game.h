@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clock/ClockCommands.h"
+#include "games/ExportedGame.h"
 #include "games/GameCodec.h"
 #include "recorder/ScorletGame.h"
 #include "settings/Settings.h"
@@ -48,6 +49,8 @@ class Game final : public ScorletGame {
     // Null while the Scorlet is closed.
     const Recorder* Record() const { return record ? &*record : nullptr; }
     const Settings& Options() const { return settings; }
+    // Of the moves that presses have ended since the game began or was loaded.
+    const ShownTimes& TimesAtPresses() const { return shown; }
 
     void Press(Side button);
     void PressEnabledButton() override;  // White's where a flag has fallen: the players are told then
@@ -89,6 +92,7 @@ class Game final : public ScorletGame {
     void Show(ClockEvent event, ClockChange change = {.Phase = true});
     void ShowWhole();
     void Changed();
+    void RememberTime(Side side);
     void LeaveGame();
     void ReplaceRecord(const Recorder& other);
     void KeepResultIfFallen();
@@ -99,4 +103,5 @@ class Game final : public ScorletGame {
     std::optional<Recorder> record;
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
+    ShownTimes shown;
 };

@@ -43,6 +43,9 @@ enum ClockControl : int {
     mnuContents,
     mnuAbout,
     mnuBringBack,
+    mnuCopyGame,
+    mnuCopyPosition,
+    mnuExportPgn,
     // These have no menu entry.
     mnuNextWindow,
     mnuSetupByKey,

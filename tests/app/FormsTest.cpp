@@ -173,7 +173,7 @@ TEST(MenusTest, TellKeysAndWhatCanBeDoneInTheLanguageOfTheWindow) {
     };
     const auto grayed = [&](UINT id) { return (GetMenuState(bar, id, MF_BYCOMMAND) & MF_GRAYED) != 0; };
     EXPECT_EQ(entry(0), maker.Words(TextId::MenuReset) + L"\t" + maker.Words(TextId::MenuResetKey));
-    EXPECT_TRUE(grayed(mnuCloseScorlet) && grayed(mnuPrint));
+    EXPECT_TRUE(grayed(mnuCloseScorlet) && grayed(mnuPrint) && grayed(mnuCopyGame) && grayed(mnuExportPgn));
     EXPECT_FALSE(grayed(mnuShowScorlet) || grayed(mnuSetup));
     const std::wstring pause = maker.Words(TextId::MenuPause), resume = maker.Words(TextId::MenuResume);
     maker.Options.LanguageIndex = Turkish;

@@ -164,8 +164,10 @@ void Steps::AddLooks() {
     });
     // With the button that answers it, where one does. No other window takes input meanwhile.
     Add("message", [this](Words& words) {
-        const HWND box = Shown("message");
+        HWND box = nullptr;
         const auto text = [&] {
+            // Anew, since one message may follow another.
+            box = Shown("message");
             std::string all;
             for (HWND part = nullptr; (part = FindWindowExW(box, part, L"Static", nullptr)) != nullptr;)
                 all += Utf8(TextOf(part));

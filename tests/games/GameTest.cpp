@@ -160,6 +160,18 @@ std::string Kept(const std::string& script) {
     return play.Beside.Kept + (play.Played.WorthKeeping() ? "worth" : "");
 }
 
+// What is remembered of the face at the end of each move: "60 - / 58".
+std::string Times(const std::string& script) {
+    Play play;
+    play.SayAll(script);
+    std::string text;
+    for (Side side : BothSides) {
+        for (const auto& time : play.Played.TimesAtPresses()[side]) text += (time ? std::to_string(*time) : "-") + " ";
+        text += side == White ? "/ " : "";
+    }
+    return text;
+}
+
 }  // namespace
 
 TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
@@ -241,6 +253,13 @@ TEST(GameTest, WhatIsKeptAndPutAside) {
         W yes reset => aside keep | W pause start => aside keep keep worth | W 60s reset => aside keep | reset => keep
         W load3,2on => aside keep worth | load3,2on => keep worth | open reset => keep | setup => keep
         open e2e4 close => aside keep | open W close => aside keep worth | open close => keep
+    )");
+}
+
+TEST(GameTest, TheTimesAtThePressesAreRemembered) {
+    ExpectRows(Times, R"(
+        W => / | W 5s W => 55 / | W 5s W 2s B 1s W => 55 54 / 58 | W 5s W B pause => 55 / 60 | W 5s W W => 55 / | W W load3,2on => /
+        W W yes reset => / | load3,2on pause W 1s B => - - 45 / - - 29
     )");
 }
 
