@@ -13,7 +13,7 @@ struct Entry {
     int Command;  // 0: a separator line
     TextId Text{};
     TextId Key = NoKey;
-    bool Available = true;  // false: until the Scorlet is open
+    bool Available = true;  // false: not at the start
 };
 
 constexpr Entry Separator{0};
@@ -42,6 +42,9 @@ constexpr std::array ScorletEntries{
     Entry{mnuCloseScorlet, TextId::MenuClose, NoKey, false},
     Separator,
     Entry{mnuPrint, TextId::MenuPrint, NoKey, false},
+    Separator,
+    Entry{mnuTakeBack, TextId::MenuTakeBack, TextId::MenuTakeBackKey, false},
+    Entry{mnuRedo, TextId::MenuRedo, TextId::MenuRedoKey, false},
 };
 
 constexpr std::array HelpEntries{
@@ -59,7 +62,7 @@ void AppendPopup(HMENU bar, const Texts& texts, TextId caption, std::span<const 
         }
         const UINT state = entry.Available ? MF_ENABLED : MF_GRAYED;
         AppendMenuW(popup, MF_STRING | state, static_cast<UINT_PTR>(entry.Command),
-                    EntryText(texts, entry.Text, entry.Key).c_str());
+                    (entry.Key == NoKey ? texts(entry.Text) : texts.WithKey(entry.Text, entry.Key)).c_str());
     }
     AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), texts(caption).c_str());
 }
@@ -75,17 +78,29 @@ HMENU MakeClockMenu(const Texts& texts) {
     return bar;
 }
 
+void NamePauseEntry(HMENU menu, const Texts& texts, bool paused) {
+    std::wstring text = texts(paused ? TextId::MenuResume : TextId::MenuPause);
+    // The text alone: an entry of an open menu keeps its highlight.
+    MENUITEMINFOW entry{};
+    entry.cbSize = sizeof(entry);
+    entry.fMask = MIIM_STRING;
+    entry.dwTypeData = text.data();
+    SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
+}
+
+void EnableEntry(HMENU menu, int entry, bool enabled) {
+    EnableMenuItem(menu, static_cast<UINT>(entry), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+}
+
 UniqueAccelerators MakeClockAccelerators() {
     std::array keys{
         ACCEL{FCONTROL | FVIRTKEY, 'T', mnuStart},
         ACCEL{FCONTROL | FVIRTKEY, 'R', mnuReset},
+        ACCEL{FCONTROL | FVIRTKEY, 'Z', mnuTakeBack},
+        ACCEL{FCONTROL | FVIRTKEY, 'Y', mnuRedo},
         // Not the entry's own command: the system sends none for a disabled entry, and the player would get no answer.
         ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetupByKey},
         ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
     };
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
-}
-
-std::wstring EntryText(const Texts& texts, TextId entry, TextId key) {
-    return key == NoKey ? texts(entry) : texts(entry) + L"\t" + texts(key);
 }

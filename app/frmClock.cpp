@@ -22,6 +22,12 @@ constexpr wchar_t ClassName[] = L"frmClock";
 
 constexpr UINT BlinkInterval = 500, HelpInterval = 2000;  // milliseconds
 
+// Ctrl+Z and Ctrl+Y in an edit field: they are about its text there.
+bool IsForField(const MSG& message) {
+    return message.message == WM_KEYDOWN && (message.wParam == 'Z' || message.wParam == 'Y') &&
+           IsOfKind(message.hwnd, WC_EDITW);
+}
+
 }  // namespace
 
 frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile, Settings& settings, Game& game,
@@ -91,7 +97,7 @@ bool frmClock::TakeMessage(MSG& message) {
     panels.Relay(message);
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
-    if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    if (!repeated && !IsForField(message) && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
     if (scorlet.Loaded() && scorlet.Loaded()->TakeMessage(message)) return true;
     return IsDialogMessageW(Window(), &message);
 }
@@ -183,17 +189,17 @@ void frmClock::ShowPhase() {
 
 void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
-    const bool paused = game.Clock().CurrentPhase() == Phase::Paused;
-    std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
-    // The text alone: an entry of an open menu keeps its highlight.
-    MENUITEMINFOW entry{};
-    entry.cbSize = sizeof(entry);
-    entry.fMask = MIIM_STRING;
-    entry.dwTypeData = pause.data();
-    SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
-    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
-    for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint})
-        EnableMenuItem(menu, scorletEntry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
+    NamePauseEntry(menu, captions, game.Clock().CurrentPhase() == Phase::Paused);
+    EnableEntry(menu, mnuSetup, game.Clock().SetupEnabled());
+    for (const int entry : {mnuCloseScorlet, mnuPrint}) EnableEntry(menu, entry, scorlet.Loaded());
+}
+
+// What is asked for only here, so that no press waits for it.
+void frmClock::OnOpenMenu() {
+    const HMENU menu = GetMenu(Window());
+    EnableEntry(menu, mnuBringBack, kept.HasLast());
+    EnableEntry(menu, mnuTakeBack, game.CanTakeBack());
+    EnableEntry(menu, mnuRedo, game.CanRedo());
 }
 
 void frmClock::Tick() {
@@ -282,9 +288,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_POWERBROADCAST: OnPower(wParam); return TRUE;
         case WM_TELLSLEEP: messageBoxes.Inform(Window(), texts(TextId::PausedForSleep)); return 0;
-        case WM_INITMENUPOPUP:
-            EnableMenuItem(GetMenu(Window()), mnuBringBack, MF_BYCOMMAND | (kept.HasLast() ? MF_ENABLED : MF_GRAYED));
-            return 0;
+        case WM_INITMENUPOPUP: OnOpenMenu(); return 0;
         case WM_SCORLETGONE:
             scorlet.Forget();
             UpdateMenu();
@@ -314,6 +318,8 @@ void frmClock::OnCommand(int id) {
             return;
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
+        case mnuTakeBack: return game.TakeBack();
+        case mnuRedo: return game.Redo();
         case mnuPrint: return printer.Print(Window());
         case mnuSetup:
         case mnuSetupByKey: return ShowSetup();

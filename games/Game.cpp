@@ -25,6 +25,9 @@ void Game::Press(Side button) {
     if (const auto line = record->AddLineForPress(before == Phase::Idle, running)) {
         ChosenLines chosen;
         chosen[line->List] = line->Index;
+        ClockAdditions added;
+        added.Lines[line->List] = line->Index + 1;
+        history.ClockAdded(*record, added);
         recordView->RecordChanged(chosen);
     }
 }
@@ -86,27 +89,53 @@ void Game::TakeSettings() {
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
     record.emplace();
-    KeepResultIfFallen();
+    KeepResultIfFallen(*record);
+    history.Begin(*record);
     return *record;
 }
 
 void Game::CloseRecord() {
     if (record->MovesWritten()) LeaveGame();
     record.reset();
+    history.Begin({});
     recordView = nullptr;
     Changed();
 }
 
 void Game::Declare(Declaration declaration) {
     const bool over = record->HasResult();
-    recordView->RecordChanged(record->Declare(declaration, clock.Clock().State().MoveCount));
+    const ChosenLines added = record->Declare(declaration, clock.Clock().State().MoveCount);
+    TakeStep();
+    recordView->RecordChanged(added);
     if (!over && record->HasResult()) Show(clock.PauseIfRunning());
     Changed();
 }
 
 void Game::TopUpMoveLists() {
     if (!record) return;
-    recordView->RecordChanged(record->TopUpMoveLists(clock.Clock().State().MoveCount));
+    const ChosenLines added = record->TopUpMoveLists(clock.Clock().State().MoveCount);
+    TakeStep();
+    recordView->RecordChanged(added);
+    Changed();
+}
+
+void Game::RecordEdited() {
+    TakeStep();
+    Changed();
+}
+
+// The players have changed the record, which the window does not show yet.
+void Game::TakeStep() { history.Changed(*record, recordView->Chosen()); }
+
+void Game::TakeBack() {
+    if (!CanTakeBack()) return;
+    recordView->RecordTakenBack(history.TakeBack(*record, recordView->Chosen()));
+    Changed();
+}
+
+void Game::Redo() {
+    if (!CanRedo()) return;
+    recordView->RecordTakenBack(history.Redo(*record, recordView->Chosen()));
     Changed();
 }
 
@@ -124,8 +153,9 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
     settings = saved.Options;
     clock.TakeLoadedGame(saved.Clock);
     ShowWhole();
-    ReplaceRecord(saved.Scorlet);
-    KeepResultIfFallen();
+    Recorder loaded = saved.Scorlet;
+    KeepResultIfFallen(loaded);
+    ReplaceRecord(loaded);
     Changed();
 }
 
@@ -136,7 +166,9 @@ void Game::Show(ClockEvent event, ClockChange change) {
         case ClockEvent::Changed: clockView->ClockChanged(change); return Changed();
         case ClockEvent::FlagFell:
             if (record) {
-                record->FlagFell(clock.Clock().State().ActiveSide);
+                const Side fallen = clock.Clock().State().ActiveSide;
+                record->FlagFell(fallen);
+                history.ClockAdded(*record, {.Fallen = fallen});
                 recordView->RecordChanged({});
             }
             clockView->ClockChanged(change);
@@ -161,9 +193,10 @@ void Game::ShowWhole() { clockView->ClockChanged({.Faces = {true, true}, .Phase 
 void Game::ReplaceRecord(const Recorder& other) {
     if (!record) return;
     *record = other;
+    history.Begin(other);
     recordView->RecordReplaced();
 }
 
-void Game::KeepResultIfFallen() {
-    if (record && clock.CurrentPhase() == Phase::Fallen) record->KeepResult();
+void Game::KeepResultIfFallen(Recorder& shown) const {
+    if (clock.CurrentPhase() == Phase::Fallen) shown.KeepResult();
 }

@@ -2,6 +2,7 @@
 
 #include "clock/ClockCommands.h"
 #include "games/GameCodec.h"
+#include "recorder/RecordHistory.h"
 #include "recorder/ScorletGame.h"
 #include "settings/Settings.h"
 
@@ -71,7 +72,11 @@ class Game final : public ScorletGame {
 
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
-    void RecordEdited() override { Changed(); }
+    void RecordEdited() override;
+    void TakeBack() override;
+    void Redo() override;
+    bool CanTakeBack() const override { return record && history.CanTakeBack(); }
+    bool CanRedo() const override { return record && history.CanRedo(); }
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();
@@ -91,12 +96,14 @@ class Game final : public ScorletGame {
     void Changed();
     void LeaveGame();
     void ReplaceRecord(const Recorder& other);
-    void KeepResultIfFallen();
+    void KeepResultIfFallen(Recorder& shown) const;
+    void TakeStep();
 
     Settings& settings;
     ClockCommands clock;
     ClockView* clockView = nullptr;
     std::optional<Recorder> record;
+    RecordHistory history;  // of the record
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
 };

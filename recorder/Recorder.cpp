@@ -147,11 +147,28 @@ ChosenLines Recorder::TopUpMoveLists(const std::array<int32_t, 2>& clockCounts) 
     for (Side side : {Black, White}) {
         size_t wanted = static_cast<size_t>(std::max(clockCounts[side], 0));
         if (side == White) wanted = std::max(wanted, lists[Black].Moves());
-        const size_t first = lists[side].Moves();
-        while (lists[side].Moves() < wanted) added[side] = lists[side].AddWaiting();
-        if (added[side]) TakeIntoText({side, first});
+        added[side] = AddLines(side, wanted);
     }
     return added;
+}
+
+// Waiting lines, until the list has as many as wanted. Returns the last one.
+std::optional<size_t> Recorder::AddLines(Side side, size_t wanted) {
+    std::optional<size_t> added;
+    const size_t first = lists[side].Moves();
+    while (lists[side].Moves() < wanted) added = lists[side].AddWaiting();
+    if (added) TakeIntoText({side, first});
+    return added;
+}
+
+ClockAdditions ClockAdditions::With(const ClockAdditions& more) const {
+    return {.Lines = {std::max(Lines[White], more.Lines[White]), std::max(Lines[Black], more.Lines[Black])},
+            .Fallen = more.Fallen ? more.Fallen : Fallen};
+}
+
+void Recorder::Take(const ClockAdditions& added) {
+    for (Side side : BothSides) AddLines(side, added.Lines[side]);
+    if (added.Fallen) FlagFell(*added.Fallen);
 }
 
 std::optional<ChosenLine> Recorder::AddLineForPress(bool firstPress, Side running) {

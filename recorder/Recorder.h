@@ -13,14 +13,24 @@ enum class Declaration { Check, Mate, Resign, Draw };
 struct ChosenLine {
     Side List;
     size_t Index;
+    bool operator==(const ChosenLine&) const = default;
 };
 
 // The same for both lists, by side.
 using ChosenLines = std::array<std::optional<size_t>, 2>;
 
+// What presses and a fallen flag have added to a record.
+struct ClockAdditions {
+    std::array<size_t, 2> Lines{};  // how long presses have made the lists, by side
+    std::optional<Side> Fallen;     // the side whose flag has fallen
+
+    ClockAdditions With(const ClockAdditions& more) const;
+};
+
 // The Scorlet without its window: the board, the two move lists, the running text of the game and whose move it is.
 class Recorder {
   public:
+    bool operator==(const Recorder&) const = default;
     const Board& Position() const { return board; }
     const MoveList& List(Side side) const { return lists[side]; }
     const MoveLists& Lists() const { return lists; }
@@ -71,6 +81,10 @@ class Recorder {
     // Adds the line for the next move after a press that has started a side's clock; no value if no line is due.
     std::optional<ChosenLine> AddLineForPress(bool firstPress, Side running);
 
+    // Has what the clock added to another state of the game: waiting lines where a list is shorter, and the result of
+    // the flag.
+    void Take(const ClockAdditions& added);
+
     // Corrects a typed text and writes it into an entry. The position does not change: the board keeps no history.
     void Edit(Side side, size_t index, std::string_view typed);
 
@@ -81,12 +95,16 @@ class Recorder {
     void PutBack(Piece piece, int slot, Square square);
 
   private:
+    friend class RecordHistory;  // keeps lists and text of a state in parts
+
     struct Promotion {
         Square On;
         std::optional<ChosenLine> Line;  // none: the line has been deleted
+        bool operator==(const Promotion&) const = default;
     };
 
     void AwaitPromotionAgain();
+    std::optional<size_t> AddLines(Side side, size_t wanted);
     void AddResult(Side list, std::string_view result);
     void TakeResultAway();
     size_t LineForMove(Side side) const;

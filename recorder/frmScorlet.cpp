@@ -149,6 +149,14 @@ void frmScorlet::RecordReplaced() {
     ShowRecord();
 }
 
+void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
+    EndEdit(false);
+    input.Cancel();
+    lists.ChooseNone();
+    RecordChanged(chosen);
+    TellSpokenName(picBoard);
+}
+
 void frmScorlet::ShowBoard() {
     ForEachSquare([&](Square square) {
         std::optional<CellLook>& shown = shownCells[static_cast<size_t>(square)];
@@ -174,10 +182,7 @@ bool frmScorlet::TakeMessage(MSG& message) {
         return true;
     }
     if (message.message == WM_KEYDOWN && message.wParam == VK_SPACE) {
-        wchar_t kind[16]{};
-        GetClassNameW(message.hwnd, kind, 16);
-        const bool takesSpace = lstrcmpiW(kind, WC_EDITW) == 0 || lstrcmpiW(kind, WC_BUTTONW) == 0;
-        if (!takesSpace) {
+        if (!IsOfKind(message.hwnd, WC_EDITW) && !IsOfKind(message.hwnd, WC_BUTTONW)) {
             if (!(HIWORD(message.lParam) & KF_REPEAT)) SendMessageW(Window(), WM_BOARDKEY, VK_SPACE, 0);
             return true;
         }
@@ -247,6 +252,8 @@ void frmScorlet::OnCommand(int id, int notification) {
             if (notification == EN_CHANGE) field.OnChange();
             return;
         case cmdOK: return EndEdit(true);
+        case mnuTakeBack: return game.TakeBack();
+        case mnuRedo: return game.Redo();
         case mnuEditMove: return BeginEdit(menuList);
         case mnuPrintMoveList: SendMessageW(shell, WM_COMMAND, mnuPrint, 0); return;
         case mnuDeleteLastMove:
@@ -284,8 +291,8 @@ void frmScorlet::OnSquare(Square square) {
 }
 
 void frmScorlet::ShowEdit(std::optional<ChosenLine> chosen) {
-    ShowRecord(chosen);
     game.RecordEdited();
+    ShowRecord(chosen);
 }
 
 bool frmScorlet::OnBoardKey(WPARAM key) {
@@ -328,11 +335,16 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
         if (HIWORD(row) == 0 && LOWORD(row) < recorder.List(menuList).Entries().size())
             lists.Choose({menuList, LOWORD(row)});
     }
-    const UINT state = lists.Chosen(menuList) ? MF_ENABLED : MF_GRAYED;
+    const bool chosen = lists.Chosen(menuList).has_value();
     const HMENU menu = CreatePopupMenu();
-    AppendMenuW(menu, MF_STRING | state, mnuEditMove, captions(TextId::EditMove).c_str());
-    AppendMenuW(menu, MF_STRING, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
-    AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, captions(TextId::DeleteLastMove).c_str());
+    const auto append = [&](int entry, const std::wstring& text, bool enabled) {
+        AppendMenuW(menu, MF_STRING | (enabled ? MF_ENABLED : MF_GRAYED), static_cast<UINT_PTR>(entry), text.c_str());
+    };
+    append(mnuEditMove, captions(TextId::EditMove), chosen);
+    append(mnuPrintMoveList, captions(TextId::PrintMoveList), true);
+    append(mnuDeleteLastMove, captions(TextId::DeleteLastMove), chosen);
+    append(mnuTakeBack, captions.WithKey(TextId::MenuTakeBack, TextId::MenuTakeBackKey), game.CanTakeBack());
+    append(mnuRedo, captions.WithKey(TextId::MenuRedo, TextId::MenuRedoKey), game.CanRedo());
     TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
     DestroyMenu(menu);
     return true;

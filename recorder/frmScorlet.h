@@ -36,6 +36,8 @@ class frmScorlet : public Form, private RecordView {
     std::wstring SpokenName(int id) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
+    void RecordTakenBack(const ChosenLines& chosen) override;
+    ChosenLines Chosen() const override { return lists.Chosen(); }
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);

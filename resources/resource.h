@@ -43,6 +43,8 @@ enum ClockControl : int {
     mnuContents,
     mnuAbout,
     mnuBringBack,
+    mnuTakeBack,
+    mnuRedo,
     // These have no menu entry.
     mnuNextWindow,
     mnuSetupByKey,
