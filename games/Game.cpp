@@ -179,7 +179,16 @@ void Game::Show(ClockEvent event, ClockChange change) {
     }
 }
 
+WhoseMove Game::NextMove() const {
+    const Phase phase = clock.CurrentPhase();
+    if (phase != Phase::Running && phase != Phase::Paused) return WhoseMoveOf(*record, std::nullopt);
+    const modClock::ClockState& state = clock.Clock().State();
+    const Side mover = state.SideByCounts();
+    return WhoseMoveOf(*record, ClockTurn{mover, state.MoveCount[mover]});
+}
+
 void Game::Changed() {
+    if (recordView) recordView->ShowWhoseMove();
     ticksSinceChange = 0;
     clockView->GameChanged();
 }

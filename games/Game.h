@@ -77,6 +77,7 @@ class Game final : public ScorletGame {
     void Redo() override;
     bool CanTakeBack() const override { return record && history.CanTakeBack(); }
     bool CanRedo() const override { return record && history.CanRedo(); }
+    WhoseMove NextMove() const override;
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();

@@ -67,6 +67,7 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     if (HasResult() || HalfMoveOf(line) != before) RebuildText();
     promotion.reset();
     if (Board::ReachesLastRank(move.Moving, destination)) promotion = Promotion{destination, line};
+    otherColourMoved = SideOf(move.Moving) != line.List;
     sideToMove = Other(sideToMove);
     lastMove = move;
     lastMoveLongForm = WriteLongForm(move).View();

@@ -39,6 +39,10 @@ class Recorder {
     const std::optional<Move>& LastMove() const { return lastMove; }
     // That move in long form, "e2-e4"; empty without one.
     const std::string& LastMoveLongForm() const { return lastMoveLongForm; }
+    // Whether the piece of the last move was of the side that was not to move.
+    bool OtherColourMoved() const { return otherColourMoved; }
+    // The line of the side to move into which its next move goes.
+    size_t NextLine() const { return LineForMove(sideToMove); }
     bool MovesWritten() const { return !lists[White].Empty() || !lists[Black].Empty(); }
 
     // The game's movetext without the last move, and that move, which promotions and marks can still change. A result
@@ -122,5 +126,6 @@ class Recorder {
     std::optional<Promotion> promotion;
     std::optional<Move> lastMove;
     std::string lastMoveLongForm;
+    bool otherColourMoved = false;
     bool resultKept = false;
 };

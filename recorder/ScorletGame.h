@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recorder/Recorder.h"
+#include "recorder/WhoseMove.h"
 
 // A window that shows the record.
 class RecordView {
@@ -13,6 +13,8 @@ class RecordView {
     virtual void RecordTakenBack(const ChosenLines& chosen) = 0;
     // The lines that the window shows as chosen. After a change that it does not show yet, those from before.
     virtual ChosenLines Chosen() const = 0;
+    // The record or the clock has changed, and with it the move that is expected.
+    virtual void ShowWhoseMove() = 0;
 
   protected:
     ~RecordView() = default;
@@ -34,6 +36,7 @@ class ScorletGame {
     virtual void Redo() = 0;
     virtual bool CanTakeBack() const = 0;
     virtual bool CanRedo() const = 0;
+    virtual WhoseMove NextMove() const = 0;
     virtual void Declare(Declaration declaration) = 0;
     virtual void PressEnabledButton() = 0;  // the clock button that can be pressed
     virtual void PressKeyP() = 0;           // pauses a running clock

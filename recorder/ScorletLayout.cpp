@@ -39,7 +39,8 @@ ScorletLayout LayOutScorlet(int width, int height, int dpi) {
     layout.Edit = {left, editTop, wide - ok - unit(6), field};
     layout.EditOk = {right - ok, editTop, ok, field};
 
-    const int listTop = layout.Say.Bottom() + margin, listHeight = editTop - unit(6) - listTop;
+    layout.WhoseMove = {left, layout.Say.Bottom() + unit(6), wide, unit(32)};
+    const int listTop = layout.WhoseMove.Bottom() + unit(4), listHeight = editTop - unit(6) - listTop;
     const int listWidth = (wide - unit(6)) / 2;
     layout.Lists[White] = {left, listTop, listWidth, listHeight};
     layout.Lists[Black] = {right - listWidth, listTop, listWidth, listHeight};

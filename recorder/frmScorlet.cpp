@@ -82,6 +82,7 @@ void frmScorlet::CreateControls() {
     for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
+    whoseMove.Create();
     lists.Create();
     field.Create(WM_ENDEDIT);
     AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
@@ -118,6 +119,7 @@ void frmScorlet::Arrange() {
     place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
     place(cmbSay, {layout.Say.Left, layout.Say.Top, layout.Say.Width, 8 * layout.Say.Height});
+    place(lblWhoseMove, layout.WhoseMove);
     for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.Lists[side]);
     place(txtMove, layout.Edit);
     place(cmdOK, layout.EditOk);
@@ -129,6 +131,7 @@ void frmScorlet::Arrange() {
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
     ShowBoard();
+    ShowWhoseMove();
     lists.Show();
     if (chosen) lists.Choose(*chosen);
     SetVisible(lblPromotion, recorder.AwaitsPromotion());
@@ -205,9 +208,8 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
-            return reinterpret_cast<LRESULT>(painter.BackgroundBrush());
+            return reinterpret_cast<LRESULT>(
+                OnColour(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
         case WM_ERASEBKGND: {
             RECT client{};
             GetClientRect(Window(), &client);
@@ -402,6 +404,13 @@ void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     CellLook look = input.LookOf(square);
     look.Cursor = look.Cursor && GetFocus() == Control(picBoard);
     painter.DrawCell(item, square, look);
+}
+
+HBRUSH frmScorlet::OnColour(HDC dc, int id) const {
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+    const HBRUSH warning = id == lblWhoseMove ? whoseMove.Colours(dc) : nullptr;
+    return warning ? warning : painter.BackgroundBrush();
 }
 
 int frmScorlet::ChildAt(POINT point) const {

@@ -7,6 +7,7 @@
 #include "recorder/ScorletGame.h"
 #include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
+#include "recorder/WhoseMoveLine.h"
 
 #include <array>
 #include <optional>
@@ -38,6 +39,7 @@ class frmScorlet : public Form, private RecordView {
     void RecordReplaced() override;
     void RecordTakenBack(const ChosenLines& chosen) override;
     ChosenLines Chosen() const override { return lists.Chosen(); }
+    void ShowWhoseMove() override { whoseMove.Show(captions, game.NextMove()); }
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
@@ -56,6 +58,7 @@ class frmScorlet : public Form, private RecordView {
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
+    HBRUSH OnColour(HDC dc, int id) const;
     bool OnSetCursor() const;
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     int ChildAt(POINT point) const;
@@ -70,6 +73,7 @@ class frmScorlet : public Form, private RecordView {
     BoardInput input{recorder};
     MoveField field{*this};
     SayList say{*this};
+    WhoseMoveLine whoseMove{*this};
     ScorletLists lists{*this, recorder};
     // The entry that is open in the edit field, and how it was.
     struct Edited {

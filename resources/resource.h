@@ -74,6 +74,7 @@ enum ScorletControl : int {
     cmbSay,
     lstMoves = 2152,  // White's list, then Black's
     txtMove = 2154,
+    lblWhoseMove = 2157,
 
     mnuEditMove = 2160,
     mnuPrintMoveList,

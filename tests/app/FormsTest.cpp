@@ -91,6 +91,7 @@ void Change(const Form& form, const Texts& texts, int state) {
         for (int up = 0; state == 2 && up < 5; ++up) key(VK_UP);
         if (state < 3) return key(VK_RETURN);
         for (const int id : {int{txtMove}, int{cmdOK}}) form.SetVisible(id, true);
+        form.SetText(lblWhoseMove, texts.Compose(TextId::OtherColourMoved, texts.SideName(White), L"299"));
         return;
     }
     // The longest that the panels come to show.

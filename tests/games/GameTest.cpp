@@ -70,6 +70,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
     void RecordReplaced() override { Say("new record"); }
     void RecordTakenBack(const ChosenLines& chosen) override { RecordChanged(chosen); }
     ChosenLines Chosen() const override { return Shown; }
+    void ShowWhoseMove() override {}
 };
 
 // "load3,2" and, of a game that is on, "load3,2on".
