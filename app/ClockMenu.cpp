@@ -45,6 +45,8 @@ constexpr std::array ScorletEntries{
     Separator,
     Entry{mnuTakeBack, TextId::MenuTakeBack, TextId::MenuTakeBackKey, false},
     Entry{mnuRedo, TextId::MenuRedo, TextId::MenuRedoKey, false},
+    Separator,
+    Entry{mnuGoOn, TextId::MenuGoOn, NoKey, false},
 };
 
 constexpr std::array HelpEntries{

@@ -200,6 +200,7 @@ void frmClock::OnOpenMenu() {
     EnableEntry(menu, mnuBringBack, kept.HasLast());
     EnableEntry(menu, mnuTakeBack, game.CanTakeBack());
     EnableEntry(menu, mnuRedo, game.CanRedo());
+    EnableEntry(menu, mnuGoOn, game.CanGoOn());
 }
 
 void frmClock::Tick() {
@@ -320,6 +321,7 @@ void frmClock::OnCommand(int id) {
         case mnuCloseScorlet: return scorlet.Close();
         case mnuTakeBack: return game.TakeBack();
         case mnuRedo: return game.Redo();
+        case mnuGoOn: return game.GoOnAtClocksMove();
         case mnuPrint: return printer.Print(Window());
         case mnuSetup:
         case mnuSetupByKey: return ShowSetup();

@@ -187,6 +187,15 @@ WhoseMove Game::NextMove() const {
     return WhoseMoveOf(*record, ClockTurn{mover, state.MoveCount[mover]});
 }
 
+void Game::GoOnAtClocksMove() {
+    if (!CanGoOn()) return;
+    const modClock::ClockState& state = clock.Clock().State();
+    const ChosenLines added = record->GoOn(state.MoveCount, state.SideByCounts());
+    TakeStep();
+    recordView->RecordChanged(added);
+    Changed();
+}
+
 void Game::Changed() {
     if (recordView) recordView->ShowWhoseMove();
     ticksSinceChange = 0;

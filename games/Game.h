@@ -78,6 +78,9 @@ class Game final : public ScorletGame {
     bool CanTakeBack() const override { return record && history.CanTakeBack(); }
     bool CanRedo() const override { return record && history.CanRedo(); }
     WhoseMove NextMove() const override;
+    // A record that is behind a clock under way goes on at the clock's move; otherwise nothing happens.
+    void GoOnAtClocksMove();
+    bool CanGoOn() const { return record && NextMove().Behind > 0; }
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();

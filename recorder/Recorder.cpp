@@ -172,6 +172,14 @@ void Recorder::Take(const ClockAdditions& added) {
     if (added.Fallen) FlagFell(*added.Fallen);
 }
 
+ChosenLines Recorder::GoOn(const std::array<int32_t, 2>& clockCounts, Side running) {
+    const ChosenLines added = TopUpMoveLists(clockCounts);
+    for (Side side : BothSides) passed[side] = static_cast<size_t>(clockCounts[side] - (side == running ? 1 : 0));
+    sideToMove = running;
+    otherColourMoved = false;
+    return added;
+}
+
 std::optional<ChosenLine> Recorder::AddLineForPress(bool firstPress, Side running) {
     if (HasResult()) return std::nullopt;
     if (firstPress) {
@@ -214,7 +222,8 @@ void Recorder::PutBack(Piece piece, int slot, Square square) {
     board.Put(square, piece);
 }
 
-// The first of the waiting lines at the end of a list whose reply is not written; where there is none, a new line.
+// The first of the waiting lines at the end of a list whose reply is not written and that GoOn has not passed over;
+// where there is none, a new line.
 size_t Recorder::LineForMove(Side side) const {
     const MoveList &list = lists[side], &replies = lists[Other(side)];
     const auto last = list.LastWritten();
@@ -224,7 +233,7 @@ size_t Recorder::LineForMove(Side side) const {
         return reply < replies.Moves() && replies.Entries()[reply].IsWritten();
     };
     while (index < list.Moves() && replied()) ++index;
-    return index;
+    return std::min(std::max(index, passed[side]), list.Moves());
 }
 
 // Counts in the order of play, up to the last written move.

@@ -66,6 +66,8 @@ class Recorder {
 
     // Whether the last move brought a pawn to its last rank. True until the next move is entered.
     bool AwaitsPromotion() const { return promotion.has_value(); }
+    // That pawn, or the piece that has been chosen for it; no value once the next move is entered.
+    std::optional<Piece> Promoting() const { return promotion ? std::optional(board.At(promotion->On)) : std::nullopt; }
     // Makes the pawn that piece and writes so in its entry. The choice can be made again.
     void Promote(PieceKind kind);
 
@@ -81,6 +83,10 @@ class Recorder {
     // Adds waiting lines where a list is shorter than the clock's count, or White's list shorter than Black's. Returns
     // the last line added to each list.
     ChosenLines TopUpMoveLists(const std::array<int32_t, 2>& clockCounts);
+
+    // Goes on with the move that the clock has come to: fills the lists up to its counts, and passes over the lines
+    // that wait before the move of the side whose clock runs. Returns the last line added to each list.
+    ChosenLines GoOn(const std::array<int32_t, 2>& clockCounts, Side running);
 
     // Adds the line for the next move after a press that has started a side's clock; no value if no line is due.
     std::optional<ChosenLine> AddLineForPress(bool firstPress, Side running);
@@ -127,5 +133,6 @@ class Recorder {
     std::optional<Move> lastMove;
     std::string lastMoveLongForm;
     bool otherColourMoved = false;
+    std::array<size_t, 2> passed{};  // how many lines of each list GoOn has passed over
     bool resultKept = false;
 };

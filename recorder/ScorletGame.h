@@ -36,7 +36,7 @@ class ScorletGame {
     virtual void Redo() = 0;
     virtual bool CanTakeBack() const = 0;
     virtual bool CanRedo() const = 0;
-    virtual WhoseMove NextMove() const = 0;
+    virtual WhoseMove NextMove() const = 0;  // there must be a record
     virtual void Declare(Declaration declaration) = 0;
     virtual void PressEnabledButton() = 0;  // the clock button that can be pressed
     virtual void PressKeyP() = 0;           // pauses a running clock

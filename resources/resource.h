@@ -45,6 +45,7 @@ enum ClockControl : int {
     mnuBringBack,
     mnuTakeBack,
     mnuRedo,
+    mnuGoOn,
     // These have no menu entry.
     mnuNextWindow,
     mnuSetupByKey,
@@ -74,6 +75,8 @@ enum ScorletControl : int {
     cmbSay,
     lstMoves = 2152,  // White's list, then Black's
     txtMove = 2154,
+    txtTypedMove,
+    lblTypedMove,
     lblWhoseMove = 2157,
 
     mnuEditMove = 2160,
@@ -157,6 +160,8 @@ enum ClockMessage : unsigned {
 enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board
     WM_ENDEDIT,            // the edit of a move ends: with 1 in wParam it is accepted
+    WM_BOARDCHARACTER,     // a character in wParam for the board
+    WM_ENDTYPING,          // the typing of a move ends: with 1 in wParam it is to be entered
 };
 
 // The timers of the clock window.

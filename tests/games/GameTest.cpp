@@ -116,6 +116,7 @@ struct Play {
         if (word.starts_with("timer=")) Beside.Handle = std::stoi(word.substr(6));
         if (word == "back") Played.TakeBack();
         if (word == "redo") Played.Redo();
+        if (word == "go") Played.GoOnAtClocksMove();
         if (word == "yes") Beside.Yes = true;
         if (word == "no-kill") Beside.KillWorks = false;
         if (word == "slow-sound") Beside.DuringSound = [&] { Played.Tick(); };
@@ -219,6 +220,11 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W 60s open e2e4 draw back back d2d4 draw e7e5 => nothing; F - 00:00:00; 1. d4 / e5|[1/2-1/2]
         open e2e4 load3,2 back => nothing; F - 00:00:45; 1. d4 / | open e2e4 yes reset back => nothing; CP CP S 00:01:00;  /
         open e2e4 close back redo => nothing; CP CP S 00:01:00 | open load1,0 draw back draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2]
+        Going on at the clock's move, where the record is behind.
+        open W W B go e2e4 => nothing; CPTm - 00:01:00; 1. _|2. e4 / 1. _ | go => nothing; CP CP S 00:01:00
+        open W W pause go => lists B0; - Rp 00:01:00; 1. _ / 1. _ | open W W B go back => lists W0; CPTm - 00:01:00; 1. _ /
+        open W go => nothing; CPTm - 00:01:00; 1. _ / | open W e2e4 go => nothing; CPTm - 00:01:00; 1. e4 /
+        open W W go 60s back go => nothing; - F 00:01:00; 1. _|[1-0] /
         Start, reset and setup.
         start => click, show B all; CPTm - 00:01:00 | W start => ask; CPTm - 00:01:00
         W yes start => ask, read, show W B all, click, show B all; CPTm - 00:01:00
