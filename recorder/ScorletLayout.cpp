@@ -18,6 +18,10 @@ ScorletLayout LayOutScorlet(int width, int height, int dpi) {
     const int boardSize = 8 * layout.CellSize + layout.Edge;
     layout.Board = {margin, margin, boardSize, boardSize};
 
+    const Box corner = layout.Cell(1, 8);
+    layout.TypedMove = {corner.Left, corner.Top, 4 * layout.CellSize, field};
+    layout.TypedReason = {corner.Left, layout.TypedMove.Bottom(), 8 * layout.CellSize, unit(32)};
+
     layout.CapturedTitle = {margin, layout.Board.Bottom() + margin, boardSize, line};
     // A row holds at most the fifteen pieces that a side can lose.
     layout.Slot = std::min(slotsHeight, boardSize / 15);

@@ -17,6 +17,7 @@ struct ScorletLayout {
     Box WhoseMove;  // two lines of type
     std::array<Box, 2> Lists;
     Box Edit, EditOk;
+    Box TypedMove, TypedReason;  // over the board
     Box PromotionTitle;
     std::array<Box, 4> Promotion;
     int CoordinateType;

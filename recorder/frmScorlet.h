@@ -3,10 +3,12 @@
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
 #include "recorder/MoveField.h"
+#include "recorder/PromotionPicker.h"
 #include "recorder/SayList.h"
 #include "recorder/ScorletGame.h"
 #include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
+#include "recorder/TypedMoveField.h"
 #include "recorder/WhoseMoveLine.h"
 
 #include <array>
@@ -54,6 +56,9 @@ class frmScorlet : public Form, private RecordView {
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
     bool OnBoardKey(WPARAM key);
+    bool OnBoardCharacter(wchar_t character);
+    void Promote(PieceKind kind);
+    void EndTyping(bool enter);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
     void BeginEdit(Side side);
     void EndEdit(bool accept);
@@ -72,6 +77,7 @@ class frmScorlet : public Form, private RecordView {
     const HWND shell;
     BoardInput input{recorder};
     MoveField field{*this};
+    TypedMoveField typing{*this};
     SayList say{*this};
     WhoseMoveLine whoseMove{*this};
     ScorletLists lists{*this, recorder};
@@ -83,6 +89,7 @@ class frmScorlet : public Form, private RecordView {
     std::optional<Edited> edited;
     Side menuList = White;
     ScorletPainter painter;
+    PromotionPicker picker{*this, recorder, painter};
     ScorletLayout layout{};
     std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
     UniqueCursor handPointBlue;
