@@ -1,6 +1,9 @@
 #include "app/ClockMenu.h"
 
+#include "platform/Form.h"
 #include "resources/resource.h"
+
+#include <commctrl.h>
 
 #include <array>
 #include <span>
@@ -105,4 +108,9 @@ UniqueAccelerators MakeClockAccelerators() {
         ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
     };
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
+}
+
+bool IsForField(const MSG& message) {
+    return message.message == WM_KEYDOWN && (message.wParam == 'Z' || message.wParam == 'Y') &&
+           IsOfKind(message.hwnd, WC_EDITW);
 }

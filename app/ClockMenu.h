@@ -14,3 +14,6 @@ void EnableEntry(HMENU menu, int entry, bool enabled);
 
 // Its keys.
 UniqueAccelerators MakeClockAccelerators();
+
+// Whether a message is one of those keys that is about the text of an edit field: Ctrl+Z or Ctrl+Y there.
+bool IsForField(const MSG& message);
