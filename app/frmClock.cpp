@@ -92,7 +92,7 @@ bool frmClock::TakeMessage(MSG& message) {
     panels.Relay(message);
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
-    if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    if (!repeated && !IsForField(message) && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
     if (scorlet.Loaded() && scorlet.Loaded()->TakeMessage(message)) return true;
     return IsDialogMessageW(Window(), &message);
 }
@@ -184,17 +184,18 @@ void frmClock::ShowPhase() {
 
 void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
-    const bool paused = game.Clock().CurrentPhase() == Phase::Paused;
-    std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
-    // The text alone: an entry of an open menu keeps its highlight.
-    MENUITEMINFOW entry{};
-    entry.cbSize = sizeof(entry);
-    entry.fMask = MIIM_STRING;
-    entry.dwTypeData = pause.data();
-    SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
-    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
-    for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn})
-        EnableMenuItem(menu, scorletEntry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
+    NamePauseEntry(menu, captions, game.Clock().CurrentPhase() == Phase::Paused);
+    EnableEntry(menu, mnuSetup, game.Clock().SetupEnabled());
+    for (const int entry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn}) EnableEntry(menu, entry, scorlet.Loaded());
+}
+
+// What is asked for only here, so that no press waits for it.
+void frmClock::OnOpenMenu() {
+    const HMENU menu = GetMenu(Window());
+    EnableEntry(menu, mnuBringBack, kept.HasLast());
+    EnableEntry(menu, mnuTakeBack, game.CanTakeBack());
+    EnableEntry(menu, mnuRedo, game.CanRedo());
+    EnableEntry(menu, mnuGoOn, game.CanGoOn());
 }
 
 void frmClock::Tick() {
@@ -280,9 +281,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_POWERBROADCAST: OnPower(wParam); return TRUE;
         case WM_TELLSLEEP: messageBoxes.Inform(Window(), texts(TextId::PausedForSleep)); return 0;
-        case WM_INITMENUPOPUP:
-            EnableMenuItem(GetMenu(Window()), mnuBringBack, MF_BYCOMMAND | (kept.HasLast() ? MF_ENABLED : MF_GRAYED));
-            return 0;
+        case WM_INITMENUPOPUP: OnOpenMenu(); return 0;
         case WM_SCORLETGONE:
             scorlet.Forget();
             UpdateMenu();
@@ -312,6 +311,9 @@ void frmClock::OnCommand(int id) {
             return;
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
+        case mnuTakeBack: return game.TakeBack();
+        case mnuRedo: return game.Redo();
+        case mnuGoOn: return game.GoOnAtClocksMove();
         case mnuPrint: return printer.Print(Window());
         case mnuCopyGame: return exporter.CopyGame(Window());
         case mnuCopyPosition: return exporter.CopyPosition(Window());

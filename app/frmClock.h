@@ -55,6 +55,7 @@ class frmClock : public Form, private ClockView {
     void TellProblems();
 
     void OnCommand(int id);
+    void OnOpenMenu();
     void OnMouseDown(POINT point, bool rightButton);
     void OnButtonKey(int id, WPARAM key);
     bool OnSetCursor();

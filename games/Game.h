@@ -3,6 +3,7 @@
 #include "clock/ClockCommands.h"
 #include "games/ExportedGame.h"
 #include "games/GameCodec.h"
+#include "recorder/RecordHistory.h"
 #include "recorder/ScorletGame.h"
 #include "settings/Settings.h"
 
@@ -74,7 +75,15 @@ class Game final : public ScorletGame {
 
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
-    void RecordEdited() override { Changed(); }
+    void RecordEdited() override;
+    void TakeBack() override;
+    void Redo() override;
+    bool CanTakeBack() const override { return record && history.CanTakeBack(); }
+    bool CanRedo() const override { return record && history.CanRedo(); }
+    WhoseMove NextMove() const override;
+    // A record that is behind a clock under way goes on at the clock's move; otherwise nothing happens.
+    void GoOnAtClocksMove();
+    bool CanGoOn() const { return record && NextMove().Behind > 0; }
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();
@@ -95,12 +104,14 @@ class Game final : public ScorletGame {
     void RememberTime(Side side);
     void LeaveGame();
     void ReplaceRecord(const Recorder& other);
-    void KeepResultIfFallen();
+    void KeepResultIfFallen(Recorder& shown) const;
+    void TakeStep();
 
     Settings& settings;
     ClockCommands clock;
     ClockView* clockView = nullptr;
     std::optional<Recorder> record;
+    RecordHistory history;  // of the record
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
     ShownTimes shown;

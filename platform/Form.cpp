@@ -13,6 +13,11 @@ RECT WorkArea(HWND window) {
     return monitor.rcWork;
 }
 
+bool IsOfKind(HWND control, const wchar_t* kind) {
+    wchar_t name[32]{};
+    return GetClassNameW(control, name, 32) && lstrcmpiW(name, kind) == 0;
+}
+
 Form::~Form() {
     if (window) DestroyWindow(window);
 }

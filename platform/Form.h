@@ -12,6 +12,9 @@
 // The part of a window's screen that the taskbar leaves free.
 RECT WorkArea(HWND window);
 
+// Whether a control is of that window class; null is of none.
+bool IsOfKind(HWND control, const wchar_t* kind);
+
 // Base of every window of the program: one window class for each form, one virtual function for its messages, and the
 // one place where the exceptions of handlers end.
 class Form {

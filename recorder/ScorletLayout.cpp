@@ -18,6 +18,10 @@ ScorletLayout LayOutScorlet(int width, int height, int dpi) {
     const int boardSize = 8 * layout.CellSize + layout.Edge;
     layout.Board = {margin, margin, boardSize, boardSize};
 
+    const Box corner = layout.Cell(1, 8);
+    layout.TypedMove = {corner.Left, corner.Top, 4 * layout.CellSize, field};
+    layout.TypedReason = {corner.Left, layout.TypedMove.Bottom(), 8 * layout.CellSize, unit(32)};
+
     layout.CapturedTitle = {margin, layout.Board.Bottom() + margin, boardSize, line};
     // A row holds at most the fifteen pieces that a side can lose.
     layout.Slot = std::min(slotsHeight, boardSize / 15);
@@ -39,7 +43,8 @@ ScorletLayout LayOutScorlet(int width, int height, int dpi) {
     layout.Edit = {left, editTop, wide - ok - unit(6), field};
     layout.EditOk = {right - ok, editTop, ok, field};
 
-    const int listTop = layout.Say.Bottom() + margin, listHeight = editTop - unit(6) - listTop;
+    layout.WhoseMove = {left, layout.Say.Bottom() + unit(6), wide, unit(32)};
+    const int listTop = layout.WhoseMove.Bottom() + unit(4), listHeight = editTop - unit(6) - listTop;
     const int listWidth = (wide - unit(6)) / 2;
     layout.Lists[White] = {left, listTop, listWidth, listHeight};
     layout.Lists[Black] = {right - listWidth, listTop, listWidth, listHeight};

@@ -14,8 +14,10 @@ struct ScorletLayout {
     std::array<Box, 2> CapturedRows;  // the captured pieces of each side
     int Slot;                         // side of a captured piece's picture
     Box SayLabel, Say;
+    Box WhoseMove;  // two lines of type
     std::array<Box, 2> Lists;
     Box Edit, EditOk;
+    Box TypedMove, TypedReason;  // over the board
     Box PromotionTitle;
     std::array<Box, 4> Promotion;
     int CoordinateType;

@@ -61,6 +61,15 @@ std::optional<size_t> ScorletLists::Chosen(Side side) const {
     return chosen >= 0 && chosen < count ? std::optional(static_cast<size_t>(chosen)) : std::nullopt;
 }
 
+ChosenLines ScorletLists::Chosen() const {
+    ChosenLines lines;
+    for (Side side : BothSides) {
+        const LRESULT chosen = SendMessageW(List(side), LB_GETCURSEL, 0, 0);
+        if (chosen >= 0) lines[side] = static_cast<size_t>(chosen);
+    }
+    return lines;
+}
+
 void ScorletLists::OnChoice(Side side) const {
     if (!Chosen(side)) Choose({side, recorder.List(side).Entries().size() - 1});
 }

@@ -21,6 +21,8 @@ class ScorletLists {
     void ChooseNone() const;
     // The chosen line of a list; no value where that holds no entry.
     std::optional<size_t> Chosen(Side side) const;
+    // Those of both lists as they show them, which may have been before the last change of the record.
+    ChosenLines Chosen() const;
     // The players have chosen a row: of the empty ones, that is the last entry.
     void OnChoice(Side side) const;
 

@@ -15,8 +15,6 @@ constexpr Colour PickedColour{RGB(0x1D, 0x5F, 0xD0), COLOR_HIGHLIGHT};
 constexpr Colour LastColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOWTEXT};
 constexpr Colour EdgeColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOW}, EdgeInk{RGB(0xF0, 0xE4, 0xD2), COLOR_WINDOWTEXT};
 
-constexpr std::array PromotionNames{"TQ", "TR", "TB", "TN"};
-
 // A frame inside the edges of a square.
 void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
     for (int i = 0; i < thickness; ++i) {
@@ -52,8 +50,6 @@ void ScorletPainter::LoadPictures() {
                 Picture(*modResource::LoadResourcePicture(std::string(PieceCode(piece))));
         }
     }
-    for (size_t i = 0; i < promotions.size(); ++i)
-        promotions[i] = Picture(*modResource::LoadResourcePicture(PromotionNames[i]));
 }
 
 void ScorletPainter::SetLayout(const ScorletLayout& layout, int dpi) {
@@ -107,10 +103,12 @@ void ScorletPainter::DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool 
     if (picked) ThickFrame(buffer.Dc(), area, PickedColour, 2);
 }
 
-void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const {
+void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, Piece piece, bool waits, bool marked) const {
     const Buffered buffer(item);
     RECT area = buffer.Area();
     FillRect(buffer.Dc(), &area, BackgroundBrush());
-    promotions[choice].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    if (marked) Fill(buffer.Dc(), area, LightLast);
+    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    if (waits) ThickFrame(buffer.Dc(), area, PickedColour, marked ? 4 : 2);
     if (item.itemState & ODS_FOCUS) DrawFocusRect(buffer.Dc(), &area);
 }

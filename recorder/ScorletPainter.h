@@ -23,10 +23,10 @@ class ScorletPainter {
     void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
     void DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const;
     void DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const;
-    void DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const;
+    // A choice of the promotion picker, framed while the picker waits, and marked where Enter would choose it.
+    void DrawPromotion(const DRAWITEMSTRUCT& item, Piece piece, bool waits, bool marked) const;
 
   private:
     UniqueFont font, coordinateFont;
     std::array<Picture, 16> pieces;  // by piece
-    std::array<Picture, 4> promotions;
 };

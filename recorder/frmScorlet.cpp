@@ -4,6 +4,8 @@
 #include "platform/Dpi.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
+#include "recorder/ListMenu.h"
+#include "recorder/MatchedMoves.h"
 #include "recorder/SpokenBoard.h"
 #include "resources/resource.h"
 
@@ -17,15 +19,10 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmScorlet";
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind::Bishop, PieceKind::Knight};
-constexpr std::array PromotionTexts{TextId::PromotionQueen, TextId::PromotionRook, TextId::PromotionBishop,
-                                    TextId::PromotionKnight};
-
 constexpr int CellOf(Square square) { return picBoard + static_cast<int>(square); }
 bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIndexes && IsSquare(id - picBoard); }
 bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
 static_assert(CapturedSlots == SlotsPerSide);
-bool IsPromotion(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
 
 std::wstring WithoutAccessKey(std::wstring caption) {
     std::erase(caption, L'&');
@@ -74,27 +71,28 @@ std::wstring frmScorlet::Open(const RECT& place) {
 }
 
 void frmScorlet::CreateControls() {
-    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
+    // The field for typing may cover cells, which therefore leave it out when they draw.
+    typing.Create(WM_ENDTYPING);
+    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW | WS_CLIPSIBLINGS;
     // The order is the reading and the tab order. The cells lie above the board, so they come before it.
     ForEachSquare([&](Square square) { AddControl(WC_STATICW, CellOf(square), drawn); });
-    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP | WS_CLIPSIBLINGS);
+    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP);
     AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
     for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
+    whoseMove.Create();
     lists.Create();
     field.Create(WM_ENDEDIT);
-    AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
-    for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
+    picker.Create();
     Subclass<BoardProcedure>(Control(picBoard), this);
 }
 
 void frmScorlet::ApplyTexts() {
     SetText(lblCaptured, captions(TextId::CapturedPieces));
-    SetText(lblPromotion, captions(TextId::PromoteTo));
     SetText(lblSay, captions(TextId::Say));
     SetText(cmdOK, captions(TextId::ButtonOk));
-    for (int i = 0; i < 4; ++i) SetText(imgPromotionQ + i, captions(PromotionTexts[static_cast<size_t>(i)]));
+    picker.ApplyTexts(captions);
     say.Fill(captions);
 }
 
@@ -110,6 +108,8 @@ void frmScorlet::Arrange() {
     };
     ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
     place(picBoard, layout.Board);
+    place(txtTypedMove, layout.TypedMove);
+    place(lblTypedMove, layout.TypedReason);
     place(lblCaptured, layout.CapturedTitle);
     for (int i = 0; i < 2 * CapturedSlots; ++i) {
         const Box& row = layout.CapturedRows[i < CapturedSlots ? White : Black];
@@ -118,6 +118,7 @@ void frmScorlet::Arrange() {
     place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
     place(cmbSay, {layout.Say.Left, layout.Say.Top, layout.Say.Width, 8 * layout.Say.Height});
+    place(lblWhoseMove, layout.WhoseMove);
     for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.Lists[side]);
     place(txtMove, layout.Edit);
     place(cmdOK, layout.EditOk);
@@ -129,10 +130,10 @@ void frmScorlet::Arrange() {
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
     ShowBoard();
+    ShowWhoseMove();
     lists.Show();
     if (chosen) lists.Choose(*chosen);
-    SetVisible(lblPromotion, recorder.AwaitsPromotion());
-    for (int id = imgPromotionQ; id <= imgPromotionN; ++id) SetVisible(id, recorder.AwaitsPromotion());
+    picker.Show();
 }
 
 void frmScorlet::RecordChanged(const ChosenLines& chosen) {
@@ -144,9 +145,19 @@ void frmScorlet::RecordChanged(const ChosenLines& chosen) {
 
 void frmScorlet::RecordReplaced() {
     EndEdit(false);
+    EndTyping(false);
     input.Reset();
     lists.ChooseNone();
     ShowRecord();
+}
+
+void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
+    EndEdit(false);
+    EndTyping(false);
+    input.Cancel();
+    lists.ChooseNone();
+    RecordChanged(chosen);
+    TellSpokenName(picBoard);
 }
 
 void frmScorlet::ShowBoard() {
@@ -168,16 +179,13 @@ void frmScorlet::ShowBoard() {
 
 bool frmScorlet::TakeMessage(MSG& message) {
     if (message.hwnd != Window() && !IsChild(Window(), message.hwnd)) return false;
-    if (message.message == WM_CHAR && IsPauseKey(message.wParam) && message.hwnd != Control(txtMove)) {
+    if (message.message == WM_CHAR && IsPauseKey(message.wParam) && !IsOfKind(message.hwnd, WC_EDITW)) {
         // By way of the window, whose procedure ends all exceptions.
         SendMessageW(Window(), WM_CHAR, message.wParam, message.lParam);
         return true;
     }
     if (message.message == WM_KEYDOWN && message.wParam == VK_SPACE) {
-        wchar_t kind[16]{};
-        GetClassNameW(message.hwnd, kind, 16);
-        const bool takesSpace = lstrcmpiW(kind, WC_EDITW) == 0 || lstrcmpiW(kind, WC_BUTTONW) == 0;
-        if (!takesSpace) {
+        if (!IsOfKind(message.hwnd, WC_EDITW) && !IsOfKind(message.hwnd, WC_BUTTONW)) {
             if (!(HIWORD(message.lParam) & KF_REPEAT)) SendMessageW(Window(), WM_BOARDKEY, VK_SPACE, 0);
             return true;
         }
@@ -190,6 +198,8 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
+        case WM_BOARDCHARACTER: return OnBoardCharacter(static_cast<wchar_t>(wParam));
+        case WM_ENDTYPING: EndTyping(wParam != 0); return 0;
         case WM_CHAR:
             if (IsPauseKey(wParam)) game.PressKeyP();
             return 0;
@@ -200,9 +210,8 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
-            return reinterpret_cast<LRESULT>(painter.BackgroundBrush());
+            return reinterpret_cast<LRESULT>(
+                OnColour(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
         case WM_ERASEBKGND: {
             RECT client{};
             GetClientRect(Window(), &client);
@@ -228,12 +237,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmScorlet::OnCommand(int id, int notification) {
-    if (IsPromotion(id)) {
-        recorder.Promote(PromotionKinds[static_cast<size_t>(id - imgPromotionQ)]);
-        ShowEdit();
-        SetFocus(Control(picBoard));
-        return;
-    }
+    if (PromotionPicker::Has(id)) return Promote(PromotionPicker::KindOf(id));
     switch (id) {
         case cmbSay:
             if (notification == CBN_DROPDOWN) say.Fill(captions);
@@ -246,7 +250,13 @@ void frmScorlet::OnCommand(int id, int notification) {
         case txtMove:
             if (notification == EN_CHANGE) field.OnChange();
             return;
+        case txtTypedMove:
+            if (notification == EN_CHANGE) typing.OnChange();
+            if (notification == EN_KILLFOCUS) EndTyping(false);
+            return;
         case cmdOK: return EndEdit(true);
+        case mnuTakeBack: return game.TakeBack();
+        case mnuRedo: return game.Redo();
         case mnuEditMove: return BeginEdit(menuList);
         case mnuPrintMoveList: SendMessageW(shell, WM_COMMAND, mnuPrint, 0); return;
         case mnuDeleteLastMove:
@@ -284,11 +294,49 @@ void frmScorlet::OnSquare(Square square) {
 }
 
 void frmScorlet::ShowEdit(std::optional<ChosenLine> chosen) {
-    ShowRecord(chosen);
     game.RecordEdited();
+    ShowRecord(chosen);
+}
+
+void frmScorlet::Promote(PieceKind kind) {
+    recorder.Promote(kind);
+    ShowEdit();
+    SetFocus(Control(picBoard));
+}
+
+bool frmScorlet::OnBoardCharacter(wchar_t character) {
+    if (const auto kind = picker.OnCharacter(character)) {
+        Promote(*kind);
+    } else if (character < 128 && BeginsMove(static_cast<char>(character))) {
+        typing.Show(character);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void frmScorlet::EndTyping(bool enter) {
+    if (!typing.Open()) return;
+    if (enter) {
+        const auto match = typing.Match(recorder, captions);
+        if (!match) return TellSpokenName(txtTypedMove);
+        input.Cancel();
+        const ChosenLine line = recorder.Play(match->Played.Origin, match->Played.Destination);
+        if (match->Promotion != PieceKind::None) recorder.Promote(match->Promotion);
+        ShowEdit(line);
+    }
+    // Before it is hidden: a window that is hidden gives the focus to its form.
+    if (GetFocus() == Control(txtTypedMove)) SetFocus(Control(picBoard));
+    typing.Hide();
 }
 
 bool frmScorlet::OnBoardKey(WPARAM key) {
+    std::optional<PieceKind> chosen;
+    if (picker.OnKey(key, chosen)) {
+        if (chosen) Promote(*chosen);
+        TellSpokenName(picBoard);
+        return true;
+    }
     switch (key) {
         case VK_LEFT: input.MoveCursor(-1, 0); break;
         case VK_RIGHT: input.MoveCursor(1, 0); break;
@@ -328,13 +376,7 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
         if (HIWORD(row) == 0 && LOWORD(row) < recorder.List(menuList).Entries().size())
             lists.Choose({menuList, LOWORD(row)});
     }
-    const UINT state = lists.Chosen(menuList) ? MF_ENABLED : MF_GRAYED;
-    const HMENU menu = CreatePopupMenu();
-    AppendMenuW(menu, MF_STRING | state, mnuEditMove, captions(TextId::EditMove).c_str());
-    AppendMenuW(menu, MF_STRING, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
-    AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, captions(TextId::DeleteLastMove).c_str());
-    TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
-    DestroyMenu(menu);
+    ShowListMenu(Window(), point, captions, game, lists.Chosen(menuList).has_value());
     return true;
 }
 
@@ -362,7 +404,8 @@ void frmScorlet::EndEdit(bool accept) {
 }
 
 std::wstring frmScorlet::SpokenName(int id) const {
-    if (id == picBoard) return SpokenBoard(captions, recorder, input);
+    if (id == picBoard)
+        return picker.TakesKeys() ? picker.SpokenText(captions) : SpokenBoard(captions, recorder, input);
     if (IsCell(id)) return SpokenSquare(captions, recorder, input, static_cast<Square>(id - picBoard));
     if (IsCaptured(id)) {
         const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
@@ -373,6 +416,7 @@ std::wstring frmScorlet::SpokenName(int id) const {
         case lstMoves + 1:
             return captions.SideName(id == lstMoves ? White : Black) + L", " + captions(TextId::MovesOfSide);
         case txtMove: return WithoutAccessKey(captions(TextId::EditMove));
+        case txtTypedMove: return typing.SpokenText(captions);
         default: return {};
     }
 }
@@ -380,7 +424,7 @@ std::wstring frmScorlet::SpokenName(int id) const {
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
     if (id == picBoard) return painter.DrawBoardEdge(item, layout);
-    if (IsPromotion(id)) return painter.DrawPromotion(item, static_cast<size_t>(id - imgPromotionQ));
+    if (PromotionPicker::Has(id)) return picker.Draw(item);
     if (IsCaptured(id)) {
         const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
         return painter.DrawCaptured(item, piece, input.IsPicked(piece, slot));
@@ -390,6 +434,13 @@ void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     CellLook look = input.LookOf(square);
     look.Cursor = look.Cursor && GetFocus() == Control(picBoard);
     painter.DrawCell(item, square, look);
+}
+
+HBRUSH frmScorlet::OnColour(HDC dc, int id) const {
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+    const HBRUSH warning = id == lblWhoseMove ? whoseMove.Colours(dc) : nullptr;
+    return warning ? warning : painter.BackgroundBrush();
 }
 
 int frmScorlet::ChildAt(POINT point) const {
@@ -428,6 +479,9 @@ LRESULT CALLBACK frmScorlet::BoardProcedure(HWND board, UINT message, WPARAM wPa
             // A held arrow moves on; a held Enter must not pick and drop in turns.
             if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
             if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
+            break;
+        case WM_CHAR:
+            if (SendMessageW(form->Window(), WM_BOARDCHARACTER, wParam, 0)) return 0;
             break;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:

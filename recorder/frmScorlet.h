@@ -3,10 +3,13 @@
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
 #include "recorder/MoveField.h"
+#include "recorder/PromotionPicker.h"
 #include "recorder/SayList.h"
 #include "recorder/ScorletGame.h"
 #include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
+#include "recorder/TypedMoveField.h"
+#include "recorder/WhoseMoveLine.h"
 
 #include <array>
 #include <optional>
@@ -36,6 +39,9 @@ class frmScorlet : public Form, private RecordView {
     std::wstring SpokenName(int id) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
+    void RecordTakenBack(const ChosenLines& chosen) override;
+    ChosenLines Chosen() const override { return lists.Chosen(); }
+    void ShowWhoseMove() override { whoseMove.Show(captions, game.NextMove()); }
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
@@ -50,10 +56,14 @@ class frmScorlet : public Form, private RecordView {
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
     bool OnBoardKey(WPARAM key);
+    bool OnBoardCharacter(wchar_t character);
+    void Promote(PieceKind kind);
+    void EndTyping(bool enter);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
+    HBRUSH OnColour(HDC dc, int id) const;
     bool OnSetCursor() const;
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     int ChildAt(POINT point) const;
@@ -67,7 +77,9 @@ class frmScorlet : public Form, private RecordView {
     const HWND shell;
     BoardInput input{recorder};
     MoveField field{*this};
+    TypedMoveField typing{*this};
     SayList say{*this};
+    WhoseMoveLine whoseMove{*this};
     ScorletLists lists{*this, recorder};
     // The entry that is open in the edit field, and how it was.
     struct Edited {
@@ -77,6 +89,7 @@ class frmScorlet : public Form, private RecordView {
     std::optional<Edited> edited;
     Side menuList = White;
     ScorletPainter painter;
+    PromotionPicker picker{*this, recorder, painter};
     ScorletLayout layout{};
     std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
     UniqueCursor handPointBlue;

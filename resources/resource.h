@@ -46,6 +46,9 @@ enum ClockControl : int {
     mnuCopyGame,
     mnuCopyPosition,
     mnuExportPgn,
+    mnuTakeBack,
+    mnuRedo,
+    mnuGoOn,
     // These have no menu entry.
     mnuNextWindow,
     mnuSetupByKey,
@@ -75,6 +78,9 @@ enum ScorletControl : int {
     cmbSay,
     lstMoves = 2152,  // White's list, then Black's
     txtMove = 2154,
+    txtTypedMove,
+    lblTypedMove,
+    lblWhoseMove = 2157,
 
     mnuEditMove = 2160,
     mnuPrintMoveList,
@@ -157,6 +163,8 @@ enum ClockMessage : unsigned {
 enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board
     WM_ENDEDIT,            // the edit of a move ends: with 1 in wParam it is accepted
+    WM_BOARDCHARACTER,     // a character in wParam for the board
+    WM_ENDTYPING,          // the typing of a move ends: with 1 in wParam it is to be entered
 };
 
 // The timers of the clock window.

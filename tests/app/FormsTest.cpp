@@ -90,7 +90,9 @@ void Change(const Form& form, const Texts& texts, int state) {
     if (!clock) {
         for (int up = 0; state == 2 && up < 5; ++up) key(VK_UP);
         if (state < 3) return key(VK_RETURN);
-        for (const int id : {int{txtMove}, int{cmdOK}}) form.SetVisible(id, true);
+        for (const int id : {int{txtMove}, int{cmdOK}, int{txtTypedMove}, int{lblTypedMove}}) form.SetVisible(id, true);
+        form.SetText(lblTypedMove, texts.Compose(TextId::SeveralMovesMatch, L"Nb1-d2, Nf3-d2"));
+        form.SetText(lblWhoseMove, texts.Compose(TextId::OtherColourMoved, texts.SideName(White), L"299"));
         return;
     }
     // The longest that the panels come to show.

@@ -13,8 +13,8 @@ std::string Places(int width, int height, int dpi) {
     return ExpectApartInside({layout.Cell(1, 8), layout.Cell(8, 1)}, layout.Board) + "; " +
            ExpectApartInside(
                {layout.Board, layout.CapturedTitle, layout.CapturedRows[White], layout.CapturedRows[Black],
-                layout.SayLabel, layout.Say, layout.Lists[White], layout.Lists[Black], layout.Edit, layout.EditOk,
-                layout.PromotionTitle, queen, rook, bishop, knight},
+                layout.SayLabel, layout.Say, layout.WhoseMove, layout.Lists[White], layout.Lists[Black], layout.Edit,
+                layout.EditOk, layout.PromotionTitle, queen, rook, bishop, knight},
                {0, 0, width, height}) +
            "; " + std::to_string(layout.Edge) + " " + std::to_string(layout.Slot) + " " +
            std::to_string(layout.CoordinateType);
@@ -29,8 +29,9 @@ TEST(ScorletLayoutTest, NothingOverlapsOrLeavesTheWindowAtAnySize) {
     EXPECT_TRUE(narrow.starts_with("28:10 29x29") && narrow.ends_with(" 45x45; 18 16 12")) << narrow;
     Places(ScorletWidth * 2, ScorletHeight * 2, 192);
     // As it was drawn.
-    EXPECT_EQ(Places(ScorletWidth, ScorletHeight, 96),
-              "28:10 57x57, 427:409 57x57; 10:10 474x474, 10:494 474x20, 10:514 474x26, 10:540 474x26, 494:10 "
-              "70x24, 568:10 142x24, 494:44 105x432, 605:44 105x432, 494:482 146x24, 646:482 64x24, 494:512 "
-              "216x20, 494:532 48x48, 548:532 48x48, 602:532 48x48, 656:532 48x48; 18 26 12");
+    EXPECT_EQ(
+        Places(ScorletWidth, ScorletHeight, 96),
+        "28:10 57x57, 427:409 57x57; 10:10 474x474, 10:494 474x20, 10:514 474x26, 10:540 474x26, 494:10 "
+        "70x24, 568:10 142x24, 494:40 216x32, 494:76 105x400, 605:76 105x400, 494:482 146x24, 646:482 64x24, 494:512 "
+        "216x20, 494:532 48x48, 548:532 48x48, 602:532 48x48, 656:532 48x48; 18 26 12");
 }
