@@ -71,6 +71,7 @@ class Game final : public ScorletGame {
 
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
+    std::string PlayerName(Side side) const override { return settings.PlayerNames[side]; }
     void RecordEdited() override { Changed(); }
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.

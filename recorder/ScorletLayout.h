@@ -14,21 +14,27 @@ struct ScorletLayout {
     std::array<Box, 2> CapturedRows;  // the captured pieces of each side
     int Slot;                         // side of a captured piece's picture
     Box SayLabel, Say;
-    std::array<Box, 2> Lists;
+    Box WhoseMove;
+    std::array<Box, 2> ListHeads, Lists;
     Box Edit, EditOk;
     Box PromotionTitle;
     std::array<Box, 4> Promotion;
-    int CoordinateType;
+    int Type, CoordinateType;  // heights of type
 
     // The square of a file and a rank, 1 to 8, seen from White's side.
     Box Cell(int file, int rank) const {
         return {Board.Left + Edge + (file - 1) * CellSize, Board.Top + (8 - rank) * CellSize, CellSize, CellSize};
     }
+    // The place of a captured piece, counted from 0 at the left of its side's row.
+    Box Captured(Side side, int place) const {
+        return {CapturedRows[side].Left + place * Slot, CapturedRows[side].Top, Slot, Slot};
+    }
 };
 
 // The client size at first, and the smallest, at 96 dpi.
 inline constexpr int ScorletWidth = 720, ScorletHeight = 590;
-inline constexpr int ScorletLeastWidth = 480, ScorletLeastHeight = 420;
+inline constexpr int ScorletLeastWidth = 360, ScorletLeastHeight = 420;
 
-// The board takes the room that there is; the size of lists, fields and type depends on the resolution only.
+// The lists lie beside the board or, where that makes the squares clearly larger, below it. The board takes the room
+// that there is; everything else grows with the window, from the size that the resolution asks for.
 ScorletLayout LayOutScorlet(int width, int height, int dpi);

@@ -14,19 +14,22 @@ class ScorletPainter {
   public:
     // Throws a SystemError that names the picture.
     void LoadPictures();
-    void SetLayout(const ScorletLayout& layout, int dpi);
+    void SetLayout(const ScorletLayout& layout);
 
     HFONT Font() const { return font.get(); }
+    HFONT HeadFont() const { return headFont.get(); }
     // The system's own colour of dialogs, since the lists and fields are the system's too.
     HBRUSH BackgroundBrush() const { return GetSysColorBrush(COLOR_BTNFACE); }
 
+    // What the captured pieces lie on.
+    void DrawTrays(HDC dc, const ScorletLayout& layout) const;
     void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
     void DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const;
     void DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const;
     void DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const;
 
   private:
-    UniqueFont font, coordinateFont;
+    UniqueFont font, headFont, coordinateFont;
     std::array<Picture, 16> pieces;  // by piece
     std::array<Picture, 4> promotions;
 };

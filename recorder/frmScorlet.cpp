@@ -82,6 +82,8 @@ void frmScorlet::CreateControls() {
     for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
+    for (Side side : BothSides)
+        AddControl(WC_STATICW, ControlOf(lblPlayer, side), WS_VISIBLE | SS_CENTERIMAGE | SS_NOPREFIX | SS_ENDELLIPSIS);
     lists.Create();
     field.Create(WM_ENDEDIT);
     AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
@@ -98,12 +100,19 @@ void frmScorlet::ApplyTexts() {
     say.Fill(captions);
 }
 
+void frmScorlet::ShowNames() {
+    for (Side side : BothSides) {
+        const std::wstring name = FromAnsi(game.PlayerName(side));
+        SetText(ControlOf(lblPlayer, side), name.empty() ? captions.SideName(side) : name);
+    }
+}
+
 void frmScorlet::Arrange() {
     RECT client{};
     GetClientRect(Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
     layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi());
-    painter.SetLayout(layout, Dpi());
+    painter.SetLayout(layout);
     const auto place = [&](int id, const Box& box) {
         SetWindowPos(Control(id), nullptr, box.Left, box.Top, box.Width, box.Height, SWP_NOZORDER | SWP_NOACTIVATE);
         SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
@@ -111,23 +120,27 @@ void frmScorlet::Arrange() {
     ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
     place(picBoard, layout.Board);
     place(lblCaptured, layout.CapturedTitle);
-    for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const Box& row = layout.CapturedRows[i < CapturedSlots ? White : Black];
-        place(imgCapturedWQ + i, {row.Left + i % CapturedSlots * layout.Slot, row.Top, layout.Slot, layout.Slot});
-    }
     place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
     place(cmbSay, {layout.Say.Left, layout.Say.Top, layout.Say.Width, 8 * layout.Say.Height});
-    for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.Lists[side]);
+    for (Side side : BothSides) {
+        place(ControlOf(lblPlayer, side), layout.ListHeads[side]);
+        SendMessageW(Control(ControlOf(lblPlayer, side)), WM_SETFONT, reinterpret_cast<WPARAM>(painter.HeadFont()),
+                     FALSE);
+        place(ControlOf(lstMoves, side), layout.Lists[side]);
+        SendMessageW(Control(ControlOf(lstMoves, side)), LB_SETITEMHEIGHT, 0, layout.Type * 4 / 3);
+    }
     place(txtMove, layout.Edit);
     place(cmdOK, layout.EditOk);
     place(lblPromotion, layout.PromotionTitle);
     for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.Promotion[static_cast<size_t>(i)]);
+    ShowCaptured();
     lists.Show();
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
+    ShowNames();
     ShowBoard();
     lists.Show();
     if (chosen) lists.Choose(*chosen);
@@ -140,6 +153,7 @@ void frmScorlet::RecordChanged(const ChosenLines& chosen) {
     for (Side side : BothSides) {
         if (chosen[side]) lists.Choose({side, *chosen[side]});
     }
+    lists.ShowLast();
 }
 
 void frmScorlet::RecordReplaced() {
@@ -158,11 +172,21 @@ void frmScorlet::ShowBoard() {
         SetText(CellOf(square), FromAnsi(PieceCode(look.Shown)));
         InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
     });
+    ShowCaptured();
+}
+
+void frmScorlet::ShowCaptured() {
+    std::array<int, 2> places{};
     for (int i = 0; i < 2 * CapturedSlots; ++i) {
         const auto [piece, slot] = SlotOf(i);
         const bool shown = recorder.Position().CapturedShown(piece, slot);
+        if (shown) {
+            const Box box = layout.Captured(SideOf(piece), places[SideOf(piece)]++);
+            SetWindowPos(Control(imgCapturedWQ + i), nullptr, box.Left, box.Top, box.Width, box.Height,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
+        }
         SetVisible(imgCapturedWQ + i, shown);
-        if (shown) InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
     }
 }
 
@@ -207,6 +231,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             RECT client{};
             GetClientRect(Window(), &client);
             FillRect(reinterpret_cast<HDC>(wParam), &client, painter.BackgroundBrush());
+            painter.DrawTrays(reinterpret_cast<HDC>(wParam), layout);
             return TRUE;
         }
         case WM_SIZE: Arrange(); return 0;
@@ -276,10 +301,12 @@ void frmScorlet::OnMouseDown(POINT point) {
 void frmScorlet::OnSquare(Square square) {
     const bool puttingBack = input.Captured().has_value();
     const auto line = input.Click(square);
-    if (line)
+    if (line) {
         ShowEdit(line);
-    else
+        lists.ShowLast();
+    } else {
         ShowBoard();
+    }
     if (puttingBack) game.RecordEdited();
 }
 
@@ -377,8 +404,17 @@ std::wstring frmScorlet::SpokenName(int id) const {
     }
 }
 
+std::wstring frmScorlet::SpokenPart(int id, int part) const {
+    if (id != lstMoves && id != lstMoves + 1) return {};
+    const MoveList& list = recorder.List(id == lstMoves ? White : Black);
+    const auto index = static_cast<size_t>(part - 1);
+    // With the number in both lists, as in White's.
+    return index < list.Entries().size() ? FromAnsi(list.Line(index, White)) : L"";
+}
+
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
+    if (id == lstMoves || id == lstMoves + 1) return lists.Draw(item, id == lstMoves ? White : Black);
     if (id == picBoard) return painter.DrawBoardEdge(item, layout);
     if (IsPromotion(id)) return painter.DrawPromotion(item, static_cast<size_t>(id - imgPromotionQ));
     if (IsCaptured(id)) {

@@ -34,6 +34,7 @@ class frmScorlet : public Form, private RecordView {
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::wstring SpokenName(int id) const override;
+    std::wstring SpokenPart(int id, int part) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
 
@@ -44,7 +45,9 @@ class frmScorlet : public Form, private RecordView {
     void CreateControls();
     void ApplyTexts();
     void Arrange();
+    void ShowNames();
     void ShowBoard();
+    void ShowCaptured();
 
     void OnCommand(int id, int notification);
     void OnMouseDown(POINT point);

@@ -72,6 +72,7 @@ enum ScorletControl : int {
     cmbSay,
     lstMoves = 2152,  // White's list, then Black's
     txtMove = 2154,
+    lblPlayer = 2156,  // the headings of the lists
 
     mnuEditMove = 2160,
     mnuPrintMoveList,
