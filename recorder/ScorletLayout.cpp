@@ -90,6 +90,13 @@ class Arrangement {
 
 }  // namespace
 
+Square ScorletLayout::SquareAt(int x, int y) const {
+    const Box corner = Cell(1, 8);
+    if (x < corner.Left || y < corner.Top) return NoSquare;
+    const int file = (x - corner.Left) / CellSize + 1, rank = 8 - (y - corner.Top) / CellSize;
+    return OnBoard(file, rank) ? ::SquareAt(file, rank) : NoSquare;
+}
+
 ScorletLayout LayOutScorlet(int width, int height, int dpi) {
     const ScorletLayout beside = Arrangement(width, height, dpi, false).Layout();
     const ScorletLayout below = Arrangement(width, height, dpi, true).Layout();

@@ -2,6 +2,7 @@
 
 #include "base/Box.h"
 #include "base/Side.h"
+#include "recorder/Square.h"
 
 #include <array>
 
@@ -25,6 +26,8 @@ struct ScorletLayout {
     Box Cell(int file, int rank) const {
         return {Board.Left + Edge + (file - 1) * CellSize, Board.Top + (8 - rank) * CellSize, CellSize, CellSize};
     }
+    // The square at a point; NoSquare outside the squares.
+    Square SquareAt(int x, int y) const;
     // The place of a captured piece, counted from 0 at the left of its side's row.
     Box Captured(Side side, int place) const {
         return {CapturedRows[side].Left + place * Slot, CapturedRows[side].Top, Slot, Slot};

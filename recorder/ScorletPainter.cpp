@@ -96,8 +96,8 @@ void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const C
 
     const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
     if (look.LastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
-    if (look.Origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
-    pieces[static_cast<size_t>(look.Shown)].Draw(buffer.Dc(), 0, 0, size);
+    if (look.Origin || look.Target) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
+    if (!look.Lifted) PictureOf(look.Shown).Draw(buffer.Dc(), 0, 0, size);
     if (look.Cursor) {
         InflateRect(&area, -thickness, -thickness);
         SetTextColor(buffer.Dc(), RGB(0, 0, 0));
@@ -109,7 +109,7 @@ void ScorletPainter::DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool 
     const Buffered buffer(item);
     const RECT area = buffer.Area();
     Fill(buffer.Dc(), area, TrayColour);
-    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    PictureOf(piece).Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
     if (picked) ThickFrame(buffer.Dc(), area, PickedColour, 2);
 }
 

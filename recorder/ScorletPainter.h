@@ -21,10 +21,14 @@ class ScorletPainter {
     // The system's own colour of dialogs, since the lists and fields are the system's too.
     HBRUSH BackgroundBrush() const { return GetSysColorBrush(COLOR_BTNFACE); }
 
+    // Empty for no piece, and where the picture could not be loaded.
+    const Picture& PictureOf(Piece piece) const { return pieces[static_cast<size_t>(piece)]; }
+
     // What the captured pieces lie on.
     void DrawTrays(HDC dc, const ScorletLayout& layout) const;
     void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
     void DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const;
+    // With Piece::Empty the place of one that is dragged.
     void DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const;
     void DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const;
 

@@ -21,22 +21,11 @@ constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind
 constexpr std::array PromotionTexts{TextId::PromotionQueen, TextId::PromotionRook, TextId::PromotionBishop,
                                     TextId::PromotionKnight};
 
-constexpr int CellOf(Square square) { return picBoard + static_cast<int>(square); }
-bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIndexes && IsSquare(id - picBoard); }
-bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
-static_assert(CapturedSlots == SlotsPerSide);
 bool IsPromotion(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
 
 std::wstring WithoutAccessKey(std::wstring caption) {
     std::erase(caption, L'&');
     return caption;
-}
-
-template <typename Action>
-void ForEachSquare(Action action) {
-    for (int rank = 8; rank >= 1; --rank) {
-        for (int file = 1; file <= 8; ++file) action(SquareAt(file, rank));
-    }
 }
 
 }  // namespace
@@ -74,12 +63,10 @@ std::wstring frmScorlet::Open(const RECT& place) {
 }
 
 void frmScorlet::CreateControls() {
-    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
-    // The order is the reading and the tab order. The cells lie above the board, so they come before it.
-    ForEachSquare([&](Square square) { AddControl(WC_STATICW, CellOf(square), drawn); });
-    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP | WS_CLIPSIBLINGS);
+    // The order is the reading and the tab order.
+    board.Create();
     AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
-    for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
+    board.CreateCaptured();
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
     for (Side side : BothSides)
@@ -117,8 +104,7 @@ void frmScorlet::Arrange() {
         SetWindowPos(Control(id), nullptr, box.Left, box.Top, box.Width, box.Height, SWP_NOZORDER | SWP_NOACTIVATE);
         SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
     };
-    ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
-    place(picBoard, layout.Board);
+    board.Place(layout);
     place(lblCaptured, layout.CapturedTitle);
     place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
@@ -134,7 +120,6 @@ void frmScorlet::Arrange() {
     place(cmdOK, layout.EditOk);
     place(lblPromotion, layout.PromotionTitle);
     for (int i = 0; i < 4; ++i) place(imgPromotionQ + i, layout.Promotion[static_cast<size_t>(i)]);
-    ShowCaptured();
     lists.Show();
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -164,30 +149,8 @@ void frmScorlet::RecordReplaced() {
 }
 
 void frmScorlet::ShowBoard() {
-    ForEachSquare([&](Square square) {
-        std::optional<CellLook>& shown = shownCells[static_cast<size_t>(square)];
-        const CellLook look = input.LookOf(square);
-        if (look == shown) return;
-        shown = look;
-        SetText(CellOf(square), FromAnsi(PieceCode(look.Shown)));
-        InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
-    });
-    ShowCaptured();
-}
-
-void frmScorlet::ShowCaptured() {
-    std::array<int, 2> places{};
-    for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const auto [piece, slot] = SlotOf(i);
-        const bool shown = recorder.Position().CapturedShown(piece, slot);
-        if (shown) {
-            const Box box = layout.Captured(SideOf(piece), places[SideOf(piece)]++);
-            SetWindowPos(Control(imgCapturedWQ + i), nullptr, box.Left, box.Top, box.Width, box.Height,
-                         SWP_NOZORDER | SWP_NOACTIVATE);
-            InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
-        }
-        SetVisible(imgCapturedWQ + i, shown);
-    }
+    board.Show();
+    mouse.Follow();
 }
 
 bool frmScorlet::TakeMessage(MSG& message) {
@@ -213,6 +176,19 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
+        case WM_MOUSEMOVE:
+            mouse.Move({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            ShowBoard();
+            return 0;
+        case WM_LBUTTONUP: {
+            const bool puttingBack = input.Captured().has_value();
+            ShowEntered(mouse.Release({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}), puttingBack);
+            return 0;
+        }
+        case WM_CAPTURECHANGED:
+            mouse.CaptureLost();
+            ShowBoard();
+            return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
         case WM_CHAR:
             if (IsPauseKey(wParam)) game.PressKeyP();
@@ -296,11 +272,15 @@ void frmScorlet::OnMouseDown(POINT point) {
         return;
     }
     SetFocus(Control(picBoard));
+    mouse.Press(point);
 }
 
 void frmScorlet::OnSquare(Square square) {
     const bool puttingBack = input.Captured().has_value();
-    const auto line = input.Click(square);
+    ShowEntered(input.Click(square), puttingBack);
+}
+
+void frmScorlet::ShowEntered(const std::optional<ChosenLine>& line, bool puttingBack) {
     if (line) {
         ShowEdit(line);
         lists.ShowLast();
@@ -415,17 +395,8 @@ std::wstring frmScorlet::SpokenPart(int id, int part) const {
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
     if (id == lstMoves || id == lstMoves + 1) return lists.Draw(item, id == lstMoves ? White : Black);
-    if (id == picBoard) return painter.DrawBoardEdge(item, layout);
     if (IsPromotion(id)) return painter.DrawPromotion(item, static_cast<size_t>(id - imgPromotionQ));
-    if (IsCaptured(id)) {
-        const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
-        return painter.DrawCaptured(item, piece, input.IsPicked(piece, slot));
-    }
-    if (!IsCell(id)) return;
-    const auto square = static_cast<Square>(id - picBoard);
-    CellLook look = input.LookOf(square);
-    look.Cursor = look.Cursor && GetFocus() == Control(picBoard);
-    painter.DrawCell(item, square, look);
+    board.Draw(item);
 }
 
 int frmScorlet::ChildAt(POINT point) const {

@@ -2,8 +2,10 @@
 
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
+#include "recorder/BoardMouse.h"
 #include "recorder/MoveField.h"
 #include "recorder/SayList.h"
+#include "recorder/ScorletBoard.h"
 #include "recorder/ScorletGame.h"
 #include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
@@ -47,11 +49,12 @@ class frmScorlet : public Form, private RecordView {
     void Arrange();
     void ShowNames();
     void ShowBoard();
-    void ShowCaptured();
 
     void OnCommand(int id, int notification);
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
+    // After a piece has been picked or dropped, which may have written a line or put a captured piece back.
+    void ShowEntered(const std::optional<ChosenLine>& line, bool puttingBack);
     bool OnBoardKey(WPARAM key);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
     void BeginEdit(Side side);
@@ -81,6 +84,7 @@ class frmScorlet : public Form, private RecordView {
     Side menuList = White;
     ScorletPainter painter;
     ScorletLayout layout{};
-    std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
+    ScorletBoard board{*this, recorder, input, painter};
+    BoardMouse mouse{*this, input, painter, layout};
     UniqueCursor handPointBlue;
 };
