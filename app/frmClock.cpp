@@ -120,6 +120,13 @@ void frmClock::ShowAbout() {
     about.RunModal();
 }
 
+void frmClock::TurnBoard() {
+    game.TurnBoard();
+    UpdateMenu();
+    const std::wstring problem = settingsFile.SaveBoardTurned(settings.BoardTurned, texts);
+    if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+}
+
 void frmClock::ShowFiles(FilesMode mode) {
     frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
     files.Open(Window());
@@ -192,6 +199,7 @@ void frmClock::UpdateMenu() {
     entry.dwTypeData = pause.data();
     SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
     EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
+    CheckMenuItem(menu, mnuTurnBoard, MF_BYCOMMAND | (settings.BoardTurned ? MF_CHECKED : MF_UNCHECKED));
     for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint})
         EnableMenuItem(menu, scorletEntry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
 }
@@ -314,6 +322,7 @@ void frmClock::OnCommand(int id) {
             return;
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
+        case mnuTurnBoard: return TurnBoard();
         case mnuPrint: return printer.Print(Window());
         case mnuSetup:
         case mnuSetupByKey: return ShowSetup();

@@ -83,6 +83,11 @@ void Game::TakeSettings() {
     Changed();
 }
 
+void Game::TurnBoard() {
+    settings.BoardTurned = !settings.BoardTurned;
+    if (record) recordView->RecordChanged({});
+}
+
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
     record.emplace();
@@ -121,7 +126,9 @@ GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDa
 
 void Game::TakeLoadedGame(const SavedGame& saved) {
     LeaveGame();
+    const bool turned = settings.BoardTurned;
     settings = saved.Options;
+    settings.BoardTurned = turned;
     clock.TakeLoadedGame(saved.Clock);
     ShowWhole();
     ReplaceRecord(saved.Scorlet);

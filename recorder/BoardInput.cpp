@@ -96,8 +96,9 @@ void BoardInput::Cancel() {
     captured.reset();
 }
 
-void BoardInput::MoveCursor(int files, int ranks) {
-    cursor = SquareAt(std::clamp(FileOf(cursor) + files, 1, 8), std::clamp(RankOf(cursor) + ranks, 1, 8));
+void BoardInput::MoveCursor(int right, int up) {
+    const int way = turned ? -1 : 1;
+    cursor = SquareAt(std::clamp(FileOf(cursor) + way * right, 1, 8), std::clamp(RankOf(cursor) + way * up, 1, 8));
 }
 
 CellLook BoardInput::LookOf(Square square) const {

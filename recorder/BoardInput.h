@@ -61,8 +61,10 @@ class BoardInput {
         Cancel();
         cursor = Start;
     }
-    // Moves the cursor, at most to the edge.
-    void MoveCursor(int files, int ranks);
+    // Moves the cursor by so many squares, at most to the edge, as the players see the board.
+    void MoveCursor(int right, int up);
+    // Whether they see Black's side below.
+    void Turn(bool toTurned) { turned = toTurned; }
 
   private:
     bool OfOneColour(Square first, Square second) const;
@@ -77,4 +79,5 @@ class BoardInput {
     Square target = NoSquare;
     static constexpr Square Start = SquareAt(5, 2);
     Square cursor = Start;
+    bool turned = false;
 };

@@ -33,6 +33,13 @@ void ScorletBoard::CreateCaptured() const {
 }
 
 void ScorletBoard::Place(const ScorletLayout& newLayout) {
+    if (newLayout.Turned != layout.Turned) {
+        // So that reading begins at the top left again: what is put on top last comes first.
+        ForEachSquare([&](Square square) {
+            const Square next = newLayout.Turned ? square : SquareAt(9 - FileOf(square), 9 - RankOf(square));
+            SetWindowPos(form.Control(CellOf(next)), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        });
+    }
     layout = newLayout;
     ForEachSquare(
         [&](Square square) { MoveTo(form.Control(CellOf(square)), layout.Cell(FileOf(square), RankOf(square))); });

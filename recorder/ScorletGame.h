@@ -5,7 +5,8 @@
 // A window that shows the record.
 class RecordView {
   public:
-    // The game has added to the record, or the players' names have changed; the lines are to be shown as chosen.
+    // The game has added to the record, or what it says of players and board has changed; the lines are to be shown as
+    // chosen.
     virtual void RecordChanged(const ChosenLines& chosen) = 0;
     // The record has become another one: what was under way in the window is over.
     virtual void RecordReplaced() = 0;
@@ -25,6 +26,7 @@ class ScorletGame {
     virtual void CloseRecord() = 0;
     // In the ANSI code page; empty where the player has none.
     virtual std::string PlayerName(Side side) const = 0;
+    virtual bool BoardTurned() const = 0;  // Black's side is below
 
     virtual void RecordEdited() = 0;  // the window has changed the record
     virtual void Declare(Declaration declaration) = 0;

@@ -91,14 +91,17 @@ class Arrangement {
 }  // namespace
 
 Square ScorletLayout::SquareAt(int x, int y) const {
-    const Box corner = Cell(1, 8);
-    if (x < corner.Left || y < corner.Top) return NoSquare;
-    const int file = (x - corner.Left) / CellSize + 1, rank = 8 - (y - corner.Top) / CellSize;
+    const int left = x - Board.Left - Edge, top = y - Board.Top;
+    if (left < 0 || top < 0) return NoSquare;
+    const int column = left / CellSize, row = top / CellSize;
+    const int file = Turned ? 8 - column : column + 1, rank = Turned ? row + 1 : 8 - row;
     return OnBoard(file, rank) ? ::SquareAt(file, rank) : NoSquare;
 }
 
-ScorletLayout LayOutScorlet(int width, int height, int dpi) {
+ScorletLayout LayOutScorlet(int width, int height, int dpi, bool turned) {
     const ScorletLayout beside = Arrangement(width, height, dpi, false).Layout();
     const ScorletLayout below = Arrangement(width, height, dpi, true).Layout();
-    return 9 * below.CellSize > 10 * beside.CellSize ? below : beside;
+    ScorletLayout layout = 9 * below.CellSize > 10 * beside.CellSize ? below : beside;
+    layout.Turned = turned;
+    return layout;
 }

@@ -11,6 +11,7 @@ struct ScorletLayout {
     Box Board;     // with the coordinates on its left and below it
     int Edge;      // width of the coordinates
     int CellSize;  // side of a square
+    bool Turned;   // Black's side is below
     Box CapturedTitle;
     std::array<Box, 2> CapturedRows;  // the captured pieces of each side
     int Slot;                         // side of a captured piece's picture
@@ -22,9 +23,10 @@ struct ScorletLayout {
     std::array<Box, 4> Promotion;
     int Type, CoordinateType;  // heights of type
 
-    // The square of a file and a rank, 1 to 8, seen from White's side.
+    // The square of a file and a rank, 1 to 8.
     Box Cell(int file, int rank) const {
-        return {Board.Left + Edge + (file - 1) * CellSize, Board.Top + (8 - rank) * CellSize, CellSize, CellSize};
+        const int column = Turned ? 8 - file : file - 1, row = Turned ? rank - 1 : 8 - rank;
+        return {Board.Left + Edge + column * CellSize, Board.Top + row * CellSize, CellSize, CellSize};
     }
     // The square at a point; NoSquare outside the squares.
     Square SquareAt(int x, int y) const;
@@ -40,4 +42,4 @@ inline constexpr int ScorletLeastWidth = 360, ScorletLeastHeight = 420;
 
 // The lists lie beside the board or, where that makes the squares clearly larger, below it. The board takes the room
 // that there is; everything else grows with the window, from the size that the resolution asks for.
-ScorletLayout LayOutScorlet(int width, int height, int dpi);
+ScorletLayout LayOutScorlet(int width, int height, int dpi, bool turned);

@@ -98,7 +98,8 @@ void frmScorlet::Arrange() {
     RECT client{};
     GetClientRect(Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
-    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi());
+    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi(), game.BoardTurned());
+    input.Turn(layout.Turned);
     painter.SetLayout(layout);
     const auto place = [&](int id, const Box& box) {
         SetWindowPos(Control(id), nullptr, box.Left, box.Top, box.Width, box.Height, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -126,6 +127,7 @@ void frmScorlet::Arrange() {
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
     ShowNames();
+    if (layout.Turned != game.BoardTurned()) Arrange();
     ShowBoard();
     lists.Show();
     if (chosen) lists.Choose(*chosen);

@@ -47,6 +47,7 @@ enum ClockControl : int {
     mnuNextWindow,
     mnuSetupByKey,
     mnuScorletHelp,
+    mnuTurnBoard,  // in the Scorlet menu
 };
 
 // The Scorlet.

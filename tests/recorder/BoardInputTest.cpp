@@ -5,9 +5,9 @@
 namespace {
 
 // Clicks squares ("e2") and captured pieces ("BP0"), picks the next of them ("next"), moves the cursor ("-1,5"), "esc",
-// "reset", lifts what was clicked ("lift"), drags it over a square (">e4") and drops it there ("=e4") or on none ("=");
-// then what the squares show (o picked, u lifted, t dragged over, l last move, c cursor), the captured piece picked,
-// what the last word has written, and the trays.
+// "reset", turns the board ("turn"), lifts what was clicked ("lift"), drags it over a square (">e4") and drops it there
+// ("=e4") or on none ("="); then what the squares show (o picked, u lifted, t dragged over, l last move, c cursor), the
+// captured piece picked, what the last word has written, and the trays.
 std::string Shown(const std::string& script) {
     Recorder recorder;
     BoardInput input(recorder);
@@ -19,6 +19,7 @@ std::string Shown(const std::string& script) {
         if (word == "esc") input.Cancel();
         if (word == "reset") input.Reset();
         if (word == "lift") input.Lift();
+        if (word == "turn") input.Turn(true);
         if (word[0] == '>') input.PointAt(SquareNamed(word.substr(1)));
         if (comma != std::string::npos) input.MoveCursor(std::stoi(word), std::stoi(word.substr(comma + 1)));
         if (const auto piece = PieceOfCode(word.substr(0, 2))) input.ClickCaptured(*piece, word[2] - '0');
@@ -47,7 +48,7 @@ std::string Shown(const std::string& script) {
 
 TEST(BoardInputTest, ClicksAndKeys) {
     ExpectRows(Shown, R"(
-        => e2c | 7,-5 => h1c | -1,5 -9,9 => a8c | 2,1 0,0 => g3c | e4 => e4c | e2 => e2oc picked | e2 e2 => e2c
+        => e2c | 7,-5 => h1c | -1,5 -9,9 => a8c | 2,1 0,0 => g3c | turn 2,0 -9,-3 => h5c | e4 => e4c | e2 => e2oc picked | e2 e2 => e2c
         e2 d2 => d2oc picked | e2 esc => e2c | d2 reset => e2c | e2 e4 => e2l e4lc 1. e4
         e2 e4 a7 a5 => a5lc a7l a5 | e2 e7 => e2l e7lc x BP0 1. exe7 | e2 e7 BP1 => e2l e7lc x BP0
         e2 e7 BP0 => e2l e7lc picked BP0 x BP0 | e2 e7 d2 BP0 => d2c e2l e7l picked BP0 x BP0

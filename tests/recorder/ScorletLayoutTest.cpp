@@ -11,7 +11,7 @@ std::string Measures(const std::string& window) {
     const std::vector<std::string> words = Words(window);
     const int width = std::stoi(words.at(0)), height = std::stoi(words.at(1)), dpi = std::stoi(words.at(2));
     SCOPED_TRACE(window);
-    const ScorletLayout layout = LayOutScorlet(width, height, dpi);
+    const ScorletLayout layout = LayOutScorlet(width, height, dpi, false);
     const std::vector<Box> shown{layout.Board,
                                  layout.CapturedTitle,
                                  layout.CapturedRows[White],
@@ -31,6 +31,17 @@ std::string Measures(const std::string& window) {
     for (Side side : BothSides)
         ExpectApartInside({layout.Captured(side, 0), layout.Captured(side, 14)}, layout.CapturedRows[side]);
     EXPECT_GE(2 * layout.Slot, layout.CellSize);
+    for (const bool turned : {false, true}) {
+        const ScorletLayout board = LayOutScorlet(width, height, dpi, turned);
+        for (const Square square : {SquareAt(1, 8), SquareAt(8, 8), SquareAt(5, 2)}) {
+            const Box cell = board.Cell(FileOf(square), RankOf(square));
+            EXPECT_EQ(board.SquareAt(cell.Left, cell.Top), square) << turned;
+            EXPECT_EQ(board.SquareAt(cell.Right() - 1, cell.Bottom() - 1), square) << turned;
+        }
+        EXPECT_EQ(board.Cell(8, 1).Left < board.Cell(1, 1).Left && board.Cell(8, 1).Top < board.Cell(8, 8).Top, turned);
+        for (const int x : {board.Board.Left, board.Board.Right()})
+            EXPECT_EQ(board.SquareAt(x, board.Board.Top), NoSquare) << turned;
+    }
     int empty = width * height;
     for (const Box& box : shown) empty -= box.Width * box.Height;
     return std::string(layout.Lists[White].Top > layout.Board.Bottom() ? "below " : "beside ") +
