@@ -11,5 +11,5 @@ HMENU MakeClockMenu(const Texts& texts);
 // Its keys.
 UniqueAccelerators MakeClockAccelerators();
 
-// An entry's text with the name of its key behind it, as menus show it.
+// An entry's text with the name of its key after it, as menus show it.
 std::wstring EntryText(const Texts& texts, TextId entry, TextId key);

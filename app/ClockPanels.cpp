@@ -119,22 +119,27 @@ void ClockPanels::ArrangePanel(Side side) {
     tip(lblBonusTime, panel.BonusTime, TextId::TipMinutesSeconds);
 }
 
+bool ClockPanels::HasSecondPeriod(Side side) const {
+    return settings.Control.SecondPeriodEnabled && settings.Control.SecondPeriodTime[side] > 0;
+}
+
 int32_t ClockPanels::PeriodTime(Side side) const {
-    return settings.Control.SecondPeriodEnabled ? settings.Control.SecondPeriodTime[side]
-                                                : settings.Control.PeriodLimit[side];
+    return HasSecondPeriod(side) ? settings.Control.SecondPeriodTime[side] : settings.Control.PeriodLimit[side];
 }
 
 void ClockPanels::ShowSettings() {
     const std::wstring ordinal = texts.Compose(OrdinalRow(settings.Control.MovesFirstPeriod, texts.LanguageIndex()),
                                                std::to_wstring(settings.Control.MovesFirstPeriod));
-    const bool second = settings.Control.SecondPeriodEnabled;
-    const std::wstring caption =
-        second ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime);
     for (Side side : BothSides) {
+        const std::wstring caption =
+            HasSecondPeriod(side) ? texts.Compose(TextId::AfterNthMove, ordinal) : texts(TextId::CompleteGameTime);
         const int32_t bonus = settings.Control.MoveBonus[side];
         form.SetText(ControlOf(lblSide, side), ShownName(settings, texts, side));
         form.SetText(ControlOf(lblPeriod, side), caption);
-        form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side))));
+        // A loaded game may have a time that Setup cannot set; it is shown as it counts.
+        const int32_t seconds = PeriodTime(side) % 60;
+        const std::string rest = seconds > 0 ? ":" + TwoDigitText(seconds) : "";
+        form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side)) + rest));
         form.SetText(ControlOf(lblBonusTime, side), FromAnsi(MinutesSecondsText(bonus)));
         for (int pair : {lblBonus, lblBonusTime}) form.SetVisible(ControlOf(pair, side), bonus > 0);
         for (int pair : {lblMoveNumber, lblMoveCount}) form.SetVisible(ControlOf(pair, side), settings.ShowMoveNumber);

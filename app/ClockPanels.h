@@ -60,6 +60,7 @@ class ClockPanels {
 
   private:
     void ArrangePanel(Side side);
+    bool HasSecondPeriod(Side side) const;
     int32_t PeriodTime(Side side) const;  // that is shown under the face
     TextId BlinkRow() const;
     bool Runs(Side side) const { return commands.TurnMarksVisible(side); }

@@ -143,6 +143,7 @@ void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title, bool 
     panels.ShowSettings();
     SetWindowTextW(Window(), title.c_str());
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+    if (saved.Mismatched) messageBoxes.Inform(Window(), texts(TextId::FilesMismatched));
 }
 
 void frmClock::PlaceWindow() {
@@ -171,12 +172,11 @@ void frmClock::ClockChanged(const ClockChange& change) {
 void frmClock::ShowPhase() {
     const bool active = GetActiveWindow() == Window();
     const Phase phase = game.Clock().CurrentPhase();
-    if (active && phase == Phase::Fallen) {
-        // The change of focus would close an open menu and leave its name in the menu bar highlighted.
-        EndMenu();
-        // A disabled button would swallow the keys.
-        SetFocus(Window());
-    }
+    // Where the clock stops by itself, the change of focus would close an open menu and leave its name in the menu bar
+    // highlighted.
+    if (active && phase != Phase::Running) EndMenu();
+    // A disabled button would swallow the keys.
+    if (active && phase == Phase::Fallen) SetFocus(Window());
     panels.ShowPhase();
     // A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
     if (active) FocusRightfulButton();
@@ -280,11 +280,8 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             toKeep = false;
             kept.Keep();
             return 0;
-        case WM_KEEPFAILED:
-            messageBoxes.Inform(Window(), texts.Compose(TextId::GameNotKept, around.System.DataFolder,
-                                                        texts.Reason(static_cast<DWORD>(wParam))));
-            return 0;
-        case WM_QUERYENDSESSION: return TRUE;
+        case WM_KEEPFAILED: kept.TellFailure(static_cast<DWORD>(wParam)); return 0;
+        case WM_QUERYENDSESSION: kept.Keep(); return TRUE;
         case WM_ENDSESSION:
             if (wParam) kept.Finish();
             return 0;
@@ -391,7 +388,7 @@ LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wPa
             if (isClock && wParam == VK_SPACE) return 0;
             break;
         case WM_CHAR:
-            if (isClock && IsPauseKey(wParam)) return act('p');
+            if (IsPauseKey(wParam)) return act('p');
             break;
         default: break;
     }

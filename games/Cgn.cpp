@@ -25,8 +25,8 @@ std::string WriteMovetext(const MoveLists& lists) {
 
 constexpr std::string_view Gaps = " \r\n";
 
-// Where the movetext begins: behind the empty line that ends the head, at the first "1. " where something else than a
-// number or an end mark stands there. Npos without an empty line.
+// Where the movetext begins: after the empty line that ends the head, at the first "1. " where something other than a
+// number or an end mark is there. Npos without an empty line.
 size_t FindMovetext(std::string_view bytes) {
     constexpr std::string_view headEnd = "\r\n\r", firstMove = "1. ", beginnings = "0123456789*";
     const size_t head = bytes.find(headEnd);

@@ -6,7 +6,7 @@
 // The file that holds the two move lists: the head, and the movetext on one line with the numbers of both sides
 // ("1. e4 1... e5 2. Nf3 *").
 
-// Deliberate: the movetext begins on the line feed of the empty line behind the head, so that a carriage return stands
+// Deliberate: the movetext begins on the line feed of the empty line after the head, so that a carriage return comes
 // before it.
 std::string EncodeCgn(const GameHead& head, const MoveLists& lists);
 

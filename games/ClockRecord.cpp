@@ -120,7 +120,7 @@ std::optional<GameFileError> DecodeClockRecord(std::span<const uint8_t> bytes, c
     } catch (const GameFileError& error) {
         return error;
     }
-    // A fault behind the last field has cost nothing, but the file is damaged.
+    // A fault after the last field has cost nothing, but the file is damaged.
     if (record.Error) return GameFileError{ClockFile, record.Error->What, record.Error->Slot};
     saved = std::move(read);
     return std::nullopt;

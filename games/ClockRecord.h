@@ -6,7 +6,7 @@
 
 #include <span>
 
-// How a saved game's clock lies in its record. Everything behind the names moves with their lengths.
+// How a saved game's clock lies in its record. Everything after the names moves with their lengths.
 
 // Longer names are cut when they are written.
 inline constexpr int32_t MaxSavedName = 128;
@@ -26,7 +26,7 @@ struct ClockRecord {
 // The bytes of the record. The time control is taken from Clock.
 std::string EncodeClockRecord(const ClockRecord& saved);
 
-// Reads the record at the start of the bytes; what stands behind it is ignored. What the record does not hold, the
+// Reads the record at the start of the bytes; what follows it is ignored. What the record does not hold, the
 // language, is as in `present`, and so is the second period of an unknown clock type. A record without the last five
 // fields is read as one of an earlier form: turn, progress and the armed second periods follow from the rest, and the
 // other files are read where they exist.

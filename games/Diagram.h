@@ -9,6 +9,6 @@ inline constexpr size_t DiagramBytes = 8 * 34;
 
 std::string EncodeDiagram(const Board& board);
 
-// Reads a diagram; the line end behind the last rank may be missing. No captured piece is shown on the board that is
+// Reads a diagram; the line end after the last rank may be missing. No captured piece is shown on the board that is
 // read.
 std::optional<GameFileError> DecodeDiagram(std::string_view text, Board& board);

@@ -9,6 +9,6 @@
 
 std::string EncodePgn(const GameHead& head, const Recorder& recorder);
 
-// The text of the game with its result, from a file that WritePgn made: it stands behind the eighth line end, and the
+// The text of the game with its result, from a file that EncodePgn made: it begins after the eighth line end, and the
 // last line end is not part of it. Tags are not looked at.
 std::optional<GameFileError> DecodePgn(std::string_view bytes, std::string& text);

@@ -186,10 +186,16 @@ SectionEnd
 Section /o "un.$(GamesAndSettings)" GamesAndSettings
   !insertmacro IsLink SavedGames
   ${If} $0 <> 1
-    Delete "$INSTDIR\SavedGames\*.bin"
-    Delete "$INSTDIR\SavedGames\*.txt"
-    Delete "$INSTDIR\SavedGames\*.cgn"
-    Delete "$INSTDIR\SavedGames\*.pgn"
+    FindFirst $1 $2 "$INSTDIR\SavedGames\*.bin"
+    ${While} $2 != ""
+      StrCpy $2 $2 -4
+      Delete "$INSTDIR\SavedGames\$2.txt"
+      Delete "$INSTDIR\SavedGames\$2.cgn"
+      Delete "$INSTDIR\SavedGames\$2.pgn"
+      Delete "$INSTDIR\SavedGames\$2.bin"
+      FindNext $1 $2
+    ${EndWhile}
+    FindClose $1
     Delete "$INSTDIR\SavedGames\*.new"
     Delete "$INSTDIR\SavedGames\*.saving"
   ${EndIf}
@@ -197,7 +203,8 @@ Section /o "un.$(GamesAndSettings)" GamesAndSettings
   ${If} $0 <> 1
     Delete "$INSTDIR\Data\TORVANIX.set"
     Delete "$INSTDIR\Data\TORVANIX.set.new"
-    Delete "$INSTDIR\Data\Game*.*"
+    Delete "$INSTDIR\Data\Game*.kept*"
+    Delete "$INSTDIR\Data\Game*.last*"
   ${EndIf}
 SectionEnd
 

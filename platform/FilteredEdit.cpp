@@ -18,7 +18,7 @@ void FilteredEdit::OnChange() {
     const std::wstring text = form.Text(id), kept = changed(text);
     if (kept == text) return;
     const HWND field = form.Control(id);
-    // What stands after the caret stays after it.
+    // What is after the caret stays after it.
     DWORD end = 0;
     SendMessageW(field, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
     const auto caret = static_cast<LPARAM>(end) - static_cast<LPARAM>(text.size()) + static_cast<LPARAM>(kept.size());

@@ -14,7 +14,7 @@ void SayList::Fill(const Texts& texts) const {
     SendMessageW(form.Control(cmbSay), CB_RESETCONTENT, 0, 0);
     for (int i = 0; i < 4; ++i) {
         SendMessageW(form.Control(cmbSay), CB_ADDSTRING, 0,
-                     reinterpret_cast<LPARAM>(texts(RowBehind(TextId::SayCheck, i)).c_str()));
+                     reinterpret_cast<LPARAM>(texts(RowAfter(TextId::SayCheck, i)).c_str()));
     }
 }
 

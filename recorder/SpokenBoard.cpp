@@ -1,7 +1,7 @@
 #include "recorder/SpokenBoard.h"
 
 std::wstring SpokenPiece(const Texts& texts, Piece piece) {
-    return texts(RowBehind(TextId::EmptySquare, static_cast<int32_t>(piece)));
+    return texts(RowAfter(TextId::EmptySquare, static_cast<int32_t>(piece)));
 }
 
 std::wstring SpokenSquare(const Texts& texts, const Recorder& recorder, const BoardInput& input, Square square) {

@@ -142,16 +142,16 @@ void frmSetup::Open(HWND owner) {
 }
 
 void frmSetup::FillLists() {
-    for (int32_t i = 0; i < ClockTypes; ++i) AddEntry(cmbClockType, captions(RowBehind(TextId::ClockTypeNames, i)));
+    for (int32_t i = 0; i < ClockTypes; ++i) AddEntry(cmbClockType, captions(RowAfter(TextId::ClockTypeNames, i)));
     for (int32_t language : Languages)
         AddEntry(cmbLanguage, captions.LookUp(TextIdentifier(TextId::LanguageNames, language)));
     for (int32_t moves = 1; moves <= MostMovesListed; ++moves) AddEntry(cmbMoveAmount, std::to_wstring(moves));
     if (draft.Control.MovesFirstPeriod > MostMovesListed)
         AddEntry(cmbMoveAmount, std::to_wstring(draft.Control.MovesFirstPeriod));
     for (size_t i = 0; i < ButtonSounds.size(); ++i)
-        AddEntry(cmbButtonSound, captions(RowBehind(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
+        AddEntry(cmbButtonSound, captions(RowAfter(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
     for (size_t i = 0; i < FlagSounds.size(); ++i)
-        AddEntry(cmbFlagSound, captions(RowBehind(TextId::FlagSoundNames, static_cast<int32_t>(i))));
+        AddEntry(cmbFlagSound, captions(RowAfter(TextId::FlagSoundNames, static_cast<int32_t>(i))));
 }
 
 void frmSetup::SetToolTips() {

@@ -14,5 +14,5 @@ TextId OrdinalRow(int32_t number, int32_t language) {
 
 TextId CountRow(TextId one, int32_t number, int32_t language) {
     const bool singular = number == 1 || (number == 0 && language == French);
-    return singular ? one : RowBehind(one, 1);
+    return singular ? one : RowAfter(one, 1);
 }

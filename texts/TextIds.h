@@ -15,7 +15,7 @@ enum class TextId : int32_t {
 enum Language : int32_t { Turkish = 1, English = 2, French = 3 };
 
 // The row that is `steps` rows after `first` in a list, whose identifiers are ten apart.
-constexpr TextId RowBehind(TextId first, int32_t steps) { return TextId{static_cast<int32_t>(first) + 10 * steps}; }
+constexpr TextId RowAfter(TextId first, int32_t steps) { return TextId{static_cast<int32_t>(first) + 10 * steps}; }
 
 // Identifier of a row's text in a language. The language is not checked: an unknown one leads to no text.
 constexpr int64_t TextIdentifier(TextId row, int32_t language) { return int64_t{static_cast<int32_t>(row)} + language; }

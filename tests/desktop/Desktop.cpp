@@ -215,7 +215,7 @@ HWND ProgramRun::FindWindowNow(const std::wstring& className) const {
 }
 
 HWND ProgramRun::Clock() {
-    if (!clock && !Eventually([&] { return (clock = FindWindowNow(L"frmClock")) != nullptr; }, 20000))
+    if (!clock && !Eventually([&] { return (clock = FindWindowNow(L"frmClock")) != nullptr; }))
         throw std::runtime_error("the clock does not open");
     return clock;
 }

@@ -14,7 +14,9 @@
 // What does not come about by its deadline is a std::runtime_error.
 
 // Waits until the condition holds; false after the deadline.
-bool Eventually(const std::function<bool()>& condition, int milliseconds = 10000);
+// A busy machine is slow; only a test that fails waits so long.
+inline constexpr int Patience = 30000;  // milliseconds
+bool Eventually(const std::function<bool()>& condition, int milliseconds = Patience);
 
 // Where the programs lie that the build makes, this one among them; with a trailing backslash.
 std::wstring BuildFolder();

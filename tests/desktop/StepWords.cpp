@@ -17,10 +17,10 @@
 namespace {
 
 const std::map<std::string, WORD> NamedKeys{
-    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},   {"Tab", VK_TAB},   {"Back", VK_BACK},
-    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},        {"Down", VK_DOWN}, {"Home", VK_HOME},
-    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},    {"F4", VK_F4},     {"F6", VK_F6},
-    {"F10", VK_F10},     {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
+    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},    {"Tab", VK_TAB},      {"Back", VK_BACK},
+    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},         {"Down", VK_DOWN},    {"Home", VK_HOME},
+    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},     {"F1", VK_F1},        {"F4", VK_F4},
+    {"F6", VK_F6},       {"F10", VK_F10},       {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
 };
 
 WORD CodeOf(const std::string& key) { return key.size() == 1 ? static_cast<WORD>(key[0]) : NamedKeys.at(key); }
@@ -40,7 +40,7 @@ std::string InOneLine(std::string text) {
     return text;
 }
 
-void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds = 10000) {
+void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds = Patience) {
     if (!Eventually(condition, milliseconds)) Fail(otherwise);
 }
 
@@ -150,6 +150,22 @@ void Steps::AddLooks() {
     Add("lists", [this](Words& words) {
         Await([this] { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }, words.Take());
     });
+    // Both lists show their last row, or their first, and the same rows.
+    const auto listsShow = [this](bool last) {
+        std::array<LRESULT, 2> tops{};
+        for (const int side : {0, 1}) {
+            const HWND list = Find(side == 0 ? "lstMoves.W" : "lstMoves.B");
+            RECT row{}, area{};
+            SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(SendMessageW(list, LB_GETCOUNT, 0, 0) - 1),
+                         reinterpret_cast<LPARAM>(&row));
+            GetClientRect(list, &area);
+            tops[side] = SendMessageW(list, LB_GETTOPINDEX, 0, 0);
+            if (last ? row.bottom > area.bottom : tops[side] > 0) return false;
+        }
+        return tops[0] == tops[1];
+    };
+    Add("last-moves", [=](Words&) { Until([=] { return listsShow(true); }, "the last moves are not in sight"); });
+    Add("first-moves", [=](Words&) { Until([=] { return listsShow(false); }, "the first moves are not in sight"); });
     Add("counts", [this](Words& words) { Await([this] { return Counts(); }, words.Take()); });
     // The move numbers while the clock runs, and all that shows whose turn it is.
     Add("turn", [this](Words& words) {
@@ -312,6 +328,57 @@ void Steps::AddFaults() {
         while (Time::now() < kill) {
         }
         TerminateProcess(program->Process(), 99);
+    });
+    // Notes what the game has come to, when it has changed.
+    Add("note", [this](Words&) {
+        std::string now;
+        const auto changed = [&] { return (now = State()) == State() && (states.empty() || now != states.back()); };
+        Until(changed, "nothing changes");
+        states.push_back(now);
+    });
+    // Does steps that lead from one noted state to the next, and kills the program so many tenths of a millisecond
+    // later. What it brings back is one of the two; the steps are done again where it is the first.
+    Add("killed-after", [this](Words& words) {
+        const int left = SecondsLeft(), wait = words.Number();
+        const std::string steps = words.Take(), before = states.at(compared), after = states.at(++compared);
+        const Time::time_point begun = Time::now();
+        Do(steps);
+        for (const auto kill = Time::now() + std::chrono::microseconds(100) * wait; Time::now() < kill;) {
+        }
+        TerminateProcess(program->Process(), 99);
+        const auto passed = std::chrono::duration_cast<std::chrono::seconds>(Time::now() - begun).count();
+        Do("ended 99 / restart / message \"A game of *\" Yes");
+        std::string now;
+        Until([&] { return (now = State()) == before || now == after; }, "it is neither as before nor as after");
+        const auto won = SecondsLeft() - (left - passed);
+        cameBack[now == after] = true;
+        if (won < -1 || won > 5) Fail(std::to_string(won) + " seconds are won");
+        Do("command mnuPause / runs");
+        if (now == before) Do(steps);
+        Await([this] { return State(); }, after);
+    });
+    Add("both-came-back", [this](Words&) {
+        if (!cameBack[0] || !cameBack[1]) Fail("the program was always killed too early, or too late");
+    });
+    // Another program begins beside this one; it, or this one again, is what the next steps are done with.
+    Add("another", [this](Words&) {
+        std::swap(program, other);
+        Launch();
+    });
+    Add("swap", [this](Words&) { std::swap(program, other); });
+    // Saves in both programs at once, where both ask.
+    Add("both-yes", [this](Words&) {
+        const HWND boxes[] = {program->Message(), other->Message()};
+        for (const HWND box : boxes) PostMessageW(box, WM_COMMAND, IDYES, 0);
+        Until([&] { return !IsWindow(boxes[0]) && !IsWindow(boxes[1]); }, "a question stays");
+    });
+    // A message to the clock window, its parameter, and the answer, which must come at once.
+    Add("send", [this](Words& words) {
+        const auto message = static_cast<UINT>(words.Number());
+        const auto parameter = static_cast<WPARAM>(words.Number());
+        DWORD_PTR answer = 0;
+        SendMessageTimeoutW(program->Clock(), message, parameter, 0, SMTO_NORMAL, 1000, &answer);
+        if (static_cast<int>(answer) != words.Number()) Fail("another answer");
     });
     Add("lock", [this](Words& words) {
         const std::wstring path = folder.Path() + Wide(words.Take());

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-// The real games in tests/data, as words of origin and destination with the result behind them.
+// The real games in tests/data, as words of origin and destination with the result after them.
 struct RealGame {
     std::string Name, Moves, Result;
 };

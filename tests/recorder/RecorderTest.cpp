@@ -45,6 +45,7 @@ TEST(RecorderTest, Scripts) {
         Lines that wait before a result are filled, and it stays; so it does after a flag has fallen.
         e2e4 resign2,2 e7e5 => 1. e4|2. _ / e5|2. _|[1-0]; 1. e4 e5 1-0<> White at B0
         e2e4 draw2,2 e7e5 g1f3 => 1. e4|2. Nf3 / e5|2. _|[1/2-1/2]; 1. e4 e5 2. Nf3 1/2-1/2<> Black at W1
+        e2e4 draw2,1 e7e5 g1f3 => 1. e4|2. Nf3 / e5|[1/2-1/2]; 1. e4 e5 2. Nf3 1/2-1/2<> Black at W1
         e2e4 draw2,2 e7e5 g1f3 b8c6 => 1. e4|2. Nf3 / e5|Nc6|[1/2-1/2]; 1. e4 e5 2. Nf3 Nc6 1/2-1/2<> White at B1
         e2e4 draw2,2 e7e5 g1f3 b8c6 f1b5 => 1. e4|2. Nf3|3. Bb5 / e5|Nc6; 1. e4 e5 2. Nf3 Nc6 <3. Bb5 > Black at W2
         top1,0 flagB e2e4 e7e5 g1f3 => 1. e4|2. Nf3|[1-0] / e5; 1. e4 e5 2. Nf3 1-0<> Black at W1
@@ -53,6 +54,7 @@ TEST(RecorderTest, Scripts) {
         e2e4 e7e5 g1f3 W1= b8c6 f1b5 => 1. e4|2. _|3. Bb5 / e5|Nc6; 1. e4 e5 2. _ Nc6 <3. Bb5 > Black at W2
         e2e4 e7e5 g1f3 W1= b8c6 pressW => 1. e4|2. _|3. _ / e5|Nc6; 1. e4 e5 2. _ <Nc6 > White at W2
         e2e4 e7e5 B0= g1f3 b8c6 => 1. e4|2. Nf3 / 1. _|Nc6; 1. e4 _ 2. Nf3 <Nc6 > White at B1
+        e2e4 e7e5 g1f3 b8c6 W1= B1= f1b5 => 1. e4|2. Bb5 / e5|2. _; 1. e4 e5 <2. Bb5 > Black at W1
         e2e4 e7e5 g1f3 W1= b8c6 draw f1b5 => 1. e4|2. _|3. Bb5 / e5|Nc6; 1. e4 e5 2. _ Nc6 <3. Bb5 > Black at W2
         Lines that are added before the last move belong to the text.
         e2e4 e7e5 g1f3 deleteW b8c6 pressW => 1. e4|2. _ / e5|Nc6; 1. e4 e5 2. _ <Nc6 > White at W1

@@ -83,7 +83,7 @@ TEST(TextIdsTest, OrdinalsAndCountsOfEachLanguage) {
         const std::map<TextId, std::string> ordinals{
             {TextId::OrdinalSt, "st"}, {TextId::OrdinalNd, "nd"}, {TextId::OrdinalRd, "rd"}, {TextId::OrdinalTh, "th"}};
         const std::map<TextId, std::string> counts{{TextId::SpokenSecond, " one"},
-                                                   {RowBehind(TextId::SpokenSecond, 1), " many"}};
+                                                   {RowAfter(TextId::SpokenSecond, 1), " many"}};
         std::string said;
         for (const int32_t language : {English, French})
             said += ordinals.at(OrdinalRow(number, language)) +
