@@ -41,9 +41,9 @@ constexpr std::array ScorletEntries{
     Entry{mnuShowScorlet, TextId::MenuShow},
     Entry{mnuCloseScorlet, TextId::MenuClose, NoKey, false},
     Separator,
-    Entry{mnuTurnBoard, TextId::MenuTurnBoard},
-    Separator,
     Entry{mnuPrint, TextId::MenuPrint, NoKey, false},
+    Separator,
+    Entry{mnuTurnBoard, TextId::MenuTurnBoard},
 };
 
 constexpr std::array HelpEntries{
