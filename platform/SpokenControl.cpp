@@ -12,8 +12,8 @@ namespace {
 // IID_IAccessible itself is not used: an import library may define that name as a function.
 const IID AccessibleId = __uuidof(IAccessible);
 
-// The system's own accessible object of a control, except for its name and those of its parts. Screen readers may keep it for longer than the
-// control exists, so the control is looked up at each question.
+// The system's own accessible object of a control, except for its name and those of its parts. Screen readers may keep
+// it for longer than the control exists, so the control is looked up at each question.
 class NamedAccessible : public IAccessible {
   public:
     NamedAccessible(HWND control, UniqueCom<IAccessible> system) : control(control), system(std::move(system)) {}
