@@ -49,16 +49,15 @@ void KeptGames::Offer(const Take& take) {
 
 void KeptGames::Keep() {
     if (!keeping) return;
-    if (game.WorthKeeping())
-        keeper.Keep(Encoded());
-    else
-        keeper.KeepNothing();
+    if (!game.WorthKeeping()) return keeper.KeepNothing();
+    // Of a game that could not be loaded, what was kept before stays.
+    if (const auto bytes = Encoded()) keeper.Keep(*bytes);
 }
 
 void KeptGames::PutAside() {
     if (!keeping) return;
     try {
-        keeper.PutAside(Encoded());
+        if (const auto bytes = Encoded()) keeper.PutAside(*bytes);
     } catch (const SystemError& error) {
         // Later: no message may come between a game and the one that takes its place.
         PostMessageW(clock.Window(), WM_KEEPFAILED, error.Code(), 0);
@@ -88,7 +87,11 @@ void KeptGames::Finish() {
 }
 
 // With the players' own names: an empty one stays empty.
-std::string KeptGames::Encoded() const { return EncodeKeptGame(game.Encode(game.Options().PlayerNames, Today())); }
+std::optional<std::string> KeptGames::Encoded() const {
+    const GameFiles files = game.Encode(game.Options().PlayerNames, Today());
+    if (FaultOf(files)) return std::nullopt;
+    return EncodeKeptGame(files);
+}
 
 std::optional<SavedGame> KeptGames::Read(const std::wstring& path) const {
     const Texts& texts = around.Wording;

@@ -34,7 +34,7 @@ class KeptGames {
     void Finish();
 
   private:
-    std::string Encoded() const;
+    std::optional<std::string> Encoded() const;  // none: it could not be loaded again
     // A game that cannot be read is told of and gets another name. Throws SystemError when it cannot get one.
     std::optional<SavedGame> Read(const std::wstring& path) const;
     bool Ask(const SavedGame& saved, const std::wstring& path) const;
