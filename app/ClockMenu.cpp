@@ -54,6 +54,8 @@ constexpr std::array ScorletEntries{
     Entry{mnuCopyGame, TextId::MenuCopyGame, NoKey, false},
     Entry{mnuCopyPosition, TextId::MenuCopyPosition, NoKey, false},
     Entry{mnuExportPgn, TextId::MenuExportPgn, NoKey, false},
+    Separator,
+    Entry{mnuTurnBoard, TextId::MenuTurnBoard},
 };
 
 constexpr std::array HelpEntries{

@@ -121,6 +121,13 @@ void frmClock::ShowAbout() {
     about.RunModal();
 }
 
+void frmClock::TurnBoard() {
+    game.TurnBoard();
+    UpdateMenu();
+    const std::wstring problem = settingsFile.SaveBoardTurned(settings.BoardTurned, texts);
+    if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+}
+
 void frmClock::ShowFiles(FilesMode mode) {
     frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
     files.Open(Window());
@@ -186,7 +193,9 @@ void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
     NamePauseEntry(menu, captions, game.Clock().CurrentPhase() == Phase::Paused);
     EnableEntry(menu, mnuSetup, game.Clock().SetupEnabled());
-    for (const int entry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn}) EnableEntry(menu, entry, scorlet.Loaded());
+    CheckMenuItem(menu, mnuTurnBoard, MF_BYCOMMAND | (settings.BoardTurned ? MF_CHECKED : MF_UNCHECKED));
+    for (const int entry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn})
+        EnableEntry(menu, entry, scorlet.Loaded());
 }
 
 // What is asked for only here, so that no press waits for it.
@@ -314,6 +323,7 @@ void frmClock::OnCommand(int id) {
         case mnuTakeBack: return game.TakeBack();
         case mnuRedo: return game.Redo();
         case mnuGoOn: return game.GoOnAtClocksMove();
+        case mnuTurnBoard: return TurnBoard();
         case mnuPrint: return printer.Print(Window());
         case mnuCopyGame: return exporter.CopyGame(Window());
         case mnuCopyPosition: return exporter.CopyPosition(Window());

@@ -46,6 +46,7 @@ class frmClock : public Form, private ClockView {
     void ShowSetup();
     void ShowAbout();
     void ShowHelp(HelpPage page);
+    void TurnBoard();
     void ShowFiles(FilesMode mode);
     void TakeGame(const SavedGame& saved, const std::wstring& title, bool opensScorlet);
     void UpdateMenu();

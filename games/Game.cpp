@@ -88,6 +88,11 @@ void Game::TakeSettings() {
     Changed();
 }
 
+void Game::TurnBoard() {
+    settings.BoardTurned = !settings.BoardTurned;
+    if (record) recordView->RecordChanged({});
+}
+
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
     record.emplace();
@@ -152,7 +157,9 @@ GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDa
 
 void Game::TakeLoadedGame(const SavedGame& saved) {
     LeaveGame();
+    const bool turned = settings.BoardTurned;
     settings = saved.Options;
+    settings.BoardTurned = turned;
     clock.TakeLoadedGame(saved.Clock);
     shown = {};
     ShowWhole();

@@ -70,11 +70,14 @@ class Game final : public ScorletGame {
     bool WorthKeeping() const;
     // True: it ran, and is paused now.
     bool PauseIfRunning();
+    void TurnBoard();
     // The settings have been changed while the clock was idle.
     void TakeSettings();
 
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
+    std::string PlayerName(Side side) const override { return settings.PlayerNames[side]; }
+    bool BoardTurned() const override { return settings.BoardTurned; }
     void RecordEdited() override;
     void TakeBack() override;
     void Redo() override;

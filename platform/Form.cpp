@@ -119,9 +119,11 @@ void Form::SetVisible(int id, bool visible) const {
     if (visible != now) ShowWindow(control, visible ? SW_SHOWNA : SW_HIDE);
 }
 
-std::wstring Form::SpokenNameOf(HWND control) {
+std::wstring Form::SpokenNameOf(HWND control, int part) {
     const Form* form = FormOf(GetParent(control));
-    return form ? form->SpokenName(GetDlgCtrlID(control)) : std::wstring();
+    if (!form) return {};
+    const int id = GetDlgCtrlID(control);
+    return part == 0 ? form->SpokenName(id) : form->SpokenPart(id, part);
 }
 
 void Form::SetText(int id, const std::wstring& text) const {

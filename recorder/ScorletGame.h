@@ -5,7 +5,8 @@
 // A window that shows the record.
 class RecordView {
   public:
-    // The game has added to the record; the lines are to be shown as chosen.
+    // The game has added to the record, or what it says of players and board has changed; the lines are to be shown as
+    // chosen.
     virtual void RecordChanged(const ChosenLines& chosen) = 0;
     // The record has become another one: what was under way in the window is over.
     virtual void RecordReplaced() = 0;
@@ -29,6 +30,9 @@ class ScorletGame {
     // A new record, which lasts until CloseRecord. There is at most one.
     virtual Recorder& OpenRecord(RecordView& view) = 0;
     virtual void CloseRecord() = 0;
+    // In the ANSI code page; empty where the player has none.
+    virtual std::string PlayerName(Side side) const = 0;
+    virtual bool BoardTurned() const = 0;  // Black's side is below
 
     virtual void RecordEdited() = 0;  // the window has changed the record, and does not show it yet
     // The record before the players' last change of it, and after it again. Without one they do nothing.

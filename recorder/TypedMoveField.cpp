@@ -23,6 +23,9 @@ bool TypedMoveField::Open() const { return IsWindowVisible(form.Control(txtTyped
 
 void TypedMoveField::Show(wchar_t first) const {
     Explain({});
+    // Turning the board puts its squares on top.
+    for (const int id : {lblTypedMove, txtTypedMove})
+        SetWindowPos(form.Control(id), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     SendMessageW(entry.Show(std::wstring(1, first)), EM_SETSEL, 1, 1);
 }
 

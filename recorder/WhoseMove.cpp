@@ -4,9 +4,10 @@ namespace {
 
 WhoseMoveKind KindOfDistance(int64_t behind) {
     switch (behind) {
-        case 0: return WhoseMoveKind::Agrees;
+        case 0:
+        case -1:  // the move is written, and the press comes after it
+            return WhoseMoveKind::Agrees;
         case 1: return WhoseMoveKind::Behind;
-        case -1: return WhoseMoveKind::Ahead;
         default: return WhoseMoveKind::FarApart;
     }
 }

@@ -11,10 +11,9 @@ struct ClockTurn {
 };
 
 enum class WhoseMoveKind {
-    Agrees,  // with the clock, where there is one
+    Agrees,  // with the clock, where there is one, or is at the move after the clock's
     // The rest are warnings.
     Behind,       // the record expects the move before the clock's
-    Ahead,        // the record expects the move after the clock's
     FarApart,     // further behind or ahead
     OtherColour,  // a piece of the wrong side has just been moved
 };

@@ -9,7 +9,6 @@ namespace {
 TextId RowOf(WhoseMoveKind kind) {
     switch (kind) {
         case WhoseMoveKind::Behind: return TextId::PadBehind;
-        case WhoseMoveKind::Ahead: return TextId::PadAhead;
         case WhoseMoveKind::FarApart: return TextId::PadFarApart;
         case WhoseMoveKind::OtherColour: return TextId::OtherColourMoved;
         default: return TextId::WhoseMove;

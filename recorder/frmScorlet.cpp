@@ -19,21 +19,9 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmScorlet";
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-constexpr int CellOf(Square square) { return picBoard + static_cast<int>(square); }
-bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIndexes && IsSquare(id - picBoard); }
-bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
-static_assert(CapturedSlots == SlotsPerSide);
-
 std::wstring WithoutAccessKey(std::wstring caption) {
     std::erase(caption, L'&');
     return caption;
-}
-
-template <typename Action>
-void ForEachSquare(Action action) {
-    for (int rank = 8; rank >= 1; --rank) {
-        for (int file = 1; file <= 8; ++file) action(SquareAt(file, rank));
-    }
 }
 
 }  // namespace
@@ -73,15 +61,15 @@ std::wstring frmScorlet::Open(const RECT& place) {
 void frmScorlet::CreateControls() {
     // The field for typing may cover cells, which therefore leave it out when they draw.
     typing.Create(WM_ENDTYPING);
-    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW | WS_CLIPSIBLINGS;
-    // The order is the reading and the tab order. The cells lie above the board, so they come before it.
-    ForEachSquare([&](Square square) { AddControl(WC_STATICW, CellOf(square), drawn); });
-    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP);
+    // The order is the reading and the tab order.
+    board.Create();
     AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
-    for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
+    board.CreateCaptured();
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
     whoseMove.Create();
+    for (Side side : BothSides)
+        AddControl(WC_STATICW, ControlOf(lblPlayer, side), WS_VISIBLE | SS_CENTERIMAGE | SS_NOPREFIX | SS_ENDELLIPSIS);
     lists.Create();
     field.Create(WM_ENDEDIT);
     picker.Create();
@@ -96,30 +84,39 @@ void frmScorlet::ApplyTexts() {
     say.Fill(captions);
 }
 
+void frmScorlet::ShowNames() {
+    for (Side side : BothSides) {
+        const std::wstring name = FromAnsi(game.PlayerName(side));
+        SetText(ControlOf(lblPlayer, side), name.empty() ? captions.SideName(side) : name);
+    }
+}
+
 void frmScorlet::Arrange() {
     RECT client{};
     GetClientRect(Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
-    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi());
-    painter.SetLayout(layout, Dpi());
+    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi(), game.BoardTurned());
+    input.Turn(layout.Turned);
+    painter.SetLayout(layout);
     const auto place = [&](int id, const Box& box) {
         SetWindowPos(Control(id), nullptr, box.Left, box.Top, box.Width, box.Height, SWP_NOZORDER | SWP_NOACTIVATE);
         SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
     };
-    ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
-    place(picBoard, layout.Board);
+    board.Place(layout);
     place(txtTypedMove, layout.TypedMove);
     place(lblTypedMove, layout.TypedReason);
     place(lblCaptured, layout.CapturedTitle);
-    for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const Box& row = layout.CapturedRows[i < CapturedSlots ? White : Black];
-        place(imgCapturedWQ + i, {row.Left + i % CapturedSlots * layout.Slot, row.Top, layout.Slot, layout.Slot});
-    }
     place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
     place(cmbSay, {layout.Say.Left, layout.Say.Top, layout.Say.Width, 8 * layout.Say.Height});
     place(lblWhoseMove, layout.WhoseMove);
-    for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.Lists[side]);
+    for (Side side : BothSides) {
+        place(ControlOf(lblPlayer, side), layout.ListHeads[side]);
+        SendMessageW(Control(ControlOf(lblPlayer, side)), WM_SETFONT, reinterpret_cast<WPARAM>(painter.HeadFont()),
+                     FALSE);
+        place(ControlOf(lstMoves, side), layout.Lists[side]);
+        SendMessageW(Control(ControlOf(lstMoves, side)), LB_SETITEMHEIGHT, 0, layout.Type * 4 / 3);
+    }
     place(txtMove, layout.Edit);
     place(cmdOK, layout.EditOk);
     place(lblPromotion, layout.PromotionTitle);
@@ -129,6 +126,8 @@ void frmScorlet::Arrange() {
 }
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
+    ShowNames();
+    if (layout.Turned != game.BoardTurned()) Arrange();
     ShowBoard();
     ShowWhoseMove();
     lists.Show();
@@ -141,6 +140,7 @@ void frmScorlet::RecordChanged(const ChosenLines& chosen) {
     for (Side side : BothSides) {
         if (chosen[side]) lists.Choose({side, *chosen[side]});
     }
+    lists.ShowLast();
 }
 
 void frmScorlet::RecordReplaced() {
@@ -161,20 +161,8 @@ void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
 }
 
 void frmScorlet::ShowBoard() {
-    ForEachSquare([&](Square square) {
-        std::optional<CellLook>& shown = shownCells[static_cast<size_t>(square)];
-        const CellLook look = input.LookOf(square);
-        if (look == shown) return;
-        shown = look;
-        SetText(CellOf(square), FromAnsi(PieceCode(look.Shown)));
-        InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
-    });
-    for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const auto [piece, slot] = SlotOf(i);
-        const bool shown = recorder.Position().CapturedShown(piece, slot);
-        SetVisible(imgCapturedWQ + i, shown);
-        if (shown) InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
-    }
+    board.Show();
+    mouse.Follow();
 }
 
 bool frmScorlet::TakeMessage(MSG& message) {
@@ -197,6 +185,19 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
+        case WM_MOUSEMOVE:
+            mouse.Move({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            ShowBoard();
+            return 0;
+        case WM_LBUTTONUP: {
+            const bool puttingBack = input.Captured().has_value();
+            ShowEntered(mouse.Release({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}), puttingBack);
+            return 0;
+        }
+        case WM_CAPTURECHANGED:
+            mouse.CaptureLost();
+            ShowBoard();
+            return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
         case WM_BOARDCHARACTER: return OnBoardCharacter(static_cast<wchar_t>(wParam));
         case WM_ENDTYPING: EndTyping(wParam != 0); return 0;
@@ -216,6 +217,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             RECT client{};
             GetClientRect(Window(), &client);
             FillRect(reinterpret_cast<HDC>(wParam), &client, painter.BackgroundBrush());
+            painter.DrawTrays(reinterpret_cast<HDC>(wParam), layout);
             return TRUE;
         }
         case WM_SIZE: Arrange(); return 0;
@@ -281,15 +283,21 @@ void frmScorlet::OnMouseDown(POINT point) {
         return;
     }
     SetFocus(Control(picBoard));
+    mouse.Press(point);
 }
 
 void frmScorlet::OnSquare(Square square) {
     const bool puttingBack = input.Captured().has_value();
-    const auto line = input.Click(square);
-    if (line)
+    ShowEntered(input.Click(square), puttingBack);
+}
+
+void frmScorlet::ShowEntered(const std::optional<ChosenLine>& line, bool puttingBack) {
+    if (line) {
         ShowEdit(line);
-    else
+        lists.ShowLast();
+    } else {
         ShowBoard();
+    }
     if (puttingBack) game.RecordEdited();
 }
 
@@ -421,19 +429,19 @@ std::wstring frmScorlet::SpokenName(int id) const {
     }
 }
 
+std::wstring frmScorlet::SpokenPart(int id, int part) const {
+    if (id != lstMoves && id != lstMoves + 1) return {};
+    const MoveList& list = recorder.List(id == lstMoves ? White : Black);
+    const auto index = static_cast<size_t>(part - 1);
+    // With the number in both lists, as in White's.
+    return index < list.Entries().size() ? FromAnsi(list.Line(index, White)) : L"";
+}
+
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
-    if (id == picBoard) return painter.DrawBoardEdge(item, layout);
+    if (id == lstMoves || id == lstMoves + 1) return lists.Draw(item, id == lstMoves ? White : Black);
     if (PromotionPicker::Has(id)) return picker.Draw(item);
-    if (IsCaptured(id)) {
-        const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
-        return painter.DrawCaptured(item, piece, input.IsPicked(piece, slot));
-    }
-    if (!IsCell(id)) return;
-    const auto square = static_cast<Square>(id - picBoard);
-    CellLook look = input.LookOf(square);
-    look.Cursor = look.Cursor && GetFocus() == Control(picBoard);
-    painter.DrawCell(item, square, look);
+    board.Draw(item);
 }
 
 HBRUSH frmScorlet::OnColour(HDC dc, int id) const {

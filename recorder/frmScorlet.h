@@ -2,9 +2,11 @@
 
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
+#include "recorder/BoardMouse.h"
 #include "recorder/MoveField.h"
 #include "recorder/PromotionPicker.h"
 #include "recorder/SayList.h"
+#include "recorder/ScorletBoard.h"
 #include "recorder/ScorletGame.h"
 #include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
@@ -37,6 +39,7 @@ class frmScorlet : public Form, private RecordView {
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::wstring SpokenName(int id) const override;
+    std::wstring SpokenPart(int id, int part) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
     void RecordTakenBack(const ChosenLines& chosen) override;
@@ -50,11 +53,14 @@ class frmScorlet : public Form, private RecordView {
     void CreateControls();
     void ApplyTexts();
     void Arrange();
+    void ShowNames();
     void ShowBoard();
 
     void OnCommand(int id, int notification);
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
+    // After a piece has been picked or dropped, which may have written a line or put a captured piece back.
+    void ShowEntered(const std::optional<ChosenLine>& line, bool puttingBack);
     bool OnBoardKey(WPARAM key);
     bool OnBoardCharacter(wchar_t character);
     void Promote(PieceKind kind);
@@ -91,6 +97,7 @@ class frmScorlet : public Form, private RecordView {
     ScorletPainter painter;
     PromotionPicker picker{*this, recorder, painter};
     ScorletLayout layout{};
-    std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
+    ScorletBoard board{*this, recorder, input, painter};
+    BoardMouse mouse{*this, input, painter, layout};
     UniqueCursor handPointBlue;
 };

@@ -53,6 +53,7 @@ enum ClockControl : int {
     mnuNextWindow,
     mnuSetupByKey,
     mnuScorletHelp,
+    mnuTurnBoard,  // in the Scorlet menu
 };
 
 // The Scorlet.
@@ -80,7 +81,8 @@ enum ScorletControl : int {
     txtMove = 2154,
     txtTypedMove,
     lblTypedMove,
-    lblWhoseMove = 2157,
+    lblWhoseMove,
+    lblPlayer = 2158,  // the headings of the lists
 
     mnuEditMove = 2160,
     mnuPrintMoveList,

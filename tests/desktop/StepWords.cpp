@@ -136,6 +136,17 @@ void Steps::AddLooks() {
         const HWND control = Shown(words.Take());
         Await([&] { return Utf8(SpokenName(control)); }, words.Take());
     });
+    // So does a row of a list, counted from 1.
+    Add("says-row", [this](Words& words) {
+        const HWND list = Shown(words.Take());
+        const int row = words.Number();
+        Await([&] { return Utf8(SpokenName(list, row)); }, words.Take());
+    });
+    // The first row that is in sight.
+    Add("top-row", [this](Words& words) {
+        const HWND list = Shown(words.Take());
+        Await([&] { return std::to_string(SendMessageW(list, LB_GETTOPINDEX, 0, 0) + 1); }, words.Take());
+    });
     Add("lists", [this](Words& words) {
         Await([this] { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }, words.Take());
     });

@@ -6,7 +6,7 @@ namespace {
 
 // "W3: " and a script: what the clock says, "-" for none; then what the record expects, and how that differs.
 std::string Shown(const std::string& row) {
-    constexpr std::array kinds{"", " behind", " ahead", " far", " other colour"};
+    constexpr std::array kinds{"", " behind", " far", " other colour"};
     const size_t colon = row.find(':');
     std::optional<ClockTurn> clock;
     if (row[0] != '-') clock = ClockTurn{row[0] == 'W' ? White : Black, std::stoi(row.substr(1))};
@@ -21,10 +21,10 @@ TEST(WhoseMoveTest, BesideTheClock) {
     ExpectRows(Shown, R"(
         -: => W1 | -: e2e4 => B1 | -: e2e4 e7e5 => W2 | -: e2e4 e7e5 g1f3 W1= b8c6 => W3 | -: e2e4 e7e5 deleteW => W1
         W1: => W1 | B1: => W1 behind | W2: => W1 far from 2 | W17: => W1 far from 17
-        W1: e2e4 => B1 ahead | B1: e2e4 => B1 | W2: e2e4 => B1 behind | W1: e2e4 e7e5 => W2 far from 1
-        B1: e2e4 e7e5 => W2 ahead | B2: e2e4 e7e5 => W2 behind | B2147483647: => W1 far from 2147483647
+        W1: e2e4 => B1 | B1: e2e4 => B1 | W2: e2e4 => B1 behind | W1: e2e4 e7e5 => W2 far from 1
+        B1: e2e4 e7e5 => W2 | B2: e2e4 e7e5 => W2 behind | B2147483647: => W1 far from 2147483647
         W3: top3,2 => W1 far from 3 | W3: top3,2 e2e4 e7e5 d2d4 d7d5 => W3 | W1: top1,0 B0=e5 => W1
-        W3: go3,2W => W3 | W3: go3,2W e2e4 => B3 ahead | B3: e2e4 go3,3B => B3 | -: e7e5 go3,2W => W3
+        W3: go3,2W => W3 | W3: go3,2W e2e4 => B3 | B3: e2e4 go3,3B => B3 | -: e7e5 go3,2W => W3
         A result ends the comparison.
         W1: e2e4 mate => B1 | W5: draw => W1 | W2: e2e4 mate e7e5 => W2
         The piece was of the other colour.
