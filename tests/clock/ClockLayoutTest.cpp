@@ -12,11 +12,11 @@ std::string Places(int width, int height) {
         ExpectApartInside({layout.Panels[White].Panel, layout.Panels[Black].Panel}, {0, 0, width, height});
     for (const Side side : {Black, White}) {
         const PanelLayout& panel = layout.Panels[side];
-        text = ExpectApartInside(
-                   {panel.Name, panel.Blink, panel.Face, panel.TurnMarks[0], panel.TurnMarks[1], panel.TurnMarks[2],
-                    panel.Flag, panel.Hand, panel.ClockButton, panel.PauseButton, panel.MoveNumber, panel.MoveCount,
-                    panel.Period, panel.PeriodTime, panel.Bonus, panel.BonusTime},
-                   panel.Panel) +
+        const std::array<Box, 3> marks = panel.TurnMarks();
+        text = ExpectApartInside({panel.Name, panel.Blink, panel.Face, marks[0], marks[1], marks[2], panel.Flag,
+                                  panel.Hand, panel.ClockButton, panel.PauseButton, panel.MoveNumber, panel.MoveCount,
+                                  panel.Period, panel.PeriodTime, panel.Bonus, panel.BonusTime},
+                                 panel.Panel) +
                (side == Black ? "" : "; " + text);
     }
     for (const int type : {layout.NameType, layout.BlinkType, layout.ButtonType, layout.PauseType, layout.TextType})
@@ -26,16 +26,46 @@ std::string Places(int width, int height) {
 
 }  // namespace
 
-TEST(ClockLayoutTest, NothingOverlapsOrLeavesItsPanelAtAnySize) {
-    for (const auto& [width, height] :
-         {std::pair{LeastWidth, LeastHeight}, {2240, 960}, {LeastWidth, 900}, {2560, LeastHeight}})
+// The width of "00:00:00" in the bold type of the faces, for digits of height 1.
+constexpr double TextShape = 5.63;
+
+TEST(ClockLayoutTest, NothingOverlapsAndDigitsFillTheirFacesAtAnySize) {
+    for (const auto& [width, height] : {std::pair{LeastWidth, LeastHeight},
+                                        {300, 520},
+                                        {300, 700},
+                                        {450, 560},
+                                        {900, 1100},
+                                        {LeastWidth, 900},
+                                        {480, LeastHeight},
+                                        {640, 400},
+                                        {780, LeastHeight},
+                                        {1020, 700},
+                                        {1280, 940},
+                                        {1920, 1010},
+                                        {2240, 960},
+                                        {3840, 2060},
+                                        {3840, LeastHeight}}) {
         Places(width, height);
-    // As it was drawn.
+        const PanelLayout panel = LayOutClock(width, height).Panels[Black];
+        const DigitSize digits = FitDigits(panel.Face.Width, panel.Face.Height, TextShape);
+        EXPECT_GE(digits.Height, panel.Face.Height * 0.45) << width << " x " << height;
+        EXPECT_GE(digits.Width, panel.Face.Width * 0.9) << width << " x " << height;
+        EXPECT_GE(digits.Width, digits.Height * TextShape * 0.6 - 1e-9);
+        EXPECT_GE(panel.Frame, panel.Panel.Width * 0.025);
+    }
+}
+
+TEST(ClockLayoutTest, IsLaidOutAsItWasDrawn) {
     EXPECT_EQ(Places(DesignWidth, DesignHeight),
-              "68:24 293x42, 371:24 166x42, 30:81 507x196, 30:31 28x28, 30:72 507x9, 30:277 507x9, 30:306 84x84, "
-              "124:306 84x84, 218:300 197x96, 425:300 112x96, 30:404 130x26, 160:404 70x26, 240:404 235x26, "
-              "475:404 62x26, 240:430 235x26, 475:430 62x26; 621:24 293x42, 924:24 166x42, 583:81 507x196, 583:31 "
-              "28x28, 583:72 507x9, 583:277 507x9, 583:306 84x84, 677:306 84x84, 771:300 197x96, 978:300 112x96, "
-              "583:404 130x26, 713:404 70x26, 793:404 235x26, 1028:404 62x26, 793:430 235x26, 1028:430 62x26 30 20 "
-              "44 18 19");
+              "97:34 208x53, 365:42 146x36, 39:97 486x206, 328:44 31x31, 9:9 546x15, 9:456 546x15, 39:34 53x53, 39:313 "
+              "78x79, 117:313 267x79, 394:313 131x79, 39:397 128x26, 167:397 52x26, 219:397 242x26, 461:397 64x26, "
+              "39:423 422x26, 461:423 64x26; 652:34 208x53, 920:42 146x36, 594:97 486x206, 883:44 31x31, 564:9 546x15, "
+              "564:456 546x15, 594:34 53x53, 594:313 78x79, 672:313 267x79, 949:313 131x79, 594:397 128x26, 722:397 "
+              "52x26, 774:397 242x26, 1016:397 64x26, 594:423 422x26, 1016:423 64x26 33 28 40 22 20");
+    EXPECT_EQ(Places(300, 690),
+              "50:15 106x31, 190:20 86x21, 16:54 268x141, 169:21 18x18, 4:4 292x8, 4:335 292x8, 16:15 31x31, 16:204 "
+              "43x71, 59:204 146x71, 212:204 72x71, 16:282 83x17, 99:282 34x17, 16:299 226x17, 242:299 42x17, 16:316 "
+              "226x17, 242:316 42x17; 50:358 106x31, 190:363 86x21, 16:397 268x141, 169:364 18x18, 4:347 292x8, 4:678 "
+              "292x8, 16:358 31x31, 16:547 43x71, 59:547 146x71, 212:547 72x71, 16:625 83x17, 99:625 34x17, 16:642 "
+              "226x17, 242:642 42x17, 16:659 226x17, 242:659 42x17 19 16 36 12 13");
 }
