@@ -6,6 +6,7 @@
 #include "resources/resource.h"
 #include "settings/ShownName.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -114,8 +115,12 @@ void ClockPanels::ArrangePanel(Side side) {
     place(imgHand, panel.Hand);
     place(cmdClock, panel.ClockButton, painter.ButtonFont());
     place(cmdPause, panel.PauseButton, painter.PauseFont());
-    place(lblMoveNumber, panel.MoveNumber, painter.TextFont());
-    place(lblMoveCount, panel.MoveCount, painter.TextFont());
+    // The number follows its caption, which is shorter in some languages.
+    Box caption = panel.MoveNumber, count = panel.MoveCount;
+    caption.Width = std::min(caption.Width, painter.TextWidth(texts(TextId::MoveNumber)) + layout.TextType / 4);
+    count.Left = caption.Right();
+    place(lblMoveNumber, caption, painter.TextFont());
+    place(lblMoveCount, count, painter.TextFont());
     place(lblPeriod, panel.Period, painter.TextFont());
     place(lblPeriodTime, panel.PeriodTime, painter.TextFont());
     place(lblBonus, panel.Bonus, painter.TextFont());

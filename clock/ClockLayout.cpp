@@ -8,7 +8,7 @@ namespace {
 int Round(double length) { return static_cast<int>(std::lround(length)); }
 
 // Widths of the texts below the keys in the three languages, as multiples of the height of their type.
-constexpr double MoveNumberWidth = 6.4, MoveCountWidth = 2.6, CaptionWidth = 11.9, TimeWidth = 3.2;
+constexpr double MoveNumberWidth = 6.55, MoveCountWidth = 2.6, CaptionWidth = 11.7, TimeWidth = 3.17;
 constexpr double RowHeight = 1.3;
 // What these texts need beside each other.
 constexpr double RowWidth = MoveNumberWidth + MoveCountWidth + CaptionWidth + TimeWidth;
@@ -45,9 +45,9 @@ void LayOutKeys(PanelLayout& layout, const Insides& in, int top, int height, int
     layout.ClockButton = {layout.Hand.Right(), top, layout.Key.Width - hand, height};
 }
 
-// The line of the name. Returns the type of the word in the mark.
-int LayOutHeader(PanelLayout& layout, const Insides& in, int top, int height, int gap) {
-    const int mark = Round(height * 0.95), width = Round(mark * 4.3), type = Round(mark * 0.56);
+// The line of the name, with a mark that is `mark` high.
+void LayOutHeader(PanelLayout& layout, const Insides& in, int top, int height, int mark, int gap) {
+    const int width = Round(mark * 4.3);
     layout.Flag = {in.Left, top, height, height};
     layout.Mark = {in.Right - width, top + (height - mark) / 2, width, mark};
     const int sign = Round(mark * 0.62), word = Round(mark * 0.72);
@@ -57,7 +57,6 @@ int LayOutHeader(PanelLayout& layout, const Insides& in, int top, int height, in
                     word};
     const int nameLeft = layout.Flag.Right() + gap;
     layout.Name = {nameLeft, top, layout.Mark.Left - gap - nameLeft, height};
-    return type;
 }
 
 PanelLayout LayOutPanel(const Box& panel, bool column, ClockLayout& all) {
@@ -67,8 +66,8 @@ PanelLayout LayOutPanel(const Box& panel, bool column, ClockLayout& all) {
     const int padding = Round(panel.Width * (column ? 0.014 : 0.028)), border = layout.Frame + padding;
     const Insides in{layout.Frame, panel.Left + border, panel.Width - 2 * border, panel.Right() - border};
 
-    // A panel that is wide for its height has its texts in two rows.
-    const bool inTwoRows = panel.Width * 100 >= panel.Height * 105;
+    // Only a panel that is narrow for its height needs a row more for its texts.
+    const bool inTwoRows = panel.Width * 100 >= panel.Height * 85;
     const double type =
         inTwoRows ? std::min(in.Width / RowWidth, panel.Height / 15.5) : std::min(in.Width / 20.0, panel.Height / 18.0);
     all.TextType = static_cast<int>(type);
@@ -87,7 +86,10 @@ PanelLayout LayOutPanel(const Box& panel, bool column, ClockLayout& all) {
     key += Round(spare * 0.6);
     const int space = (spare - Round(spare * 0.6)) / 3;
 
-    all.BlinkType = LayOutHeader(layout, in, headerTop + space / 2, header, std::max(gap / 2, 3));
+    // Small marks take all the height, so that their word is readable.
+    const int mark = Round(std::clamp(all.TextType * 1.8, header * 0.8, header * 0.95));
+    LayOutHeader(layout, in, headerTop + space / 2, header, mark, std::max(gap * 2 / 3, 4));
+    all.BlinkType = Round(mark * 0.56);
     const int faceWidth = std::min(in.Width, Round(face * GreatestFaceShape));
     layout.Face = {in.Left + (in.Width - faceWidth) / 2, faceTop + space, faceWidth, face};
     LayOutKeys(layout, in, layout.Face.Bottom() + gap + space, key, gap);

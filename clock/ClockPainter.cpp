@@ -77,14 +77,12 @@ void WriteCentred(HDC dc, RECT area, HFONT font, COLORREF colour, const std::wst
     DrawTextW(dc, text.c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }
 
-// A ring inside the edges of a key.
-void DrawFocus(HDC dc, RECT area, COLORREF colour) {
-    const int inset = std::max(static_cast<int>(area.bottom - area.top) / 16, 3);
-    InflateRect(&area, -inset, -inset);
-    for (int line = std::max(inset / 3, 1); line > 0; --line) {
-        Frame(dc, area, colour);
-        InflateRect(&area, -1, -1);
-    }
+// A bar below the text of the key that has the focus.
+void DrawFocus(HDC dc, const RECT& top, COLORREF colour) {
+    const int width = static_cast<int>(top.right - top.left), height = static_cast<int>(top.bottom - top.top);
+    const int bar = std::max(height / 18, 2);
+    const LONG left = top.left + width * 5 / 12, bottom = top.bottom - height / 9;
+    FillRounded(dc, {left, bottom - bar, top.right - width * 5 / 12, bottom}, bar / 2, colour);
 }
 
 // An arrow for a clock that runs, two bars for one that is paused.
@@ -136,6 +134,11 @@ HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
     if (wanted > width)
         font = MakeFont(std::max(MulDiv(layout.NameType, width, wanted) - 1, layout.NameType * 2 / 3), true);
     return font.get();
+}
+
+int ClockPainter::TextWidth(const std::wstring& text) const {
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
+    return static_cast<int>(ExtentOf(dc.get(), textFont.get(), text).cx);
 }
 
 COLORREF ClockPainter::NameColour(PanelLook look) { return look == PanelLook::Waiting ? QuietColour : InkColour; }

@@ -28,6 +28,9 @@ class ClockPainter {
     HFONT PauseFont() const { return pauseFont.get(); }
     HFONT TextFont() const { return textFont.get(); }
 
+    // The width of a text below the keys, in pixels.
+    int TextWidth(const std::wstring& text) const;
+
     HBRUSH BackgroundBrush() const { return backgroundBrush.get(); }
     HBRUSH CardBrush() const { return cardBrush.get(); }  // under the labels
     static COLORREF NameColour(PanelLook look);

@@ -25,7 +25,7 @@ struct FaceShades {
 };
 // White's face and Black's.
 inline constexpr FaceShades FullFaces[] = {{0xFFFFFF, 0x141312}, {0x141312, 0xFFFFFF}};
-inline constexpr FaceShades DimmedFaces[] = {{0xBDBAB3, 0x625F59}, {0x4B4A47, 0xA5A29B}};
+inline constexpr FaceShades DimmedFaces[] = {{0xBDBAB3, 0x625F59}, {0x3A3937, 0x888580}};
 inline constexpr FaceShades PausedFaces[] = {{0xBDBAB3, 0x141312}, {0x4B4A47, 0xFFFFFF}};
 inline constexpr FaceShades FallenFaces[] = {{Fallen, 0xFFFFFF}, {0xFFFFFF, Fallen}};
 
