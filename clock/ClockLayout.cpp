@@ -67,7 +67,7 @@ PanelLayout LayOutPanel(const Box& panel, bool column, ClockLayout& all) {
     const Insides in{layout.Frame, panel.Left + border, panel.Width - 2 * border, panel.Right() - border};
 
     // Only a panel that is narrow for its height needs a row more for its texts.
-    const bool inTwoRows = panel.Width * 100 >= panel.Height * 85;
+    const bool inTwoRows = panel.Width * 10 >= panel.Height * 9;
     const double type =
         inTwoRows ? std::min(in.Width / RowWidth, panel.Height / 15.5) : std::min(in.Width / 20.0, panel.Height / 18.0);
     all.TextType = static_cast<int>(type);
