@@ -48,7 +48,7 @@ void LayOutKeys(PanelLayout& layout, const Insides& in, int top, int height, int
 // The line of the name, with a mark that is `mark` high.
 void LayOutHeader(PanelLayout& layout, const Insides& in, int top, int height, int mark, int gap) {
     const int width = Round(mark * 4.3);
-    layout.Flag = {in.Left, top, height, height};
+    layout.Flag = {in.Left, top - gap / 2, height + gap, height + gap};
     layout.Mark = {in.Right - width, top + (height - mark) / 2, width, mark};
     const int sign = Round(mark * 0.62), word = Round(mark * 0.72);
     layout.Sign = {layout.Mark.Left + Round(mark * 0.35), layout.Mark.Top + (mark - sign) / 2, sign, sign};

@@ -233,10 +233,13 @@ void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook loo
     }
     const Buffered buffer(item);
     Fill(buffer.Dc(), buffer.Area(), CardColour);
-    if (side == White) FillRounded(buffer.Dc(), buffer.Area(), layout.FaceCorner, LineColour);
+    // A line around a face keeps one that is as bright as the card apart from it.
     RECT area = buffer.Area();
-    if (side == White) InflateRect(&area, -1, -1);
-    FillRounded(buffer.Dc(), area, layout.FaceCorner, ground);
+    const bool fallen = look == PanelLook::Fallen;
+    const int line = fallen ? std::max(static_cast<int>(area.bottom) / 30, 2) : 1;
+    FillRounded(buffer.Dc(), area, layout.FaceCorner, fallen ? FallenColours.Frame : LineColour);
+    InflateRect(&area, -line, -line);
+    FillRounded(buffer.Dc(), area, layout.FaceCorner - line / 2, ground);
     write(buffer.Dc());
 }
 
@@ -286,7 +289,7 @@ void ClockPainter::DrawFlag(const DRAWITEMSTRUCT& item, const Picture& flag, boo
     const Buffered buffer(item);
     const RECT area = buffer.Area();
     Fill(buffer.Dc(), area, CardColour);
-    const int side = static_cast<int>(std::min(area.right, area.bottom)), size = fallen ? side : side * 7 / 10;
+    const int side = static_cast<int>(std::min(area.right, area.bottom)), size = fallen ? side : side * 3 / 5;
     flag.Draw(buffer.Dc(), (side - size) / 2, (side - size) / 2, size);
 }
 
