@@ -1,6 +1,9 @@
 #include "app/ClockMenu.h"
 
+#include "platform/Form.h"
 #include "resources/resource.h"
+
+#include <commctrl.h>
 
 #include <array>
 #include <span>
@@ -13,7 +16,7 @@ struct Entry {
     int Command;  // 0: a separator line
     TextId Text{};
     TextId Key = NoKey;
-    bool Available = true;  // false: until the Scorlet is open
+    bool Available = true;  // false: not at the start
 };
 
 constexpr Entry Separator{0};
@@ -42,6 +45,17 @@ constexpr std::array ScorletEntries{
     Entry{mnuCloseScorlet, TextId::MenuClose, NoKey, false},
     Separator,
     Entry{mnuPrint, TextId::MenuPrint, NoKey, false},
+    Separator,
+    Entry{mnuTakeBack, TextId::MenuTakeBack, TextId::MenuTakeBackKey, false},
+    Entry{mnuRedo, TextId::MenuRedo, TextId::MenuRedoKey, false},
+    Separator,
+    Entry{mnuGoOn, TextId::MenuGoOn, NoKey, false},
+    Separator,
+    Entry{mnuCopyGame, TextId::MenuCopyGame, NoKey, false},
+    Entry{mnuCopyPosition, TextId::MenuCopyPosition, NoKey, false},
+    Entry{mnuExportPgn, TextId::MenuExportPgn, NoKey, false},
+    Separator,
+    Entry{mnuTurnBoard, TextId::MenuTurnBoard},
 };
 
 constexpr std::array HelpEntries{
@@ -59,7 +73,7 @@ void AppendPopup(HMENU bar, const Texts& texts, TextId caption, std::span<const 
         }
         const UINT state = entry.Available ? MF_ENABLED : MF_GRAYED;
         AppendMenuW(popup, MF_STRING | state, static_cast<UINT_PTR>(entry.Command),
-                    EntryText(texts, entry.Text, entry.Key).c_str());
+                    (entry.Key == NoKey ? texts(entry.Text) : texts.WithKey(entry.Text, entry.Key)).c_str());
     }
     AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), texts(caption).c_str());
 }
@@ -75,10 +89,26 @@ HMENU MakeClockMenu(const Texts& texts) {
     return bar;
 }
 
+void NamePauseEntry(HMENU menu, const Texts& texts, bool paused) {
+    std::wstring text = texts(paused ? TextId::MenuResume : TextId::MenuPause);
+    // The text alone: an entry of an open menu keeps its highlight.
+    MENUITEMINFOW entry{};
+    entry.cbSize = sizeof(entry);
+    entry.fMask = MIIM_STRING;
+    entry.dwTypeData = text.data();
+    SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
+}
+
+void EnableEntry(HMENU menu, int entry, bool enabled) {
+    EnableMenuItem(menu, static_cast<UINT>(entry), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+}
+
 UniqueAccelerators MakeClockAccelerators() {
     std::array keys{
         ACCEL{FCONTROL | FVIRTKEY, 'T', mnuStart},
         ACCEL{FCONTROL | FVIRTKEY, 'R', mnuReset},
+        ACCEL{FCONTROL | FVIRTKEY, 'Z', mnuTakeBack},
+        ACCEL{FCONTROL | FVIRTKEY, 'Y', mnuRedo},
         // Not the entry's own command: the system sends none for a disabled entry, and the player would get no answer.
         ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetupByKey},
         ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
@@ -86,6 +116,7 @@ UniqueAccelerators MakeClockAccelerators() {
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
 }
 
-std::wstring EntryText(const Texts& texts, TextId entry, TextId key) {
-    return key == NoKey ? texts(entry) : texts(entry) + L"\t" + texts(key);
+bool IsForField(const MSG& message) {
+    return message.message == WM_KEYDOWN && (message.wParam == 'Z' || message.wParam == 'Y') &&
+           IsOfKind(message.hwnd, WC_EDITW);
 }

@@ -52,7 +52,9 @@ RECT ClockScorlet::PlaceBeside() const {
         GetWindowRect(window, &area);
     }
     const LONG width = std::min(size.cx, std::max(screen.right - area.right, LONG{Scaled(ScorletLeastWidth, dpi)}));
-    const LONG height = std::min(size.cy, screen.bottom - screen.top);
+    // A narrow one has its lists below the board.
+    const LONG screenHeight = screen.bottom - screen.top;
+    const LONG height = width < size.cx ? screenHeight : std::min(size.cy, screenHeight);
     const LONG left = std::max(std::min(area.right, screen.right - width), screen.left);
     const LONG top = std::max(std::min(area.top, screen.bottom - height), screen.top);
     return {left, top, left + width, top + height};

@@ -2,6 +2,7 @@
 
 #include "app/PrintedList.h"
 #include "platform/Ansi.h"
+#include "platform/Clipboard.h"
 #include "platform/Files.h"
 #include "platform/Process.h"
 #include "platform/SystemError.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace {
 
@@ -26,26 +26,6 @@ std::vector<HWND> EditorWindows() {
     for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, EditorClass, nullptr)) != nullptr;)
         windows.push_back(window);
     return windows;
-}
-
-// 0, or why the text is not on the clipboard.
-DWORD PutOnClipboard(HWND owner, const std::wstring& text) {
-    if (!OpenClipboard(owner)) return ERROR_BUSY;
-    EmptyClipboard();
-    const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-    DWORD code = 0;
-    if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes)) {
-        std::memcpy(GlobalLock(memory), text.c_str(), bytes);
-        GlobalUnlock(memory);
-        if (!SetClipboardData(CF_UNICODETEXT, memory)) {
-            code = GetLastError();
-            GlobalFree(memory);
-        }
-    } else {
-        code = ERROR_NOT_ENOUGH_MEMORY;
-    }
-    CloseClipboard();
-    return code;
 }
 
 bool SendPasteKeys() {

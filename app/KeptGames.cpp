@@ -9,7 +9,6 @@
 #include "resources/resource.h"
 #include "settings/ShownName.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -22,27 +21,26 @@ std::wstring TimeOf(const SavedGame& saved, Side side) {
 }  // namespace
 
 KeptGames::KeptGames(const Surroundings& around, const Form& clock, const Game& game)
-    : around(around), clock(clock), game(game), keeper(around.System.DataFolder, [this](DWORD code) {
-          // By the writer's own thread.
-          if (!std::exchange(failed, true)) PostMessageW(this->clock.Window(), WM_KEEPFAILED, code, 0);
-      }) {}
+    : around(around),
+      clock(clock),
+      game(game),
+      // By the writer's own thread.
+      keeper(around.System.DataFolder,
+             [this](DWORD code) { PostMessageW(this->clock.Window(), WM_KEEPFAILED, code, 0); }) {}
 
 void KeptGames::Offer(const Take& take) {
-    std::vector<GameKeeper::Orphan> orphans = keeper.Orphans();
-    for (const GameKeeper::Orphan& orphan : orphans) {
+    for (const GameKeeper::Orphan& orphan : keeper.Orphans()) {
         bool taken = false;
-        Try([&] {
-            const auto bytes = ReadFileBytes(orphan.Path, GameKeeper::LongestKept);
-            const auto saved = bytes ? Read(orphan.Path, *bytes) : std::nullopt;
+        const bool settled = Try([&] {
+            const std::optional<SavedGame> saved = Read(orphan.Path);
             if (!saved) return;
             taken = IsUnderWay(*saved) && Ask(*saved, orphan.Path);
-            if (taken)
-                take(*saved);
-            else
-                keeper.PutAside({reinterpret_cast<const char*>(bytes->data()), bytes->size()});
-            // This program's own file is written anew.
-            if (orphan.Lock) DeleteFileAt(orphan.Path);
+            if (!taken) return keeper.MakeLast(orphan);
+            keeper.Adopt(orphan);
+            take(*saved);
         });
+        // A new game must not take the place of one that could be neither read nor put aside.
+        if (!settled && !orphan.Lock) return;
         if (taken) break;
     }
     keeping = true;
@@ -51,24 +49,34 @@ void KeptGames::Offer(const Take& take) {
 
 void KeptGames::Keep() {
     if (!keeping) return;
-    if (game.WorthKeeping())
-        keeper.Keep(Encoded());
-    else
-        keeper.KeepNothing();
+    if (!game.WorthKeeping()) return keeper.KeepNothing();
+    // Of a game that could not be loaded, what was kept before stays.
+    if (const auto bytes = Encoded()) keeper.Keep(*bytes);
 }
 
 void KeptGames::PutAside() {
-    if (keeping) Try([&] { keeper.PutAside(Encoded()); });
+    if (!keeping) return;
+    try {
+        if (const auto bytes = Encoded()) keeper.PutAside(*bytes);
+    } catch (const SystemError& error) {
+        // Later: no message may come between a game and the one that takes its place.
+        PostMessageW(clock.Window(), WM_KEEPFAILED, error.Code(), 0);
+    }
+}
+
+void KeptGames::TellFailure(DWORD code) {
+    if (!std::exchange(failureTold, true)) Tell(code);
 }
 
 void KeptGames::BringBackLast(const Take& take) {
     Try([&] {
-        const std::optional<SavedGame> last = Read(keeper.LastPath(), keeper.Last());
+        const std::optional<SavedGame> last = Read(keeper.LastPath());
         if (!last) return;
         // Where there is a game now, taking the other one puts it aside.
         const bool swapped = game.WorthKeeping();
         take(*last);
-        if (!swapped) keeper.ForgetLast();
+        Keep();
+        if (keeper.Finish() && !swapped) keeper.ForgetLast();
     });
 }
 
@@ -79,25 +87,29 @@ void KeptGames::Finish() {
 }
 
 // With the players' own names: an empty one stays empty.
-std::string KeptGames::Encoded() const { return EncodeKeptGame(game.Encode(game.Options().PlayerNames, Today())); }
+std::optional<std::string> KeptGames::Encoded() const {
+    const GameFiles files = game.Encode(game.Options().PlayerNames, Today());
+    if (FaultOf(files)) return std::nullopt;
+    return EncodeKeptGame(files);
+}
 
-std::optional<SavedGame> KeptGames::Read(const std::wstring& path, std::span<const uint8_t> bytes) const {
+std::optional<SavedGame> KeptGames::Read(const std::wstring& path) const {
     const Texts& texts = around.Wording;
     std::wstring reason;
-    GameFiles files;
-    SavedGame saved;
-    if (const auto error = DecodeKeptGame(bytes, files)) {
-        reason = texts.Reason(error->What, error->Place);
-    } else {
-        const auto read = [&](GameFile file, size_t limit) -> std::optional<std::vector<uint8_t>> {
-            if (!files[file]) return std::nullopt;
-            return std::vector<uint8_t>(
-                files[file]->begin(),
-                files[file]->begin() + static_cast<std::ptrdiff_t>(std::min(files[file]->size(), limit)));
-        };
-        const auto damaged = DecodeGame(read, game.Options(), saved);
-        if (!damaged) return saved;
-        reason = texts.Reason(damaged->What, damaged->Place, damaged->Column);
+    try {
+        const auto bytes = ReadFileBytes(path, GameKeeper::LongestKept);
+        if (!bytes) return std::nullopt;
+        GameFiles files;
+        SavedGame saved;
+        if (const auto error = DecodeKeptGame(*bytes, files)) {
+            reason = texts.Reason(error->What, error->Place);
+        } else {
+            const auto damaged = DecodeGame(ReaderOf(files), game.Options(), saved);
+            if (!damaged) return saved;
+            reason = texts.Reason(damaged->What, damaged->Place, damaged->Column);
+        }
+    } catch (const SystemError& error) {
+        reason = texts.Reason(error.Code());
     }
     const std::wstring name = GameKeeper::MoveAway(path);
     around.Boxes.Inform(clock.Window(), texts.Compose(TextId::KeptGameDamaged, reason, name));
@@ -115,11 +127,17 @@ bool KeptGames::Ask(const SavedGame& saved, const std::wstring& path) const {
                                           TimeOf(saved, Black), DateAndTime(LastChangeOf(path))));
 }
 
-void KeptGames::Try(const std::function<void()>& action) const {
+bool KeptGames::Try(const std::function<void()>& action) const {
     try {
         action();
+        return true;
     } catch (const SystemError& error) {
-        const std::wstring reason = around.Wording.Reason(error.Code());
-        around.Boxes.Inform(clock.Window(), around.Wording.Compose(TextId::GameNotKept, error.Thing(), reason));
+        Tell(error.Code());
+        return false;
     }
+}
+
+void KeptGames::Tell(DWORD code) const {
+    const std::wstring reason = around.Wording.Reason(code);
+    around.Boxes.Inform(clock.Window(), around.Wording.Compose(TextId::GameNotKept, around.System.DataFolder, reason));
 }

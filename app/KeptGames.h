@@ -13,7 +13,7 @@ class KeptGames {
     using Take = std::function<void(const SavedGame& saved)>;
 
     // `clock`, the form of the clock window, and `game` must outlive it. That a game could not be kept is told to the
-    // clock window by WM_KEEPFAILED with the code of GetLastError in wParam, once.
+    // clock window by WM_KEEPFAILED with the code of GetLastError in wParam.
     KeptGames(const Surroundings& around, const Form& clock, const Game& game);
 
     // Asks at the start for each game that no program keeps any more whether it is to go on, until one is taken.
@@ -23,6 +23,8 @@ class KeptGames {
     void Keep();
     // The game becomes the last one.
     void PutAside();
+    // Tells the players, once for all, why games cannot be kept.
+    void TellFailure(DWORD code);
 
     bool HasLast() const { return keeper.HasLast(); }
     // The last game and the present one change places.
@@ -32,15 +34,17 @@ class KeptGames {
     void Finish();
 
   private:
-    std::string Encoded() const;
-    std::optional<SavedGame> Read(const std::wstring& path, std::span<const uint8_t> bytes) const;
+    std::optional<std::string> Encoded() const;  // none: it could not be loaded again
+    // A game that cannot be read is told of and gets another name. Throws SystemError when it cannot get one.
+    std::optional<SavedGame> Read(const std::wstring& path) const;
     bool Ask(const SavedGame& saved, const std::wstring& path) const;
-    // What the disk refuses is told in a message.
-    void Try(const std::function<void()>& action) const;
+    // What the disk refuses is told in a message; the answer is false then.
+    bool Try(const std::function<void()>& action) const;
+    void Tell(DWORD code) const;
 
     const Surroundings around;
     const Form& clock;
     const Game& game;
-    bool keeping = false, failed = false;
+    bool keeping = false, failureTold = false;
     GameKeeper keeper;
 };

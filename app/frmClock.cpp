@@ -35,6 +35,7 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
       scorlet(around, *this, game),
       printer(around, game),
+      exporter(around, game),
       kept(around, *this, game),
       bringBack(
           [this](const SavedGame& saved) { TakeGame(saved, captions(TextId::ProductTitle), saved.ScorletLoaded); }) {
@@ -91,7 +92,7 @@ bool frmClock::TakeMessage(MSG& message) {
     panels.Relay(message);
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
-    if (!repeated && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    if (!repeated && !IsForField(message) && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
     if (scorlet.Loaded() && scorlet.Loaded()->TakeMessage(message)) return true;
     return IsDialogMessageW(Window(), &message);
 }
@@ -120,6 +121,13 @@ void frmClock::ShowAbout() {
     about.RunModal();
 }
 
+void frmClock::TurnBoard() {
+    game.TurnBoard();
+    UpdateMenu();
+    const std::wstring problem = settingsFile.SaveBoardTurned(settings.BoardTurned, texts);
+    if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+}
+
 void frmClock::ShowFiles(FilesMode mode) {
     frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
     files.Open(Window());
@@ -136,6 +144,7 @@ void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title, bool 
     panels.ShowSettings();
     SetWindowTextW(Window(), title.c_str());
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
+    if (saved.Mismatched) messageBoxes.Inform(Window(), texts(TextId::FilesMismatched));
 }
 
 void frmClock::PlaceWindow() {
@@ -182,17 +191,20 @@ void frmClock::ShowPhase() {
 
 void frmClock::UpdateMenu() {
     const HMENU menu = GetMenu(Window());
-    const bool paused = game.Clock().CurrentPhase() == Phase::Paused;
-    std::wstring pause = captions(paused ? TextId::MenuResume : TextId::MenuPause);
-    // The text alone: an entry of an open menu keeps its highlight.
-    MENUITEMINFOW entry{};
-    entry.cbSize = sizeof(entry);
-    entry.fMask = MIIM_STRING;
-    entry.dwTypeData = pause.data();
-    SetMenuItemInfoW(menu, mnuPause, FALSE, &entry);
-    EnableMenuItem(menu, mnuSetup, MF_BYCOMMAND | (game.Clock().SetupEnabled() ? MF_ENABLED : MF_GRAYED));
-    for (const UINT scorletEntry : {mnuCloseScorlet, mnuPrint})
-        EnableMenuItem(menu, scorletEntry, MF_BYCOMMAND | (scorlet.Loaded() ? MF_ENABLED : MF_GRAYED));
+    NamePauseEntry(menu, captions, game.Clock().CurrentPhase() == Phase::Paused);
+    EnableEntry(menu, mnuSetup, game.Clock().SetupEnabled());
+    CheckMenuItem(menu, mnuTurnBoard, MF_BYCOMMAND | (settings.BoardTurned ? MF_CHECKED : MF_UNCHECKED));
+    for (const int entry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn})
+        EnableEntry(menu, entry, scorlet.Loaded());
+}
+
+// What is asked for only here, so that no press waits for it.
+void frmClock::OnOpenMenu() {
+    const HMENU menu = GetMenu(Window());
+    EnableEntry(menu, mnuBringBack, kept.HasLast());
+    EnableEntry(menu, mnuTakeBack, game.CanTakeBack());
+    EnableEntry(menu, mnuRedo, game.CanRedo());
+    EnableEntry(menu, mnuGoOn, game.CanGoOn());
 }
 
 void frmClock::Tick() {
@@ -271,19 +283,14 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             toKeep = false;
             kept.Keep();
             return 0;
-        case WM_KEEPFAILED:
-            messageBoxes.Inform(Window(), texts.Compose(TextId::GameNotKept, around.System.DataFolder,
-                                                        texts.Reason(static_cast<DWORD>(wParam))));
-            return 0;
-        case WM_QUERYENDSESSION: return TRUE;
+        case WM_KEEPFAILED: kept.TellFailure(static_cast<DWORD>(wParam)); return 0;
+        case WM_QUERYENDSESSION: kept.Keep(); return TRUE;
         case WM_ENDSESSION:
             if (wParam) kept.Finish();
             return 0;
         case WM_POWERBROADCAST: OnPower(wParam); return TRUE;
         case WM_TELLSLEEP: messageBoxes.Inform(Window(), texts(TextId::PausedForSleep)); return 0;
-        case WM_INITMENUPOPUP:
-            EnableMenuItem(GetMenu(Window()), mnuBringBack, MF_BYCOMMAND | (kept.HasLast() ? MF_ENABLED : MF_GRAYED));
-            return 0;
+        case WM_INITMENUPOPUP: OnOpenMenu(); return 0;
         case WM_SCORLETGONE:
             scorlet.Forget();
             UpdateMenu();
@@ -313,7 +320,14 @@ void frmClock::OnCommand(int id) {
             return;
         case mnuNextWindow: return scorlet.GoToOtherWindow();
         case mnuCloseScorlet: return scorlet.Close();
+        case mnuTakeBack: return game.TakeBack();
+        case mnuRedo: return game.Redo();
+        case mnuGoOn: return game.GoOnAtClocksMove();
+        case mnuTurnBoard: return TurnBoard();
         case mnuPrint: return printer.Print(Window());
+        case mnuCopyGame: return exporter.CopyGame(Window());
+        case mnuCopyPosition: return exporter.CopyPosition(Window());
+        case mnuExportPgn: return exporter.Export(Window());
         case mnuSetup:
         case mnuSetupByKey: return ShowSetup();
         case mnuContents: return ShowHelp(HelpPage::Contents);

@@ -3,6 +3,7 @@
 #include "app/ClockPanels.h"
 #include "app/ClockScorlet.h"
 #include "app/EditorPrinter.h"
+#include "app/GameExporter.h"
 #include "app/HelpWindow.h"
 #include "app/KeptGames.h"
 #include "clock/TickTimer.h"
@@ -45,6 +46,7 @@ class frmClock : public Form, private ClockView {
     void ShowSetup();
     void ShowAbout();
     void ShowHelp(HelpPage page);
+    void TurnBoard();
     void ShowFiles(FilesMode mode);
     void TakeGame(const SavedGame& saved, const std::wstring& title, bool opensScorlet);
     void UpdateMenu();
@@ -54,6 +56,7 @@ class frmClock : public Form, private ClockView {
     void TellProblems();
 
     void OnCommand(int id);
+    void OnOpenMenu();
     void OnMouseDown(POINT point, bool rightButton);
     void OnButtonKey(int id, WPARAM key);
     bool OnSetCursor();
@@ -76,6 +79,7 @@ class frmClock : public Form, private ClockView {
     ClockPanels panels;
     ClockScorlet scorlet;
     EditorPrinter printer;
+    GameExporter exporter;
     KeptGames kept;
     const KeptGames::Take bringBack;  // a game that was kept takes the place of the present one
     bool toKeep = false;              // WM_KEEPGAME is on its way

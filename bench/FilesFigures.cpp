@@ -33,9 +33,9 @@ HWND OpenFiles(ProgramRun& program, int entry) {
     return files;
 }
 
-void CloseFiles(ProgramRun& program, HWND files) {
+void CloseFiles(HWND files) {
     PostMessageW(files, WM_CLOSE, 0, 0);
-    if (!program.Ended(files)) throw std::runtime_error("the file dialog does not close");
+    if (!Eventually([&] { return !IsWindow(files); })) throw std::runtime_error("the file dialog does not close");
 }
 
 // Milliseconds from Yes until the condition holds.
@@ -43,7 +43,8 @@ double MeasureAction(ProgramRun& program, HWND files, int button, const wchar_t*
                      const std::function<bool()>& done) {
     SendMessageW(GetDlgItem(files, txtGameName), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name));
     PostMessageW(files, WM_COMMAND, static_cast<WPARAM>(button), 0);
-    const HWND question = program.WaitWindow(L"#32770");
+    if (!Eventually([&] { return program.Message() != nullptr; })) throw std::runtime_error("no question");
+    const HWND question = program.Message();
     const double start = Now();
     PostMessageW(question, WM_COMMAND, IDYES, 0);
     while (!done()) {
@@ -56,28 +57,27 @@ double MeasureAction(ProgramRun& program, HWND files, int button, const wchar_t*
 }  // namespace
 
 FilesTimes MeasureFiles(int games) {
-    const TestFolder folder;
-    FillFolder(folder.Path() + L"SavedGames\\", games);
-    ProgramRun program(folder, QuietSettings(true));
+    const Installed installed(WithScorlet());
+    FillFolder(installed.Folder() + L"SavedGames\\", games);
+    ProgramRun program(installed.Path());
     SendMessageW(program.Clock(), WM_COMMAND, mnuStart, 0);
     FilesTimes times{};
     std::vector<double> opens;
     HWND files = nullptr;
     while (opens.size() < 9) {
-        if (files) CloseFiles(program, files);
+        if (files) CloseFiles(files);
         const double start = Now();
         files = OpenFiles(program, mnuSave);
         opens.push_back(Now() - start);
     }
     times.Open = Percentile(opens, 50);
     times.Save = MeasureAction(program, files, cmdSave, L"new game", [&] { return !IsWindow(files); });
-    program.Ended(files);
     files = OpenFiles(program, mnuDelete);
     const HWND list = GetDlgItem(files, lstGames);
     const LRESULT listed = SendMessageW(list, LB_GETCOUNT, 0, 0);
     if (listed != games + 1) throw std::runtime_error("the list does not hold every game");
     times.Delete = MeasureAction(program, files, cmdDelete, L"game7",
                                  [&] { return SendMessageW(list, LB_GETCOUNT, 0, 0) == listed - 1; });
-    CloseFiles(program, files);
+    CloseFiles(files);
     return times;
 }

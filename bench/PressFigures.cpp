@@ -2,13 +2,18 @@
 
 #include "app/frmClock.h"
 #include "bench/RunningProgram.h"
+#include "platform/BackgroundFile.h"
 #include "platform/Painting.h"
 #include "resources/resource.h"
 #include "tests/desktop/Desktop.h"
 
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 namespace {
+
+constexpr DWORD BetweenPresses = 20;  // milliseconds
 
 Settings WithBonus() {
     Settings settings = QuietSettings();
@@ -35,22 +40,40 @@ LRESULT CALLBACK FaceProcedure(HWND face, UINT message, WPARAM wParam, LPARAM lP
     return result;
 }
 
+// The clock's window in this process, over a folder of its own.
+struct ClockHere {
+    const TestFolder Folder;
+    Settings Options = WithBonus();
+    const SettingsFile File{Folder.Path()};
+    const Texts Words{Options.LanguageIndex};
+    const MessageBoxes Boxes{Words};
+    Environment System;
+    TickTimer Timer;
+    Game Played{Options, Timer};
+    std::optional<frmClock> Form;
+
+    ClockHere() {
+        File.Save(Options);
+        System.Look = AppearanceOf("NONE");
+        System.DataFolder = Folder.Path();
+        Form.emplace(Surroundings{Words, Boxes, System}, File, Options, Played, Timer);
+        Form->Open();
+    }
+};
+
+// What waits in the queue. Keeping begins when a window has been told that it is open.
+void DealWithMessages(bool keeping) {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (keeping || message.message != WM_OPENED) DispatchMessageW(&message);
+    }
+}
+
 }  // namespace
 
-std::vector<double> MeasurePresses(int count) {
-    const TestFolder folder;
-    Settings settings = WithBonus();
-    const SettingsFile settingsFile(folder.Path());
-    settingsFile.Save(settings);
-    const Texts texts(settings.LanguageIndex);
-    const MessageBoxes messageBoxes(texts);
-    Environment environment;
-    environment.Look = AppearanceOf("NONE");
-    TickTimer timer;
-    Game game(settings, timer);
-    frmClock form({texts, messageBoxes, environment}, settingsFile, settings, game, timer);
-    form.Open();
-
+std::vector<double> MeasurePresses(int count, bool keeping) {
+    ClockHere here;
+    frmClock& form = *here.Form;
     std::array<PaintWatch, 2> watches;
     for (Side side : BothSides) {
         const HWND face = form.Control(ControlOf(lblFace, side));
@@ -62,12 +85,14 @@ std::vector<double> MeasurePresses(int count) {
     std::vector<double> times;
     Side running = White;
     while (times.size() < static_cast<size_t>(count)) {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        DealWithMessages(keeping);
+        // Players are slower than the writing of a kept game.
+        Sleep(BetweenPresses);
         PaintWatch& watch = watches[running];
         watch = {TextOf(form.Control(ControlOf(lblFace, running))), 0};
         const double start = Now();
         PostMessageW(form.Control(ControlOf(cmdClock, running)), WM_LBUTTONDOWN, 0, 0);
+        MSG message;
         while (!watch.Painted && GetMessageW(&message, nullptr, 0, 0) > 0) {
             if (form.TakeMessage(message)) continue;
             DispatchMessageW(&message);
@@ -76,6 +101,41 @@ std::vector<double> MeasurePresses(int count) {
         running = Other(running);
     }
     return times;
+}
+
+KeepCosts MeasureKeeping(int count) {
+    ClockHere here;
+    here.Options.WritePgn = true;
+    DealWithMessages(true);
+    SendMessageW(here.Form->Window(), WM_COMMAND, mnuShowScorlet, 0);
+    SavedGame saved{here.Options, here.Played.Clock().Clock().State(), {}, true};
+    for (int move = 0; move < MovesOfKeptGame; move += 2) {
+        for (const auto& [origin, destination] : {std::pair{"g1", "f3"}, {"g8", "f6"}, {"f3", "g1"}, {"f6", "g8"}})
+            saved.Scorlet.Play(SquareNamed(origin), SquareNamed(destination));
+    }
+    saved.Clock.MoveCount.fill(MovesOfKeptGame);
+    saved.Clock.PlayerTime = saved.Clock.Control.PeriodLimit;
+    saved.Clock.GameStarted = true;
+    here.Played.TakeLoadedGame(saved);
+    DealWithMessages(true);
+
+    const std::wstring path = here.Folder.Path() + L"Game1.kept";
+    BackgroundFile file(here.Folder.Path() + L"Game2.kept", [](DWORD) {});
+    KeepCosts costs;
+    for (int i = 0; i < count; ++i) {
+        Sleep(50);  // until the last one is on the disk
+        double start = Now();
+        SendMessageW(here.Form->Window(), WM_KEEPGAME, 0, 0);
+        costs.Window.push_back(Now() - start);
+        Sleep(50);
+        const std::string bytes = ReadFileText(path);
+        costs.Bytes = bytes.size();
+        start = Now();
+        file.Replace(bytes);
+        file.Finish();
+        costs.Writer.push_back(Now() - start);
+    }
+    return costs;
 }
 
 std::vector<double> MeasureBareControl(int count) {
@@ -103,12 +163,11 @@ std::vector<double> MeasureBareControl(int count) {
 }
 
 std::vector<double> MeasureKeys(int count) {
-    const TestFolder folder;
-    WriteSettingsFile(folder.Path(), WithBonus());
-    ProgramRun program(PutProgramInto(folder));
+    const Installed installed(WithBonus());
+    ProgramRun program(installed.Path());
     program.Clock();
     Key(VK_SPACE);
-    if (!Eventually([&] { return program.Focused() == ControlOf(cmdClock, White); }))
+    if (!Eventually([&] { return program.Focused() == program.Control(cmdClock); }))
         throw std::runtime_error("the program does not take the space key");
     std::vector<double> times;
     Side running = White;

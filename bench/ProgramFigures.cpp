@@ -15,18 +15,7 @@
 
 namespace {
 
-constexpr int Starts = 20, Presses = 1000, SavedGames = 5000;
-
-// A folder with the program and its settings.
-class Installed {
-  public:
-    explicit Installed(const Settings& settings) { WriteSettingsFile(folder.Path(), settings); }
-    const std::wstring& Path() const { return path; }
-
-  private:
-    TestFolder folder;
-    const std::wstring path = PutProgramInto(folder);
-};
+constexpr int Starts = 20, Presses = 1000, Keeps = 200, SavedGames = 5000;
 
 std::wstring EmptyProgram() { return BuildFolder() + L"empty_window.exe"; }
 
@@ -54,7 +43,7 @@ void MeasureStart() {
 }
 
 void MeasureMemory() {
-    const Installed clock(QuietSettings()), scorlet(QuietSettings(true));
+    const Installed clock(QuietSettings()), scorlet(WithScorlet());
     const RunningProgram alone(clock.Path(), L"frmClock");
     const RunningProgram both(scorlet.Path(), L"frmClock");
     const RunningProgram empty(EmptyProgram(), L"EmptyWindow");
@@ -71,6 +60,23 @@ void PressRow(const char* figure, const std::vector<double>& times) {
     std::printf("| %s | median %.2f ms, 99 %% under %.2f ms | worst %.2f ms | |\n", figure, Percentile(times, 50),
                 Percentile(times, 99), Percentile(times, 100));
     std::fflush(stdout);
+}
+
+// With and without the game being kept, by turns.
+void MeasureKept() {
+    constexpr int rounds = 4;
+    std::array<std::vector<double>, 2> times;
+    for (int round = 0; round < 2 * rounds; ++round) {
+        const std::vector<double> some = MeasurePresses(Presses / rounds, round % 2 == 0);
+        auto& all = times[round % 2];
+        all.insert(all.end(), some.begin(), some.end());
+    }
+    PressRow("press to changed face, within the process, the game being kept", times[0]);
+    PressRow("the same without keeping", times[1]);
+    const KeepCosts costs = MeasureKeeping(Keeps);
+    PressRow("keeping a game once, on the window's thread", costs.Window);
+    PressRow("the same on the writer's thread, until it is on the disk", costs.Writer);
+    std::printf("| bytes that it writes, %d moves of each side | %zu | | |\n", MovesOfKeptGame, costs.Bytes);
 }
 
 void MeasureFileDialog() {
@@ -135,7 +141,7 @@ int main(int count, char** arguments) try {
     MeasureStart();
     MeasureMemory();
     Row("program file", "MB", FileSize(BuildFolder() + L"torvanix.exe"), FileSize(EmptyProgram()));
-    PressRow("press to changed face, within the process", MeasurePresses(Presses));
+    MeasureKept();
     PressRow("message to changed text of a bare control", MeasureBareControl(Presses));
     PressRow("key sent to changed face, from another process", MeasureKeys(Presses));
     MeasureFileDialog();

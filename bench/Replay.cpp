@@ -1,5 +1,7 @@
 #include "bench/Replay.h"
 
+#include "games/ExportedGame.h"
+#include "games/GameHead.h"
 #include "recorder/Notation.h"
 
 namespace {
@@ -25,24 +27,47 @@ PieceKind ReadPromotion(char letter) {
     }
 }
 
-bool ReplayMove(Board& board, std::string_view word, std::string& written) {
-    if (word.size() != 4 && word.size() != 5) return false;
-    const Square origin = SquareNamed(word.substr(0, 2)), destination = SquareNamed(word.substr(2, 2));
-    if (origin == NoSquare || destination == NoSquare || origin == destination) return false;
-    if (board.At(origin) == Piece::Empty) return false;
+struct GivenMove {
+    Square Origin, Destination;
+    PieceKind Promotion = PieceKind::None;
+};
 
-    const Move move = board.Classify(origin, destination);
-    written += WriteMove(board, move).View();
-    board.Carry(move);
+std::optional<GivenMove> ReadMove(const Board& board, std::string_view word) {
+    if (word.size() != 4 && word.size() != 5) return std::nullopt;
+    GivenMove move{SquareNamed(word.substr(0, 2)), SquareNamed(word.substr(2, 2))};
+    if (move.Origin == NoSquare || move.Destination == NoSquare || move.Origin == move.Destination) return std::nullopt;
+    if (board.At(move.Origin) == Piece::Empty) return std::nullopt;
     if (word.size() == 5) {
-        const PieceKind kind = ReadPromotion(word[4]);
-        if (kind == PieceKind::None || !Board::ReachesLastRank(move.Moving, destination)) return false;
-        board.Put(destination, PieceOf(SideOf(move.Moving), kind));
-        written += '=';
-        written += PieceLetter(kind);
+        move.Promotion = ReadPromotion(word[4]);
+        const bool promotes = Board::ReachesLastRank(board.At(move.Origin), move.Destination);
+        if (move.Promotion == PieceKind::None || !promotes) return std::nullopt;
     }
-    written += ' ';
-    return true;
+    return move;
+}
+
+// Reads the moves of a line one after the other, each for the board as it is after those before. Returns the result,
+// empty if the line is malformed.
+template <typename Play>
+std::string_view ReadLine(std::string_view line, const Board& board, Play play) {
+    for (std::string_view word = TakeWord(line); !word.empty(); word = TakeWord(line)) {
+        if (IsResult(word) || word == "*") return TakeWord(line).empty() ? word : std::string_view();
+        const auto move = ReadMove(board, word);
+        if (!move) break;
+        play(*move);
+    }
+    return {};
+}
+
+std::string WhatIsUnclear(const GameReading& game) {
+    const std::string move =
+        (game.HalfMove % 2 == 0 ? "White's move " : "Black's move ") + std::to_string(game.HalfMove / 2 + 1) + ", ";
+    switch (game.Finding) {
+        case GameFinding::NotUnderstood: return move + game.Written[game.HalfMove] + ", cannot be understood";
+        case GameFinding::SeveralWays: return move + game.Written[game.HalfMove] + ", can be read in several ways";
+        case GameFinding::OtherPosition: return "the moves lead to another position";
+        case GameFinding::Whole: break;
+    }
+    return "";
 }
 
 }  // namespace
@@ -50,14 +75,39 @@ bool ReplayMove(Board& board, std::string_view word, std::string& written) {
 bool ReplayLine(std::string_view line, std::string& written) {
     const size_t before = written.size();
     Board board;
-    for (std::string_view word = TakeWord(line); !word.empty(); word = TakeWord(line)) {
-        if (IsResult(word) || word == "*") {
-            written += word;
-            if (TakeWord(line).empty()) return true;
-            break;
+    const std::string_view result = ReadLine(line, board, [&](const GivenMove& given) {
+        const Move move = board.Classify(given.Origin, given.Destination);
+        written += WriteMove(board, move).View();
+        board.Carry(move);
+        if (given.Promotion != PieceKind::None) {
+            board.Put(given.Destination, PieceOf(SideOf(move.Moving), given.Promotion));
+            written += '=';
+            written += PieceLetter(given.Promotion);
         }
-        if (!ReplayMove(board, word, written)) break;
-    }
-    written.resize(before);
-    return false;
+        written += ' ';
+    });
+    if (result.empty())
+        written.resize(before);
+    else
+        written += result;
+    return !result.empty();
+}
+
+std::optional<Recorder> RecordLine(std::string_view line) {
+    Recorder recorder;
+    const std::string_view result = ReadLine(line, recorder.Position(), [&](const GivenMove& given) {
+        recorder.Play(given.Origin, given.Destination);
+        if (given.Promotion != PieceKind::None) recorder.Promote(given.Promotion);
+    });
+    if (result.empty()) return std::nullopt;
+    if (result == "1/2-1/2") recorder.Declare(Declaration::Draw, {});
+    if (result == "1-0") recorder.FlagFell(Black);
+    if (result == "0-1") recorder.FlagFell(White);
+    return recorder;
+}
+
+std::string ExportRecord(const Recorder& recorder, std::string& exported) {
+    const GameReading game = ReadGame(recorder.Lists(), recorder.Position());
+    exported += ExportGame({}, game, ResultToken(recorder.Lists()));
+    return WhatIsUnclear(game);
 }

@@ -1,6 +1,7 @@
 #include "bench/RunningProgram.h"
 
 #include "platform/Process.h"
+#include "settings/SettingsFile.h"
 
 #include <psapi.h>
 #include <tlhelp32.h>
@@ -18,6 +19,19 @@ double Now() {
 double Percentile(std::vector<double> values, int hundredths) {
     std::sort(values.begin(), values.end());
     return values[(values.size() - 1) * static_cast<size_t>(hundredths) / 100];
+}
+
+Settings WithScorlet() {
+    Settings settings = QuietSettings();
+    settings.OpenScorletAtStart = true;
+    return settings;
+}
+
+Installed::Installed(const Settings& settings) {
+    CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), Path().c_str(), FALSE);
+    const std::wstring data = Folder() + L"Data\\";
+    CreateDirectoryW(data.c_str(), nullptr);
+    SettingsFile(data).Save(settings);
 }
 
 RunningProgram::RunningProgram(const std::wstring& path, const wchar_t* windowClass) {

@@ -2,6 +2,7 @@
 
 #include "platform/Handles.h"
 #include "settings/Settings.h"
+#include "tests/desktop/Desktop.h"
 
 #include <windows.h>
 
@@ -13,6 +14,20 @@ double Now();
 
 // The value that so many hundredths of the values do not exceed. There must be at least one value.
 double Percentile(std::vector<double> values, int hundredths);
+
+// The settings of the tests, with the Scorlet opened at the start.
+Settings WithScorlet();
+
+// A folder with the program and its settings.
+class Installed {
+  public:
+    explicit Installed(const Settings& settings);
+    const std::wstring& Folder() const { return folder.Path(); }  // with a trailing backslash
+    std::wstring Path() const { return Folder() + L"torvanix.exe"; }
+
+  private:
+    TestFolder folder;
+};
 
 // A program that is measured from outside. It is ended with the object.
 class RunningProgram {

@@ -18,6 +18,7 @@ void Game::Press(Side button) {
     if (clock.CurrentPhase() != before) return;
     const ClockEvent event = clock.Press(button);
     const Side running = clock.Clock().TurnSide();
+    if (event == ClockEvent::Changed && before == Phase::Running) RememberTime(Other(running));
     ClockChange change{.Phase = true};
     change.Faces[Other(running)] = true;
     Show(event, change);
@@ -25,6 +26,9 @@ void Game::Press(Side button) {
     if (const auto line = record->AddLineForPress(before == Phase::Idle, running)) {
         ChosenLines chosen;
         chosen[line->List] = line->Index;
+        ClockAdditions added;
+        added.Lines[line->List] = line->Index + 1;
+        history.ClockAdded(*record, added);
         recordView->RecordChanged(chosen);
     }
 }
@@ -78,35 +82,67 @@ void Game::Reset() {
 
 void Game::TakeSettings() {
     clock.Initialise(settings.Control);
+    shown = {};
     ShowWhole();
     if (record) recordView->RecordChanged({});
     Changed();
 }
 
+void Game::TurnBoard() {
+    settings.BoardTurned = !settings.BoardTurned;
+    if (record) recordView->RecordChanged({});
+}
+
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
     record.emplace();
-    KeepResultIfFallen();
+    KeepResultIfFallen(*record);
+    history.Begin(*record);
     return *record;
 }
 
 void Game::CloseRecord() {
     if (record->MovesWritten()) LeaveGame();
     record.reset();
+    history.Begin({});
     recordView = nullptr;
     Changed();
 }
 
 void Game::Declare(Declaration declaration) {
     const bool over = record->HasResult();
-    recordView->RecordChanged(record->Declare(declaration, clock.Clock().State().MoveCount));
+    const ChosenLines added = record->Declare(declaration, clock.Clock().State().MoveCount);
+    TakeStep();
+    recordView->RecordChanged(added);
     if (!over && record->HasResult()) Show(clock.PauseIfRunning());
     Changed();
 }
 
 void Game::TopUpMoveLists() {
     if (!record) return;
-    recordView->RecordChanged(record->TopUpMoveLists(clock.Clock().State().MoveCount));
+    const ChosenLines added = record->TopUpMoveLists(clock.Clock().State().MoveCount);
+    TakeStep();
+    recordView->RecordChanged(added);
+    Changed();
+}
+
+void Game::RecordEdited() {
+    TakeStep();
+    Changed();
+}
+
+// The players have changed the record, which the window does not show yet.
+void Game::TakeStep() { history.Changed(*record, recordView->Chosen()); }
+
+void Game::TakeBack() {
+    if (!CanTakeBack()) return;
+    recordView->RecordTakenBack(history.TakeBack(*record, recordView->Chosen()));
+    Changed();
+}
+
+void Game::Redo() {
+    if (!CanRedo()) return;
+    recordView->RecordTakenBack(history.Redo(*record, recordView->Chosen()));
     Changed();
 }
 
@@ -121,11 +157,15 @@ GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDa
 
 void Game::TakeLoadedGame(const SavedGame& saved) {
     LeaveGame();
+    const bool turned = settings.BoardTurned;
     settings = saved.Options;
+    settings.BoardTurned = turned;
     clock.TakeLoadedGame(saved.Clock);
+    shown = {};
     ShowWhole();
-    ReplaceRecord(saved.Scorlet);
-    KeepResultIfFallen();
+    Recorder loaded = saved.Scorlet;
+    KeepResultIfFallen(loaded);
+    ReplaceRecord(loaded);
     Changed();
 }
 
@@ -136,7 +176,9 @@ void Game::Show(ClockEvent event, ClockChange change) {
         case ClockEvent::Changed: clockView->ClockChanged(change); return Changed();
         case ClockEvent::FlagFell:
             if (record) {
-                record->FlagFell(clock.Clock().State().ActiveSide);
+                const Side fallen = clock.Clock().State().ActiveSide;
+                record->FlagFell(fallen);
+                history.ClockAdded(*record, {.Fallen = fallen});
                 recordView->RecordChanged({});
             }
             clockView->ClockChanged(change);
@@ -147,7 +189,32 @@ void Game::Show(ClockEvent event, ClockChange change) {
     }
 }
 
+void Game::RememberTime(Side side) {
+    const modClock::ClockState& state = clock.Clock().State();
+    const auto moves = static_cast<size_t>(state.MoveCount[side]);
+    shown[side].resize(moves);
+    if (moves > 0) shown[side].back() = state.PlayerTime[side];
+}
+
+WhoseMove Game::NextMove() const {
+    const Phase phase = clock.CurrentPhase();
+    if (phase != Phase::Running && phase != Phase::Paused) return WhoseMoveOf(*record, std::nullopt);
+    const modClock::ClockState& state = clock.Clock().State();
+    const Side mover = state.SideByCounts();
+    return WhoseMoveOf(*record, ClockTurn{mover, state.MoveCount[mover]});
+}
+
+void Game::GoOnAtClocksMove() {
+    if (!CanGoOn()) return;
+    const modClock::ClockState& state = clock.Clock().State();
+    const ChosenLines added = record->GoOn(state.MoveCount, state.SideByCounts());
+    TakeStep();
+    recordView->RecordChanged(added);
+    Changed();
+}
+
 void Game::Changed() {
+    if (recordView) recordView->ShowWhoseMove();
     ticksSinceChange = 0;
     clockView->GameChanged();
 }
@@ -161,9 +228,10 @@ void Game::ShowWhole() { clockView->ClockChanged({.Faces = {true, true}, .Phase 
 void Game::ReplaceRecord(const Recorder& other) {
     if (!record) return;
     *record = other;
+    history.Begin(other);
     recordView->RecordReplaced();
 }
 
-void Game::KeepResultIfFallen() {
-    if (record && clock.CurrentPhase() == Phase::Fallen) record->KeepResult();
+void Game::KeepResultIfFallen(Recorder& shown) const {
+    if (clock.CurrentPhase() == Phase::Fallen) shown.KeepResult();
 }

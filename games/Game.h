@@ -1,7 +1,9 @@
 #pragma once
 
 #include "clock/ClockCommands.h"
+#include "games/ExportedGame.h"
 #include "games/GameCodec.h"
+#include "recorder/RecordHistory.h"
 #include "recorder/ScorletGame.h"
 #include "settings/Settings.h"
 
@@ -48,6 +50,8 @@ class Game final : public ScorletGame {
     // Null while the Scorlet is closed.
     const Recorder* Record() const { return record ? &*record : nullptr; }
     const Settings& Options() const { return settings; }
+    // Of the moves that presses have ended since the game began or was loaded.
+    const ShownTimes& TimesAtPresses() const { return shown; }
 
     void Press(Side button);
     void PressEnabledButton() override;  // White's where a flag has fallen: the players are told then
@@ -66,12 +70,23 @@ class Game final : public ScorletGame {
     bool WorthKeeping() const;
     // True: it ran, and is paused now.
     bool PauseIfRunning();
+    void TurnBoard();
     // The settings have been changed while the clock was idle.
     void TakeSettings();
 
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
-    void RecordEdited() override { Changed(); }
+    std::string PlayerName(Side side) const override { return settings.PlayerNames[side]; }
+    bool BoardTurned() const override { return settings.BoardTurned; }
+    void RecordEdited() override;
+    void TakeBack() override;
+    void Redo() override;
+    bool CanTakeBack() const override { return record && history.CanTakeBack(); }
+    bool CanRedo() const override { return record && history.CanRedo(); }
+    WhoseMove NextMove() const override;
+    // A record that is behind a clock under way goes on at the clock's move; otherwise nothing happens.
+    void GoOnAtClocksMove();
+    bool CanGoOn() const { return record && NextMove().Behind > 0; }
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();
@@ -89,14 +104,18 @@ class Game final : public ScorletGame {
     void Show(ClockEvent event, ClockChange change = {.Phase = true});
     void ShowWhole();
     void Changed();
+    void RememberTime(Side side);
     void LeaveGame();
     void ReplaceRecord(const Recorder& other);
-    void KeepResultIfFallen();
+    void KeepResultIfFallen(Recorder& shown) const;
+    void TakeStep();
 
     Settings& settings;
     ClockCommands clock;
     ClockView* clockView = nullptr;
     std::optional<Recorder> record;
+    RecordHistory history;  // of the record
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
+    ShownTimes shown;
 };

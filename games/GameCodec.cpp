@@ -5,6 +5,8 @@
 #include "games/Pgn.h"
 #include "settings/SlotRecord.h"
 
+#include <algorithm>
+
 namespace {
 
 // Enough for the lists of the most moves that a clock counts.
@@ -36,6 +38,14 @@ std::optional<std::string> ReadRunningText(const GameFileReader& read, SavedGame
     return text;
 }
 
+// A save fills the lists up to the clock's counts. They may be longer, and whose turn it is may differ, since players
+// write before they press and after it, and correct what they have written.
+bool AreBehind(const MoveLists& lists, const modClock::ClockState& clock) {
+    return std::ranges::any_of(BothSides, [&](Side side) {
+        return lists[side].Moves() < static_cast<size_t>(std::max(clock.MoveCount[side], 0));
+    });
+}
+
 void ReadScorlet(const GameFileReader& read, Side sideToMove, SavedGame& game) {
     const auto diagram = ReadText(read, DiagramFile, DiagramBytes);
     const auto moves = ReadText(read, MovesFile, LongestText);
@@ -47,6 +57,7 @@ void ReadScorlet(const GameFileReader& read, Side sideToMove, SavedGame& game) {
     if (moves) ThrowIf(DecodeCgn(*moves, sideToMove, lists));
     game.Scorlet.Restore(position, lists, sideToMove,
                          game.Options.WritePgn ? ReadRunningText(read, game) : std::nullopt);
+    game.Mismatched = !diagram || !moves || AreBehind(lists, game.Clock);
 }
 
 }  // namespace
@@ -78,11 +89,15 @@ std::optional<GameFileError> DecodeGame(const GameFileReader& read, const Settin
     return std::nullopt;
 }
 
-std::optional<GameFileError> FaultOf(const GameFiles& files) {
-    const auto read = [&](GameFile file, size_t) -> std::optional<std::vector<uint8_t>> {
+GameFileReader ReaderOf(const GameFiles& files) {
+    return [&files](GameFile file, size_t limit) -> std::optional<std::vector<uint8_t>> {
         if (!files[file]) return std::nullopt;
-        return std::vector<uint8_t>(files[file]->begin(), files[file]->end());
+        const std::string_view bytes = std::string_view(*files[file]).substr(0, limit);
+        return std::vector<uint8_t>(bytes.begin(), bytes.end());
     };
+}
+
+std::optional<GameFileError> FaultOf(const GameFiles& files) {
     SavedGame game;
-    return DecodeGame(read, Settings(), game);
+    return DecodeGame(ReaderOf(files), Settings(), game);
 }

@@ -22,10 +22,14 @@ struct SavedGame {
     Recorder Scorlet;            // the initial position where none was saved
     bool ScorletLoaded = false;  // it was saved with the Scorlet
     bool PgnUnreadable = false;
+    bool Mismatched = false;  // its files do not come from one save, which is no error: the game is read all the same
 };
 
 // Gives the first `limit` bytes of a file, nothing when there is none. It may throw; DecodeGame lets that through.
 using GameFileReader = std::function<std::optional<std::vector<uint8_t>>(GameFile file, size_t limit)>;
+
+// One for files in memory, which must outlive it.
+GameFileReader ReaderOf(const GameFiles& files);
 
 // Reads and checks a game, and asks for no file that does not belong to it: none but the clock's when the game was
 // saved without the Scorlet, no PGN when it was saved without. A missing clock file counts as an empty one, the others

@@ -24,7 +24,10 @@ GameKeeper::GameKeeper(std::wstring dataFolder, std::function<void(DWORD)> faile
     : folder(std::move(dataFolder)),
       number(TakeNumber(folder)),
       lastPath(folder + NameOf(number.Value, L".last")),
-      kept(PathOf(number.Value), std::move(failed)) {}
+      kept(PathOf(number.Value), std::move(failed)) {
+    // Of a program that ended while it wrote.
+    for (const std::wstring& path : {PathOf(number.Value), lastPath}) FileBeside::RemoveLeft(path);
+}
 
 // The lowest that is free. In a folder that cannot be written to, none is locked.
 GameKeeper::Number GameKeeper::TakeNumber(const std::wstring& folder) {
@@ -46,11 +49,13 @@ std::vector<GameKeeper::Orphan> GameKeeper::Orphans() const {
     return orphans;
 }
 
-bool GameKeeper::HasLast() const { return FileExists(lastPath); }
-
-std::vector<uint8_t> GameKeeper::Last() const {
-    return ReadFileBytes(lastPath, LongestKept).value_or(std::vector<uint8_t>());
+void GameKeeper::Adopt(const Orphan& orphan) const {
+    if (orphan.Lock) MoveOver(orphan.Path, PathOf(number.Value));
 }
+
+void GameKeeper::MakeLast(const Orphan& orphan) const { MoveOver(orphan.Path, lastPath); }
+
+bool GameKeeper::HasLast() const { return FileExists(lastPath); }
 
 void GameKeeper::PutAside(std::string_view bytes) const { ReplaceFileBytes(lastPath, bytes); }
 

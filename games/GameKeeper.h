@@ -26,16 +26,18 @@ class GameKeeper {
             Lock;  // keeps other programs from offering it meanwhile; none where the number is this program's own
     };
     std::vector<Orphan> Orphans() const;
+    // In one step it becomes the game that this program keeps, or the last one. Throw SystemError.
+    void Adopt(const Orphan& orphan) const;
+    void MakeLast(const Orphan& orphan) const;
 
     // On the disk a moment later.
     void Keep(std::string bytes) { kept.Replace(std::move(bytes)); }
     void KeepNothing() { kept.Remove(); }
-    // Returns when what was kept is on the disk.
-    void Finish() { kept.Finish(); }
+    // Returns when what was kept is on the disk; false where it could not be written.
+    bool Finish() { return kept.Finish(); }
 
     // The last game. Throw SystemError.
     bool HasLast() const;
-    std::vector<uint8_t> Last() const;
     void PutAside(std::string_view bytes) const;
     void ForgetLast() const;
     const std::wstring& LastPath() const { return lastPath; }

@@ -34,6 +34,15 @@ bool EndsWith(std::wstring_view name, std::wstring_view ending) {
 
 constexpr std::wstring_view MarkEnding = L".saving";
 
+// Restores a file, or that there was none. Where that fails, the others are still to be restored.
+void PutBack(const std::wstring& path, const std::optional<std::vector<uint8_t>>& bytes) try {
+    if (bytes)
+        ReplaceFileBytes(path, TextOf(*bytes));
+    else
+        DeleteFileAt(path);
+} catch (const SystemError&) {
+}
+
 }  // namespace
 
 std::vector<std::wstring> GameStore::Names() const {
@@ -81,12 +90,7 @@ void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const
     } catch (const SystemError&) {
         // One game is not made of old and new files: what has been replaced comes back.
         mark.SetComplete(false);
-        for (size_t i = 0; i < done; ++i) {
-            if (replaced[i].second)
-                ReplaceFileBytes(replaced[i].first, TextOf(*replaced[i].second));
-            else
-                DeleteFileAt(replaced[i].first);
-        }
+        for (size_t i = 0; i < done; ++i) PutBack(replaced[i].first, replaced[i].second);
         throw;
     }
 }

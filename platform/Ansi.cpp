@@ -10,13 +10,21 @@ std::wstring FromAnsi(std::string_view text) {
     return wide;
 }
 
-std::string ToAnsi(std::wstring_view text) {
+namespace {
+
+std::string InCodePage(UINT page, std::wstring_view text) {
     const int length = static_cast<int>(text.size());
-    const int needed = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    const int needed = WideCharToMultiByte(page, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
     std::string narrow(static_cast<size_t>(needed), '\0');
-    WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
+    WideCharToMultiByte(page, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
     return narrow;
 }
+
+}  // namespace
+
+std::string ToAnsi(std::wstring_view text) { return InCodePage(CP_ACP, text); }
+
+std::string ToUtf8(std::wstring_view text) { return InCodePage(CP_UTF8, text); }
 
 std::optional<std::string> ToAnsiExactly(std::wstring_view text) {
     std::string narrow = ToAnsi(text);

@@ -13,3 +13,6 @@ std::string ToAnsi(std::wstring_view text);
 
 // No value if the code page cannot give every character back.
 std::optional<std::string> ToAnsiExactly(std::wstring_view text);
+
+// For the files of other programs, which are in UTF-8.
+std::string ToUtf8(std::wstring_view text);

@@ -25,9 +25,10 @@ void BackgroundFile::Order(Content content) {
     changed.notify_all();
 }
 
-void BackgroundFile::Finish() {
+bool BackgroundFile::Finish() {
     std::unique_lock lock(mutex);
     changed.wait(lock, [this] { return !ordered && !busy; });
+    return done;
 }
 
 void BackgroundFile::Run() {
@@ -38,20 +39,23 @@ void BackgroundFile::Run() {
         const Content content = *std::exchange(ordered, std::nullopt);
         busy = true;
         lock.unlock();
-        Write(content);
+        const bool written = Write(content);
         lock.lock();
+        done = written;
         busy = false;
         changed.notify_all();
     }
 }
 
-void BackgroundFile::Write(const Content& content) const {
+bool BackgroundFile::Write(const Content& content) const {
     try {
         if (content)
             ReplaceFileBytes(path, *content);
         else if (FileExists(path))
             DeleteFileAt(path);
+        return true;
     } catch (const SystemError& error) {
         failed(error.Code());
+        return false;
     }
 }

@@ -22,21 +22,21 @@ class BackgroundFile {
     void Replace(std::string bytes) { Order(std::move(bytes)); }
     void Remove() { Order(std::nullopt); }
 
-    // Returns when everything is on the disk.
-    void Finish();
+    // Returns when nothing is left to be written; false where the last that was to be could not.
+    bool Finish();
 
   private:
     using Content = std::optional<std::string>;  // none: there is to be no file
 
     void Order(Content content);
     void Run();
-    void Write(const Content& content) const;
+    bool Write(const Content& content) const;
 
     const std::wstring path;
     const std::function<void(DWORD)> failed;
     std::mutex mutex;
     std::condition_variable changed;
     std::optional<Content> ordered;
-    bool busy = false, ending = false;
+    bool busy = false, ending = false, done = true;
     std::thread thread;  // last: it uses the others
 };

@@ -100,6 +100,17 @@ void DeleteFileAt(const std::wstring& path) {
     if (!IsMissing(code)) throw SystemError(code, path);
 }
 
+void MoveOver(const std::wstring& from, const std::wstring& to) {
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    // A virus scanner or an indexer may have opened a file that has just been written, for a moment.
+    for (int tries = 1; !MoveFileExW(Long(from).c_str(), Long(to).c_str(), flags); ++tries) {
+        const DWORD code = GetLastError();
+        if (tries == 20 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))
+            throw SystemError(code, to);
+        Sleep(25);
+    }
+}
+
 FileBeside::FileBeside(const std::wstring& path, std::string_view bytes) : path(path) {
     ExpectReplaceable(path);
     UniqueFile file = Open(Beside(path), GENERIC_WRITE, 0, CREATE_ALWAYS);
@@ -135,14 +146,7 @@ bool FileBeside::IsLeft(const std::wstring& path) {
 }
 
 void FileBeside::TakePlaceLeft(const std::wstring& path) {
-    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    // A virus scanner or an indexer may have opened a file that has just been written, for a moment.
-    for (int tries = 1; IsLeft(path) && !MoveFileExW(Beside(path).c_str(), Long(path).c_str(), flags); ++tries) {
-        const DWORD code = GetLastError();
-        if (tries == 20 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))
-            throw SystemError(code, path);
-        Sleep(25);
-    }
+    if (IsLeft(path)) MoveOver(Beside(path), path);
 }
 
 void FileBeside::RemoveLeft(const std::wstring& path) { DeleteFileW(Beside(path).c_str()); }

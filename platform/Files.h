@@ -37,6 +37,9 @@ void DeleteFileAt(const std::wstring& path);
 // another program has it open.
 void ExpectReplaceable(const std::wstring& path);
 
+// Gives a file the name of another one, whose place it takes in one step.
+void MoveOver(const std::wstring& from, const std::wstring& to);
+
 // New content that waits beside a file until it takes the file's place. It is flushed to the disk first, so a crash
 // leaves either the old file or the new one. Content that has not taken the place is removed with the object.
 class FileBeside {

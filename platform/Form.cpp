@@ -13,6 +13,11 @@ RECT WorkArea(HWND window) {
     return monitor.rcWork;
 }
 
+bool IsOfKind(HWND control, const wchar_t* kind) {
+    wchar_t name[32]{};
+    return GetClassNameW(control, name, 32) && lstrcmpiW(name, kind) == 0;
+}
+
 Form::~Form() {
     if (window) DestroyWindow(window);
 }
@@ -114,9 +119,11 @@ void Form::SetVisible(int id, bool visible) const {
     if (visible != now) ShowWindow(control, visible ? SW_SHOWNA : SW_HIDE);
 }
 
-std::wstring Form::SpokenNameOf(HWND control) {
+std::wstring Form::SpokenNameOf(HWND control, int part) {
     const Form* form = FormOf(GetParent(control));
-    return form ? form->SpokenName(GetDlgCtrlID(control)) : std::wstring();
+    if (!form) return {};
+    const int id = GetDlgCtrlID(control);
+    return part == 0 ? form->SpokenName(id) : form->SpokenPart(id, part);
 }
 
 void Form::SetText(int id, const std::wstring& text) const {

@@ -12,6 +12,9 @@
 // The part of a window's screen that the taskbar leaves free.
 RECT WorkArea(HWND window);
 
+// Whether a control is of that window class; null is of none.
+bool IsOfKind(HWND control, const wchar_t* kind);
+
 // Base of every window of the program: one window class for each form, one virtual function for its messages, and the
 // one place where the exceptions of handlers end.
 class Form {
@@ -36,8 +39,8 @@ class Form {
     void SetVisible(int id, bool visible) const;
     void SetEnabled(int id, bool enabled) const { EnableWindow(Control(id), enabled); }
 
-    // The SpokenName of a form's control; empty if the form no longer exists.
-    static std::wstring SpokenNameOf(HWND control);
+    // The SpokenName of a form's control, or with a part from 1 on the SpokenPart; empty if the form no longer exists.
+    static std::wstring SpokenNameOf(HWND control, int part = 0);
 
   protected:
     explicit Form(const Surroundings& around)
@@ -50,6 +53,9 @@ class Form {
     // What screen readers say of a control. Empty leaves it to the system, which says the control's text, or for a
     // field the text of the label before it.
     virtual std::wstring SpokenName(int) const { return {}; }
+    // The same for a part of a control, such as a row of a list, counted from 1. Asked for only where the control has a
+    // SpokenName.
+    virtual std::wstring SpokenPart(int, int) const { return {}; }
     // Has screen readers say it again, which they do only for the control that has the focus.
     void TellSpokenName(int id) const {
         NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, Control(id), OBJID_CLIENT, CHILDID_SELF);

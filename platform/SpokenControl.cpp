@@ -12,8 +12,8 @@ namespace {
 // IID_IAccessible itself is not used: an import library may define that name as a function.
 const IID AccessibleId = __uuidof(IAccessible);
 
-// The system's own accessible object of a control, except for the name. Screen readers may keep it for longer than the
-// control exists, so the control is looked up at each question.
+// The system's own accessible object of a control, except for its name and those of its parts. Screen readers may keep
+// it for longer than the control exists, so the control is looked up at each question.
 class NamedAccessible : public IAccessible {
   public:
     NamedAccessible(HWND control, UniqueCom<IAccessible> system) : control(control), system(std::move(system)) {}
@@ -34,9 +34,9 @@ class NamedAccessible : public IAccessible {
     }
 
     HRESULT STDMETHODCALLTYPE get_accName(VARIANT part, BSTR* name) override {
-        if (part.vt == VT_I4 && part.lVal == CHILDID_SELF) {
+        if (part.vt == VT_I4) {
             try {
-                const std::wstring spoken = Form::SpokenNameOf(control);
+                const std::wstring spoken = Form::SpokenNameOf(control, part.lVal);
                 *name = spoken.empty() ? nullptr : SysAllocString(spoken.c_str());
             } catch (const std::exception&) {
                 return E_OUTOFMEMORY;

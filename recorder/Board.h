@@ -18,6 +18,7 @@ struct Move {
     Square CapturedOn;  // where the captured piece was, which is not the destination en passant
     Square RookOrigin;  // castling only, NoSquare otherwise
     Square RookDestination;
+    bool operator==(const Move&) const = default;
 };
 
 // The kinds that have a tray of captured pieces, and how many pictures each tray holds.
@@ -51,6 +52,7 @@ TraySlot SlotOf(int number);
 class Board {
   public:
     Board() { Reset(); }
+    bool operator==(const Board&) const = default;
 
     // Sets up the initial position of chess, with no piece captured.
     void Reset();

@@ -8,14 +8,16 @@
 struct CellLook {
     Piece Shown;
     bool Origin;    // its piece is picked
+    bool Lifted;    // and is shown under the mouse pointer instead
+    bool Target;    // a piece is dragged over it
     bool LastMove;  // where the last move began or ended
     bool Cursor;    // the cursor of the keys is here
 
     bool operator==(const CellLook&) const = default;
 };
 
-// How the players enter moves: a piece is picked on one square and dropped on another, by clicks or by a cursor that
-// keys move. A captured piece can be picked too, and put back on an empty square.
+// How the players enter moves: a piece is picked on one square and dropped on another, by clicks, by a cursor that keys
+// move, or by dragging it. A captured piece can be picked too, and put back on an empty square.
 class BoardInput {
   public:
     // The recorder must outlive the input.
@@ -35,6 +37,20 @@ class BoardInput {
     std::optional<ChosenLine> Click(Square square);
     // A click on a captured piece that is shown.
     void ClickCaptured(Piece piece, int slot);
+
+    // Picks up the piece that the last click has picked or let go, since the mouse drags it now. False: that click was
+    // none on a piece, or has made a move, or the piece is no longer there.
+    bool Lift();
+    // Whether a piece is being dragged. Whatever else enters something or changes what is picked ends that.
+    bool Lifted() const { return lifted; }
+    // The piece that is picked; Empty for none.
+    Piece PickedPiece() const;
+    // The dragged piece is over a square, or with NoSquare over none.
+    void PointAt(Square square) { target = square; }
+    // The dragged piece is let go there. On its origin, on no square and on a piece of its own colour it goes back to
+    // where it was, and so does a captured piece on any other. Returns the written line if that has made a move.
+    std::optional<ChosenLine> Drop(Square square);
+
     // Picks the captured piece that is shown after the picked one, or the first if none is picked. After the last, none
     // is picked.
     void PickNextCaptured();
@@ -45,13 +61,23 @@ class BoardInput {
         Cancel();
         cursor = Start;
     }
-    // Moves the cursor, at most to the edge.
-    void MoveCursor(int files, int ranks);
+    // Moves the cursor by so many squares, at most to the edge, as the players see the board.
+    void MoveCursor(int right, int up);
+    // Whether they see Black's side below.
+    void Turn(bool toTurned) { turned = toTurned; }
 
   private:
+    bool OfOneColour(Square first, Square second) const;
+    void EndDrag();
+
     Recorder& recorder;
     std::optional<Square> origin;
     std::optional<TraySlot> captured;
+    std::optional<Square> clicked;  // where the last click picked a piece, or let it go
+    std::optional<TraySlot> clickedSlot;
+    bool lifted = false;
+    Square target = NoSquare;
     static constexpr Square Start = SquareAt(5, 2);
     Square cursor = Start;
+    bool turned = false;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
+#include "recorder/EntryField.h"
 #include "recorder/TypedMove.h"
 #include "resources/resource.h"
 
@@ -25,13 +26,10 @@ class MoveField {
     void OnChange();
 
   private:
-    static LRESULT CALLBACK Procedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR self);
-
     Form& form;
+    EntryField entry{form, txtMove};
     ToolTips toolTips;
     TypedMove typed;
     FilteredEdit edit{form, txtMove, [this](const std::wstring& text) { return typed.Changed(text); },
                       [this](wchar_t character, const std::wstring& text) { return typed.TakesKey(character, text); }};
-    UINT endMessage = 0;
 };

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A line of a move list: a move with its number, a place that waits for one, or, without a number, the game's result.
@@ -23,6 +24,8 @@ struct MoveEntry {
 // The moves of one side, entry i being its move i + 1; a result can only be the last.
 class MoveList {
   public:
+    MoveList() = default;
+    explicit MoveList(std::vector<MoveEntry> entries) : entries(std::move(entries)) {}
     bool operator==(const MoveList&) const = default;
     const std::vector<MoveEntry>& Entries() const { return entries; }
     bool Empty() const { return entries.empty(); }

@@ -1,21 +1,9 @@
 #include "recorder/Notation.h"
 
 #include "base/AsciiCase.h"
-
-#include <span>
+#include "recorder/Directions.h"
 
 namespace {
-
-struct Step {
-    int Files, Ranks;
-};
-
-constexpr std::array KnightJumps{Step{-2, -1}, Step{-2, 1}, Step{-1, -2}, Step{-1, 2},
-                                 Step{1, -2},  Step{1, 2},  Step{2, -1},  Step{2, 1}};
-
-// Diagonals first, then files and ranks, so that the directions of each sliding piece are consecutive.
-constexpr std::array Directions{Step{-1, -1}, Step{-1, 1}, Step{1, -1}, Step{1, 1},
-                                Step{-1, 0},  Step{1, 0},  Step{0, -1}, Step{0, 1}};
 
 bool AnotherKnight(const Board& before, const Move& move) {
     const int file = FileOf(move.Destination), rank = RankOf(move.Destination);
@@ -30,8 +18,8 @@ bool AnotherKnight(const Board& before, const Move& move) {
     return false;
 }
 
-bool AnotherSlider(const Board& before, const Move& move, std::span<const Step> directions) {
-    for (const auto& [files, ranks] : directions) {
+bool AnotherSlider(const Board& before, const Move& move) {
+    for (const auto& [files, ranks] : StepsOf(KindOf(move.Moving))) {
         int file = FileOf(move.Destination) + files, rank = RankOf(move.Destination) + ranks;
         for (; OnBoard(file, rank); file += files, rank += ranks) {
             const Square square = SquareAt(file, rank);
@@ -100,13 +88,12 @@ MoveText WriteLongForm(const Move& move) {
 }
 
 char Disambiguation(const Board& before, const Move& move) {
-    const std::span<const Step> directions(Directions);
     const bool another = [&] {
         switch (KindOf(move.Moving)) {
             case PieceKind::Knight: return AnotherKnight(before, move);
-            case PieceKind::Bishop: return AnotherSlider(before, move, directions.first(4));
-            case PieceKind::Rook: return AnotherSlider(before, move, directions.last(4));
-            case PieceKind::Queen: return AnotherSlider(before, move, directions);
+            case PieceKind::Bishop:
+            case PieceKind::Rook:
+            case PieceKind::Queen: return AnotherSlider(before, move);
             default: return false;
         }
     }();

@@ -67,6 +67,7 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     if (HasResult() || HalfMoveOf(line) != before) RebuildText();
     promotion.reset();
     if (Board::ReachesLastRank(move.Moving, destination)) promotion = Promotion{destination, line};
+    otherColourMoved = SideOf(move.Moving) != line.List;
     sideToMove = Other(sideToMove);
     lastMove = move;
     lastMoveLongForm = WriteLongForm(move).View();
@@ -147,10 +148,35 @@ ChosenLines Recorder::TopUpMoveLists(const std::array<int32_t, 2>& clockCounts) 
     for (Side side : {Black, White}) {
         size_t wanted = static_cast<size_t>(std::max(clockCounts[side], 0));
         if (side == White) wanted = std::max(wanted, lists[Black].Moves());
-        const size_t first = lists[side].Moves();
-        while (lists[side].Moves() < wanted) added[side] = lists[side].AddWaiting();
-        if (added[side]) TakeIntoText({side, first});
+        added[side] = AddLines(side, wanted);
     }
+    return added;
+}
+
+// Waiting lines, until the list has as many as wanted. Returns the last one.
+std::optional<size_t> Recorder::AddLines(Side side, size_t wanted) {
+    std::optional<size_t> added;
+    const size_t first = lists[side].Moves();
+    while (lists[side].Moves() < wanted) added = lists[side].AddWaiting();
+    if (added) TakeIntoText({side, first});
+    return added;
+}
+
+ClockAdditions ClockAdditions::With(const ClockAdditions& more) const {
+    return {.Lines = {std::max(Lines[White], more.Lines[White]), std::max(Lines[Black], more.Lines[Black])},
+            .Fallen = more.Fallen ? more.Fallen : Fallen};
+}
+
+void Recorder::Take(const ClockAdditions& added) {
+    for (Side side : BothSides) AddLines(side, added.Lines[side]);
+    if (added.Fallen) FlagFell(*added.Fallen);
+}
+
+ChosenLines Recorder::GoOn(const std::array<int32_t, 2>& clockCounts, Side running) {
+    const ChosenLines added = TopUpMoveLists(clockCounts);
+    for (Side side : BothSides) passed[side] = static_cast<size_t>(clockCounts[side] - (side == running ? 1 : 0));
+    sideToMove = running;
+    otherColourMoved = false;
     return added;
 }
 
@@ -196,7 +222,8 @@ void Recorder::PutBack(Piece piece, int slot, Square square) {
     board.Put(square, piece);
 }
 
-// The first of the waiting lines at the end of a list whose reply is not written; where there is none, a new line.
+// The first of the waiting lines at the end of a list whose reply is not written and that GoOn has not passed over;
+// where there is none, a new line.
 size_t Recorder::LineForMove(Side side) const {
     const MoveList &list = lists[side], &replies = lists[Other(side)];
     const auto last = list.LastWritten();
@@ -206,7 +233,7 @@ size_t Recorder::LineForMove(Side side) const {
         return reply < replies.Moves() && replies.Entries()[reply].IsWritten();
     };
     while (index < list.Moves() && replied()) ++index;
-    return index;
+    return std::min(std::max(index, passed[side]), list.Moves());
 }
 
 // Counts in the order of play, up to the last written move.

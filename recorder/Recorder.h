@@ -13,14 +13,24 @@ enum class Declaration { Check, Mate, Resign, Draw };
 struct ChosenLine {
     Side List;
     size_t Index;
+    bool operator==(const ChosenLine&) const = default;
 };
 
 // The same for both lists, by side.
 using ChosenLines = std::array<std::optional<size_t>, 2>;
 
+// What presses and a fallen flag have added to a record.
+struct ClockAdditions {
+    std::array<size_t, 2> Lines{};  // how long presses have made the lists, by side
+    std::optional<Side> Fallen;     // the side whose flag has fallen
+
+    ClockAdditions With(const ClockAdditions& more) const;
+};
+
 // The Scorlet without its window: the board, the two move lists, the running text of the game and whose move it is.
 class Recorder {
   public:
+    bool operator==(const Recorder&) const = default;
     const Board& Position() const { return board; }
     const MoveList& List(Side side) const { return lists[side]; }
     const MoveLists& Lists() const { return lists; }
@@ -29,6 +39,10 @@ class Recorder {
     const std::optional<Move>& LastMove() const { return lastMove; }
     // That move in long form, "e2-e4"; empty without one.
     const std::string& LastMoveLongForm() const { return lastMoveLongForm; }
+    // Whether the piece of the last move was of the side that was not to move.
+    bool OtherColourMoved() const { return otherColourMoved; }
+    // The line of the side to move into which its next move goes.
+    size_t NextLine() const { return LineForMove(sideToMove); }
     bool MovesWritten() const { return !lists[White].Empty() || !lists[Black].Empty(); }
 
     // The game's movetext without the last move, and that move, which promotions and marks can still change. A result
@@ -52,6 +66,8 @@ class Recorder {
 
     // Whether the last move brought a pawn to its last rank. True until the next move is entered.
     bool AwaitsPromotion() const { return promotion.has_value(); }
+    // That pawn, or the piece that has been chosen for it; no value once the next move is entered.
+    std::optional<Piece> Promoting() const { return promotion ? std::optional(board.At(promotion->On)) : std::nullopt; }
     // Makes the pawn that piece and writes so in its entry. The choice can be made again.
     void Promote(PieceKind kind);
 
@@ -68,8 +84,16 @@ class Recorder {
     // the last line added to each list.
     ChosenLines TopUpMoveLists(const std::array<int32_t, 2>& clockCounts);
 
+    // Goes on with the move that the clock has come to: fills the lists up to its counts, and passes over the lines
+    // that wait before the move of the side whose clock runs. Returns the last line added to each list.
+    ChosenLines GoOn(const std::array<int32_t, 2>& clockCounts, Side running);
+
     // Adds the line for the next move after a press that has started a side's clock; no value if no line is due.
     std::optional<ChosenLine> AddLineForPress(bool firstPress, Side running);
+
+    // Has what the clock added to another state of the game: waiting lines where a list is shorter, and the result of
+    // the flag.
+    void Take(const ClockAdditions& added);
 
     // Corrects a typed text and writes it into an entry. The position does not change: the board keeps no history.
     void Edit(Side side, size_t index, std::string_view typed);
@@ -81,12 +105,16 @@ class Recorder {
     void PutBack(Piece piece, int slot, Square square);
 
   private:
+    friend class RecordHistory;  // keeps lists and text of a state in parts
+
     struct Promotion {
         Square On;
         std::optional<ChosenLine> Line;  // none: the line has been deleted
+        bool operator==(const Promotion&) const = default;
     };
 
     void AwaitPromotionAgain();
+    std::optional<size_t> AddLines(Side side, size_t wanted);
     void AddResult(Side list, std::string_view result);
     void TakeResultAway();
     size_t LineForMove(Side side) const;
@@ -104,5 +132,7 @@ class Recorder {
     std::optional<Promotion> promotion;
     std::optional<Move> lastMove;
     std::string lastMoveLongForm;
+    bool otherColourMoved = false;
+    std::array<size_t, 2> passed{};  // how many lines of each list GoOn has passed over
     bool resultKept = false;
 };

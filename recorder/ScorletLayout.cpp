@@ -2,46 +2,108 @@
 
 #include <algorithm>
 
-ScorletLayout LayOutScorlet(int width, int height, int dpi) {
-    const auto unit = [dpi](int length) { return (length * dpi + 48) / 96; };
-    const int margin = unit(10), line = unit(20), field = unit(24);
+namespace {
+
+// The most pieces that a side can lose.
+constexpr int MostCaptured = 15;
+
+// The window sizes from which on the lengths grow, at 96 dpi: with the lists beside the board and below it.
+constexpr int BelowWidth = 400, BelowHeight = 720;
+
+constexpr int RoundedUpHalf(int length) { return (length + 1) / 2; }
+
+// Lays out a window of one of the two forms.
+class Arrangement {
+  public:
+    Arrangement(int width, int height, int dpi, bool below)
+        : width(width),
+          height(height),
+          below(below),
+          scale(std::max(dpi, std::min(width * 96 / (below ? BelowWidth : ScorletWidth),
+                                       height * 96 / (below ? BelowHeight : ScorletHeight)))) {
+        layout.Edge = Unit(18);
+        layout.Type = Unit(13);
+        layout.CoordinateType = Unit(12);
+        PlaceBoard();
+        PlaceLists();
+    }
+
+    const ScorletLayout& Layout() const { return layout; }
+
+  private:
+    int Unit(int length) const { return (length * scale + 48) / 96; }
+
+    // What the lists and all that belongs to them need at least.
+    int ColumnWidth() const { return std::max(Unit(216), width * 30 / 100); }
+    int ListsHeight() const { return field + Unit(32) + 3 * gap + line + Unit(80) + line + picture; }
+
+    void PlaceBoard() {
+        const int roomWidth = width - 2 * margin - layout.Edge - (below ? 0 : ColumnWidth() + margin);
+        const int roomHeight = height - 3 * margin - layout.Edge - line - (below ? ListsHeight() + margin : 0);
+        // Two rows of captured pieces, each of half a square, take the height of a ninth rank.
+        layout.CellSize = std::max(std::min(roomWidth / 8, (roomHeight - 1) / 9), 1);
+        const int boardSize = 8 * layout.CellSize + layout.Edge;
+        const int left = below ? (width - boardSize) / 2 : margin;
+        layout.Board = {left, margin, boardSize, boardSize};
+        layout.TypedMove = {left + layout.Edge, margin, 4 * layout.CellSize, field};
+        layout.TypedReason = {left + layout.Edge, layout.TypedMove.Bottom(), 8 * layout.CellSize, Unit(32)};
+        layout.CapturedTitle = {left, layout.Board.Bottom() + margin, boardSize, line};
+        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, RoundedUpHalf(layout.CellSize),
+                                 std::max(boardSize / MostCaptured, RoundedUpHalf(layout.CellSize)));
+        for (Side side : BothSides)
+            layout.CapturedRows[side] = {left, layout.CapturedTitle.Bottom() + side * layout.Slot, boardSize,
+                                         layout.Slot};
+    }
+
+    void PlaceLists() {
+        const int left = below ? margin : layout.Board.Right() + margin, right = width - margin, wide = right - left;
+        const int top = below ? layout.CapturedRows[Black].Bottom() + margin : margin, label = Unit(70);
+        layout.SayLabel = {left, top, label, field};
+        layout.Say = {left + label + gap, top, wide - label - gap, field};
+        layout.WhoseMove = {left, layout.Say.Bottom() + gap, wide, Unit(32)};
+
+        const int okWidth = Unit(60), half = (wide - margin) / 2;
+        const int promotionLeft = below ? right - half : left, promotionTop = height - margin - picture;
+        for (int i = 0; i < 4; ++i)
+            layout.Promotion[static_cast<size_t>(i)] = {promotionLeft + i * (picture + gap), promotionTop, picture,
+                                                        picture};
+        layout.PromotionTitle = {promotionLeft, promotionTop - line, right - promotionLeft, line};
+        const int editTop = below ? height - margin - field : layout.PromotionTitle.Top - gap - field;
+        const int editWidth = below ? half : wide;
+        layout.Edit = {left, editTop, editWidth - okWidth - gap, field};
+        layout.EditOk = {layout.Edit.Right() + gap, editTop, okWidth, field};
+
+        const int headTop = layout.WhoseMove.Bottom() + gap, listTop = headTop + line;
+        const int listsBottom = std::min(layout.Edit.Top, layout.PromotionTitle.Top) - gap;
+        const int listWidth = (wide - gap) / 2;
+        for (Side side : BothSides) {
+            const int listLeft = side == White ? left : right - listWidth;
+            layout.ListHeads[side] = {listLeft, headTop, listWidth, line};
+            layout.Lists[side] = {listLeft, listTop, listWidth, listsBottom - listTop};
+        }
+    }
+
+    const int width, height;
+    const bool below;
+    const int scale;  // dots per inch
+    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24), picture = Unit(36);
     ScorletLayout layout{};
+};
 
-    layout.Edge = unit(18);
-    layout.CoordinateType = unit(12);
-    const int column = std::max(unit(196), width * 30 / 100);
-    const int slotsHeight = std::max(height / 22, unit(20));
-    const int capturedHeight = line + 2 * slotsHeight;
-    const int roomWidth = width - column - 3 * margin - layout.Edge;
-    const int roomHeight = height - capturedHeight - 3 * margin - layout.Edge;
-    layout.CellSize = std::max(std::min(roomWidth, roomHeight) / 8, 1);
-    const int boardSize = 8 * layout.CellSize + layout.Edge;
-    layout.Board = {margin, margin, boardSize, boardSize};
+}  // namespace
 
-    layout.CapturedTitle = {margin, layout.Board.Bottom() + margin, boardSize, line};
-    // A row holds at most the fifteen pieces that a side can lose.
-    layout.Slot = std::min(slotsHeight, boardSize / 15);
-    for (Side side : BothSides)
-        layout.CapturedRows[side] = {margin, layout.CapturedTitle.Bottom() + side * slotsHeight, boardSize,
-                                     layout.Slot};
+Square ScorletLayout::SquareAt(int x, int y) const {
+    const int left = x - Board.Left - Edge, top = y - Board.Top;
+    if (left < 0 || top < 0) return NoSquare;
+    const int column = left / CellSize, row = top / CellSize;
+    const int file = Turned ? 8 - column : column + 1, rank = Turned ? row + 1 : 8 - row;
+    return OnBoard(file, rank) ? ::SquareAt(file, rank) : NoSquare;
+}
 
-    const int left = layout.Board.Right() + margin, right = width - margin, wide = right - left;
-    layout.SayLabel = {left, margin, unit(70), field};
-    layout.Say = {left + unit(74), margin, wide - unit(74), field};
-
-    const int picture = std::min(unit(48), (wide - 3 * unit(6)) / 4);
-    const int promotionTop = height - margin - picture;
-    for (int i = 0; i < 4; ++i)
-        layout.Promotion[static_cast<size_t>(i)] = {left + i * (picture + unit(6)), promotionTop, picture, picture};
-    layout.PromotionTitle = {left, promotionTop - line, wide, line};
-
-    const int editTop = layout.PromotionTitle.Top - unit(6) - field, ok = unit(64);
-    layout.Edit = {left, editTop, wide - ok - unit(6), field};
-    layout.EditOk = {right - ok, editTop, ok, field};
-
-    const int listTop = layout.Say.Bottom() + margin, listHeight = editTop - unit(6) - listTop;
-    const int listWidth = (wide - unit(6)) / 2;
-    layout.Lists[White] = {left, listTop, listWidth, listHeight};
-    layout.Lists[Black] = {right - listWidth, listTop, listWidth, listHeight};
+ScorletLayout LayOutScorlet(int width, int height, int dpi, bool turned) {
+    const ScorletLayout beside = Arrangement(width, height, dpi, false).Layout();
+    const ScorletLayout below = Arrangement(width, height, dpi, true).Layout();
+    ScorletLayout layout = 9 * below.CellSize > 10 * beside.CellSize ? below : beside;
+    layout.Turned = turned;
     return layout;
 }

@@ -1,15 +1,24 @@
 #include "recorder/ScorletLists.h"
 
 #include "platform/Ansi.h"
+#include "platform/Colours.h"
+#include "platform/Painting.h"
 #include "platform/Subclass.h"
 #include "resources/resource.h"
 
 #include <algorithm>
 
+namespace {
+
+constexpr Colour QuietInk{RGB(0x6A, 0x66, 0x5E), COLOR_WINDOWTEXT};
+
+}  // namespace
+
 void ScorletLists::Create() {
     for (Side side : BothSides) {
         form.AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
-                        WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
+                        WS_VISIBLE | WS_TABSTOP | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED |
+                            LBS_HASSTRINGS | (side == Black ? WS_VSCROLL : 0));
         Subclass<Procedure>(List(side), this);
     }
 }
@@ -17,9 +26,16 @@ void ScorletLists::Create() {
 HWND ScorletLists::List(Side side) const { return form.Control(ControlOf(lstMoves, side)); }
 
 void ScorletLists::Show() const {
-    const auto rows = std::max(recorder.List(White).Entries().size(), recorder.List(Black).Entries().size());
-    for (Side side : BothSides) Fill(side, rows);
-    for (Side side : BothSides) SendMessageW(List(side), LB_SETTOPINDEX, rows > 0 ? rows - 1 : 0, 0);
+    for (Side side : BothSides) Fill(side, Rows());
+    ShowLast();
+}
+
+void ScorletLists::ShowLast() const {
+    for (Side side : BothSides) SendMessageW(List(side), LB_SETTOPINDEX, Rows() > 0 ? Rows() - 1 : 0, 0);
+}
+
+size_t ScorletLists::Rows() const {
+    return std::max(recorder.List(White).Entries().size(), recorder.List(Black).Entries().size());
 }
 
 void ScorletLists::Fill(Side side, size_t rows) const {
@@ -61,8 +77,48 @@ std::optional<size_t> ScorletLists::Chosen(Side side) const {
     return chosen >= 0 && chosen < count ? std::optional(static_cast<size_t>(chosen)) : std::nullopt;
 }
 
+ChosenLines ScorletLists::Chosen() const {
+    ChosenLines lines;
+    for (Side side : BothSides) {
+        const LRESULT chosen = SendMessageW(List(side), LB_GETCURSEL, 0, 0);
+        if (chosen >= 0) lines[side] = static_cast<size_t>(chosen);
+    }
+    return lines;
+}
+
 void ScorletLists::OnChoice(Side side) const {
     if (!Chosen(side)) Choose({side, recorder.List(side).Entries().size() - 1});
+}
+
+void ScorletLists::Draw(const DRAWITEMSTRUCT& item, Side side) const {
+    const Buffered buffer(item);
+    const RECT area = buffer.Area();
+    const bool chosen = item.itemState & ODS_SELECTED;
+    ::Fill(buffer.Dc(), area, GetSysColor(chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    const auto& entries = recorder.List(side).Entries();
+    const auto index = static_cast<size_t>(item.itemID);
+    if (index < entries.size()) {
+        const Selection font(buffer.Dc(), reinterpret_cast<HGDIOBJ>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0)));
+        const auto write = [&](const std::wstring& text, RECT place, UINT alignment, bool quiet) {
+            const COLORREF ink = quiet ? COLORREF{QuietInk} : GetSysColor(COLOR_WINDOWTEXT);
+            SetTextColor(buffer.Dc(), chosen ? GetSysColor(COLOR_HIGHLIGHTTEXT) : ink);
+            DrawTextW(buffer.Dc(), text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | alignment);
+        };
+        // The moves begin one below the other, whatever the number of digits before them.
+        SIZE widest{};
+        const std::wstring last = std::to_wstring(std::max(Rows(), size_t{99})) + L". ";
+        GetTextExtentPoint32W(buffer.Dc(), last.c_str(), static_cast<int>(last.size()), &widest);
+        const LONG edge = area.bottom / 8;
+        RECT number{edge, 0, edge + widest.cx, area.bottom}, move{number.right, 0, area.right, area.bottom};
+        const std::wstring line = FromAnsi(recorder.List(side).Line(index, side));
+        const size_t point = line.find(L". ");
+        if (point != std::wstring::npos)
+            write(line.substr(0, point + 2), number, DT_RIGHT, entries[index].IsWaiting());
+        else if (!entries[index].IsResult())
+            write(std::to_wstring(index + 1) + L"  ", number, DT_RIGHT, true);
+        write(point != std::wstring::npos ? line.substr(point + 2) : line, move, DT_LEFT, entries[index].IsWaiting());
+    }
+    if (item.itemState & ODS_FOCUS && !(item.itemState & ODS_NOFOCUSRECT)) DrawFocusRect(buffer.Dc(), &area);
 }
 
 // Scrolls the other list to the rows that this one shows.
@@ -75,6 +131,10 @@ void ScorletLists::Follow(HWND list) const {
 
 LRESULT CALLBACK ScorletLists::Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                          DWORD_PTR self) {
+    const auto& lists = *reinterpret_cast<const ScorletLists*>(self);
+    // The one bar of both is that of Black's list, and not every system turns the wheel of a list without one.
+    if (message == WM_MOUSEWHEEL && list == lists.List(White))
+        return SendMessageW(lists.List(Black), message, wParam, lParam);
     const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
     switch (message) {
         // What can scroll a list: the bar, the wheel, keys, the mouse, which may be dragged past the edge, and
@@ -87,7 +147,7 @@ LRESULT CALLBACK ScorletLists::Procedure(HWND list, UINT message, WPARAM wParam,
         case WM_MOUSEMOVE:
         case WM_TIMER:
         case LB_SETCURSEL:
-        case LB_SETTOPINDEX: reinterpret_cast<const ScorletLists*>(self)->Follow(list); break;
+        case LB_SETTOPINDEX: lists.Follow(list); break;
         default: break;
     }
     return result;

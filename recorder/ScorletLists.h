@@ -16,17 +16,24 @@ class ScorletLists {
 
     // Fills both lists anew and shows the last moves. A line that was chosen stays chosen.
     void Show() const;
+    // Scrolls to the last row, whatever is chosen.
+    void ShowLast() const;
     // Chooses a line and shows it.
     void Choose(const ChosenLine& line) const;
     void ChooseNone() const;
     // The chosen line of a list; no value where that holds no entry.
     std::optional<size_t> Chosen(Side side) const;
+    // Those of both lists as they show them, which may have been before the last change of the record.
+    ChosenLines Chosen() const;
     // The players have chosen a row: of the empty ones, that is the last entry.
     void OnChoice(Side side) const;
+    // Draws a row: a line as its list has it, and in Black's list the number of the row before it.
+    void Draw(const DRAWITEMSTRUCT& item, Side side) const;
 
   private:
     HWND List(Side side) const;
     void Fill(Side side, size_t rows) const;
+    size_t Rows() const;
     size_t RowsThatFit() const;
     void Follow(HWND list) const;
 

@@ -14,8 +14,7 @@ constexpr Colour LightLast{RGB(0xF4, 0xE4, 0x7A), COLOR_WINDOW}, DarkLast{RGB(0x
 constexpr Colour PickedColour{RGB(0x1D, 0x5F, 0xD0), COLOR_HIGHLIGHT};
 constexpr Colour LastColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOWTEXT};
 constexpr Colour EdgeColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOW}, EdgeInk{RGB(0xF0, 0xE4, 0xD2), COLOR_WINDOWTEXT};
-
-constexpr std::array PromotionNames{"TQ", "TR", "TB", "TN"};
+constexpr Colour TrayColour{RGB(0xDF, 0xD8, 0xCC), COLOR_WINDOW};
 
 // A frame inside the edges of a square.
 void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
@@ -52,13 +51,16 @@ void ScorletPainter::LoadPictures() {
                 Picture(*modResource::LoadResourcePicture(std::string(PieceCode(piece))));
         }
     }
-    for (size_t i = 0; i < promotions.size(); ++i)
-        promotions[i] = Picture(*modResource::LoadResourcePicture(PromotionNames[i]));
 }
 
-void ScorletPainter::SetLayout(const ScorletLayout& layout, int dpi) {
-    font = MakeFont(MulDiv(13, dpi, 96), false);
+void ScorletPainter::SetLayout(const ScorletLayout& layout) {
+    font = MakeFont(layout.Type, false);
+    headFont = MakeFont(layout.Type, true);
     coordinateFont = MakeFont(layout.CoordinateType, true);
+}
+
+void ScorletPainter::DrawTrays(HDC dc, const ScorletLayout& layout) const {
+    for (const Box& row : layout.CapturedRows) Fill(dc, {row.Left, row.Top, row.Right(), row.Bottom()}, TrayColour);
 }
 
 void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const {
@@ -90,8 +92,8 @@ void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const C
 
     const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
     if (look.LastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
-    if (look.Origin) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
-    pieces[static_cast<size_t>(look.Shown)].Draw(buffer.Dc(), 0, 0, size);
+    if (look.Origin || look.Target) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
+    if (!look.Lifted) PictureOf(look.Shown).Draw(buffer.Dc(), 0, 0, size);
     if (look.Cursor) {
         InflateRect(&area, -thickness, -thickness);
         SetTextColor(buffer.Dc(), RGB(0, 0, 0));
@@ -102,15 +104,17 @@ void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const C
 void ScorletPainter::DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const {
     const Buffered buffer(item);
     const RECT area = buffer.Area();
-    FillRect(buffer.Dc(), &area, BackgroundBrush());
-    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    Fill(buffer.Dc(), area, TrayColour);
+    PictureOf(piece).Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
     if (picked) ThickFrame(buffer.Dc(), area, PickedColour, 2);
 }
 
-void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, size_t choice) const {
+void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, Piece piece, bool waits, bool marked) const {
     const Buffered buffer(item);
     RECT area = buffer.Area();
     FillRect(buffer.Dc(), &area, BackgroundBrush());
-    promotions[choice].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    if (marked) Fill(buffer.Dc(), area, LightLast);
+    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
+    if (waits) ThickFrame(buffer.Dc(), area, PickedColour, marked ? 4 : 2);
     if (item.itemState & ODS_FOCUS) DrawFocusRect(buffer.Dc(), &area);
 }

@@ -4,6 +4,8 @@
 #include "platform/Dpi.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
+#include "recorder/ListMenu.h"
+#include "recorder/MatchedMoves.h"
 #include "recorder/SpokenBoard.h"
 #include "resources/resource.h"
 
@@ -17,26 +19,9 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmScorlet";
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-constexpr std::array PromotionKinds{PieceKind::Queen, PieceKind::Rook, PieceKind::Bishop, PieceKind::Knight};
-constexpr std::array PromotionTexts{TextId::PromotionQueen, TextId::PromotionRook, TextId::PromotionBishop,
-                                    TextId::PromotionKnight};
-
-constexpr int CellOf(Square square) { return picBoard + static_cast<int>(square); }
-bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIndexes && IsSquare(id - picBoard); }
-bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
-static_assert(CapturedSlots == SlotsPerSide);
-bool IsPromotion(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
-
 std::wstring WithoutAccessKey(std::wstring caption) {
     std::erase(caption, L'&');
     return caption;
-}
-
-template <typename Action>
-void ForEachSquare(Action action) {
-    for (int rank = 8; rank >= 1; --rank) {
-        for (int file = 1; file <= 8; ++file) action(SquareAt(file, rank));
-    }
 }
 
 }  // namespace
@@ -74,51 +59,64 @@ std::wstring frmScorlet::Open(const RECT& place) {
 }
 
 void frmScorlet::CreateControls() {
-    constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW;
-    // The order is the reading and the tab order. The cells lie above the board, so they come before it.
-    ForEachSquare([&](Square square) { AddControl(WC_STATICW, CellOf(square), drawn); });
-    AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP | WS_CLIPSIBLINGS);
+    // The field for typing may cover cells, which therefore leave it out when they draw.
+    typing.Create(WM_ENDTYPING);
+    // The order is the reading and the tab order.
+    board.Create();
     AddControl(WC_STATICW, lblCaptured, WS_VISIBLE | SS_CENTERIMAGE);
-    for (int i = 0; i < 2 * CapturedSlots; ++i) AddControl(WC_STATICW, imgCapturedWQ + i, SS_OWNERDRAW);
+    board.CreateCaptured();
     AddControl(WC_STATICW, lblSay, WS_VISIBLE | SS_CENTERIMAGE);
     say.Create();
+    whoseMove.Create();
+    for (Side side : BothSides)
+        AddControl(WC_STATICW, ControlOf(lblPlayer, side), WS_VISIBLE | SS_CENTERIMAGE | SS_NOPREFIX | SS_ENDELLIPSIS);
     lists.Create();
     field.Create(WM_ENDEDIT);
-    AddControl(WC_STATICW, lblPromotion, SS_CENTERIMAGE);
-    for (int id = imgPromotionQ; id <= imgPromotionN; ++id) AddControl(WC_BUTTONW, id, WS_TABSTOP | BS_OWNERDRAW);
+    picker.Create();
     Subclass<BoardProcedure>(Control(picBoard), this);
 }
 
 void frmScorlet::ApplyTexts() {
     SetText(lblCaptured, captions(TextId::CapturedPieces));
-    SetText(lblPromotion, captions(TextId::PromoteTo));
     SetText(lblSay, captions(TextId::Say));
     SetText(cmdOK, captions(TextId::ButtonOk));
-    for (int i = 0; i < 4; ++i) SetText(imgPromotionQ + i, captions(PromotionTexts[static_cast<size_t>(i)]));
+    picker.ApplyTexts(captions);
     say.Fill(captions);
+}
+
+void frmScorlet::ShowNames() {
+    for (Side side : BothSides) {
+        const std::wstring name = FromAnsi(game.PlayerName(side));
+        SetText(ControlOf(lblPlayer, side), name.empty() ? captions.SideName(side) : name);
+    }
 }
 
 void frmScorlet::Arrange() {
     RECT client{};
     GetClientRect(Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
-    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi());
-    painter.SetLayout(layout, Dpi());
+    layout = LayOutScorlet(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi(), game.BoardTurned());
+    input.Turn(layout.Turned);
+    painter.SetLayout(layout);
     const auto place = [&](int id, const Box& box) {
         SetWindowPos(Control(id), nullptr, box.Left, box.Top, box.Width, box.Height, SWP_NOZORDER | SWP_NOACTIVATE);
         SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font()), FALSE);
     };
-    ForEachSquare([&](Square square) { place(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
-    place(picBoard, layout.Board);
+    board.Place(layout);
+    place(txtTypedMove, layout.TypedMove);
+    place(lblTypedMove, layout.TypedReason);
     place(lblCaptured, layout.CapturedTitle);
-    for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const Box& row = layout.CapturedRows[i < CapturedSlots ? White : Black];
-        place(imgCapturedWQ + i, {row.Left + i % CapturedSlots * layout.Slot, row.Top, layout.Slot, layout.Slot});
-    }
     place(lblSay, layout.SayLabel);
     // The height of a drop-down list counts its open part.
     place(cmbSay, {layout.Say.Left, layout.Say.Top, layout.Say.Width, 8 * layout.Say.Height});
-    for (Side side : BothSides) place(ControlOf(lstMoves, side), layout.Lists[side]);
+    place(lblWhoseMove, layout.WhoseMove);
+    for (Side side : BothSides) {
+        place(ControlOf(lblPlayer, side), layout.ListHeads[side]);
+        SendMessageW(Control(ControlOf(lblPlayer, side)), WM_SETFONT, reinterpret_cast<WPARAM>(painter.HeadFont()),
+                     FALSE);
+        place(ControlOf(lstMoves, side), layout.Lists[side]);
+        SendMessageW(Control(ControlOf(lstMoves, side)), LB_SETITEMHEIGHT, 0, layout.Type * 4 / 3);
+    }
     place(txtMove, layout.Edit);
     place(cmdOK, layout.EditOk);
     place(lblPromotion, layout.PromotionTitle);
@@ -128,11 +126,13 @@ void frmScorlet::Arrange() {
 }
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
+    ShowNames();
+    if (layout.Turned != game.BoardTurned()) Arrange();
     ShowBoard();
+    ShowWhoseMove();
     lists.Show();
     if (chosen) lists.Choose(*chosen);
-    SetVisible(lblPromotion, recorder.AwaitsPromotion());
-    for (int id = imgPromotionQ; id <= imgPromotionN; ++id) SetVisible(id, recorder.AwaitsPromotion());
+    picker.Show();
 }
 
 void frmScorlet::RecordChanged(const ChosenLines& chosen) {
@@ -140,44 +140,40 @@ void frmScorlet::RecordChanged(const ChosenLines& chosen) {
     for (Side side : BothSides) {
         if (chosen[side]) lists.Choose({side, *chosen[side]});
     }
+    lists.ShowLast();
 }
 
 void frmScorlet::RecordReplaced() {
     EndEdit(false);
+    EndTyping(false);
     input.Reset();
     lists.ChooseNone();
     ShowRecord();
 }
 
+void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
+    EndEdit(false);
+    EndTyping(false);
+    input.Cancel();
+    lists.ChooseNone();
+    RecordChanged(chosen);
+    TellSpokenName(picBoard);
+}
+
 void frmScorlet::ShowBoard() {
-    ForEachSquare([&](Square square) {
-        std::optional<CellLook>& shown = shownCells[static_cast<size_t>(square)];
-        const CellLook look = input.LookOf(square);
-        if (look == shown) return;
-        shown = look;
-        SetText(CellOf(square), FromAnsi(PieceCode(look.Shown)));
-        InvalidateRect(Control(CellOf(square)), nullptr, FALSE);
-    });
-    for (int i = 0; i < 2 * CapturedSlots; ++i) {
-        const auto [piece, slot] = SlotOf(i);
-        const bool shown = recorder.Position().CapturedShown(piece, slot);
-        SetVisible(imgCapturedWQ + i, shown);
-        if (shown) InvalidateRect(Control(imgCapturedWQ + i), nullptr, FALSE);
-    }
+    board.Show();
+    mouse.Follow();
 }
 
 bool frmScorlet::TakeMessage(MSG& message) {
     if (message.hwnd != Window() && !IsChild(Window(), message.hwnd)) return false;
-    if (message.message == WM_CHAR && IsPauseKey(message.wParam) && message.hwnd != Control(txtMove)) {
+    if (message.message == WM_CHAR && IsPauseKey(message.wParam) && !IsOfKind(message.hwnd, WC_EDITW)) {
         // By way of the window, whose procedure ends all exceptions.
         SendMessageW(Window(), WM_CHAR, message.wParam, message.lParam);
         return true;
     }
     if (message.message == WM_KEYDOWN && message.wParam == VK_SPACE) {
-        wchar_t kind[16]{};
-        GetClassNameW(message.hwnd, kind, 16);
-        const bool takesSpace = lstrcmpiW(kind, WC_EDITW) == 0 || lstrcmpiW(kind, WC_BUTTONW) == 0;
-        if (!takesSpace) {
+        if (!IsOfKind(message.hwnd, WC_EDITW) && !IsOfKind(message.hwnd, WC_BUTTONW)) {
             if (!(HIWORD(message.lParam) & KF_REPEAT)) SendMessageW(Window(), WM_BOARDKEY, VK_SPACE, 0);
             return true;
         }
@@ -189,7 +185,22 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
+        case WM_MOUSEMOVE:
+            mouse.Move({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            ShowBoard();
+            return 0;
+        case WM_LBUTTONUP: {
+            const bool puttingBack = input.Captured().has_value();
+            ShowEntered(mouse.Release({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}), puttingBack);
+            return 0;
+        }
+        case WM_CAPTURECHANGED:
+            mouse.CaptureLost();
+            ShowBoard();
+            return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
+        case WM_BOARDCHARACTER: return OnBoardCharacter(static_cast<wchar_t>(wParam));
+        case WM_ENDTYPING: EndTyping(wParam != 0); return 0;
         case WM_CHAR:
             if (IsPauseKey(wParam)) game.PressKeyP();
             return 0;
@@ -200,13 +211,13 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_CTLCOLORSTATIC:
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
-            return reinterpret_cast<LRESULT>(painter.BackgroundBrush());
+            return reinterpret_cast<LRESULT>(
+                OnColour(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
         case WM_ERASEBKGND: {
             RECT client{};
             GetClientRect(Window(), &client);
             FillRect(reinterpret_cast<HDC>(wParam), &client, painter.BackgroundBrush());
+            painter.DrawTrays(reinterpret_cast<HDC>(wParam), layout);
             return TRUE;
         }
         case WM_SIZE: Arrange(); return 0;
@@ -228,12 +239,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmScorlet::OnCommand(int id, int notification) {
-    if (IsPromotion(id)) {
-        recorder.Promote(PromotionKinds[static_cast<size_t>(id - imgPromotionQ)]);
-        ShowEdit();
-        SetFocus(Control(picBoard));
-        return;
-    }
+    if (PromotionPicker::Has(id)) return Promote(PromotionPicker::KindOf(id));
     switch (id) {
         case cmbSay:
             if (notification == CBN_DROPDOWN) say.Fill(captions);
@@ -246,7 +252,13 @@ void frmScorlet::OnCommand(int id, int notification) {
         case txtMove:
             if (notification == EN_CHANGE) field.OnChange();
             return;
+        case txtTypedMove:
+            if (notification == EN_CHANGE) typing.OnChange();
+            if (notification == EN_KILLFOCUS) EndTyping(false);
+            return;
         case cmdOK: return EndEdit(true);
+        case mnuTakeBack: return game.TakeBack();
+        case mnuRedo: return game.Redo();
         case mnuEditMove: return BeginEdit(menuList);
         case mnuPrintMoveList: SendMessageW(shell, WM_COMMAND, mnuPrint, 0); return;
         case mnuDeleteLastMove:
@@ -271,24 +283,68 @@ void frmScorlet::OnMouseDown(POINT point) {
         return;
     }
     SetFocus(Control(picBoard));
+    mouse.Press(point);
 }
 
 void frmScorlet::OnSquare(Square square) {
     const bool puttingBack = input.Captured().has_value();
-    const auto line = input.Click(square);
-    if (line)
+    ShowEntered(input.Click(square), puttingBack);
+}
+
+void frmScorlet::ShowEntered(const std::optional<ChosenLine>& line, bool puttingBack) {
+    if (line) {
         ShowEdit(line);
-    else
+        lists.ShowLast();
+    } else {
         ShowBoard();
+    }
     if (puttingBack) game.RecordEdited();
 }
 
 void frmScorlet::ShowEdit(std::optional<ChosenLine> chosen) {
-    ShowRecord(chosen);
     game.RecordEdited();
+    ShowRecord(chosen);
+}
+
+void frmScorlet::Promote(PieceKind kind) {
+    recorder.Promote(kind);
+    ShowEdit();
+    SetFocus(Control(picBoard));
+}
+
+bool frmScorlet::OnBoardCharacter(wchar_t character) {
+    if (const auto kind = picker.OnCharacter(character)) {
+        Promote(*kind);
+    } else if (character < 128 && BeginsMove(static_cast<char>(character))) {
+        typing.Show(character);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void frmScorlet::EndTyping(bool enter) {
+    if (!typing.Open()) return;
+    if (enter) {
+        const auto match = typing.Match(recorder, captions);
+        if (!match) return TellSpokenName(txtTypedMove);
+        input.Cancel();
+        const ChosenLine line = recorder.Play(match->Played.Origin, match->Played.Destination);
+        if (match->Promotion != PieceKind::None) recorder.Promote(match->Promotion);
+        ShowEdit(line);
+    }
+    // Before it is hidden: a window that is hidden gives the focus to its form.
+    if (GetFocus() == Control(txtTypedMove)) SetFocus(Control(picBoard));
+    typing.Hide();
 }
 
 bool frmScorlet::OnBoardKey(WPARAM key) {
+    std::optional<PieceKind> chosen;
+    if (picker.OnKey(key, chosen)) {
+        if (chosen) Promote(*chosen);
+        TellSpokenName(picBoard);
+        return true;
+    }
     switch (key) {
         case VK_LEFT: input.MoveCursor(-1, 0); break;
         case VK_RIGHT: input.MoveCursor(1, 0); break;
@@ -328,13 +384,7 @@ bool frmScorlet::OnContextMenu(HWND control, POINT point) {
         if (HIWORD(row) == 0 && LOWORD(row) < recorder.List(menuList).Entries().size())
             lists.Choose({menuList, LOWORD(row)});
     }
-    const UINT state = lists.Chosen(menuList) ? MF_ENABLED : MF_GRAYED;
-    const HMENU menu = CreatePopupMenu();
-    AppendMenuW(menu, MF_STRING | state, mnuEditMove, captions(TextId::EditMove).c_str());
-    AppendMenuW(menu, MF_STRING, mnuPrintMoveList, captions(TextId::PrintMoveList).c_str());
-    AppendMenuW(menu, MF_STRING | state, mnuDeleteLastMove, captions(TextId::DeleteLastMove).c_str());
-    TrackPopupMenu(menu, TPM_RIGHTBUTTON, point.x, point.y, 0, Window(), nullptr);
-    DestroyMenu(menu);
+    ShowListMenu(Window(), point, captions, game, lists.Chosen(menuList).has_value());
     return true;
 }
 
@@ -362,7 +412,8 @@ void frmScorlet::EndEdit(bool accept) {
 }
 
 std::wstring frmScorlet::SpokenName(int id) const {
-    if (id == picBoard) return SpokenBoard(captions, recorder, input);
+    if (id == picBoard)
+        return picker.TakesKeys() ? picker.SpokenText(captions) : SpokenBoard(captions, recorder, input);
     if (IsCell(id)) return SpokenSquare(captions, recorder, input, static_cast<Square>(id - picBoard));
     if (IsCaptured(id)) {
         const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
@@ -373,23 +424,31 @@ std::wstring frmScorlet::SpokenName(int id) const {
         case lstMoves + 1:
             return captions.SideName(id == lstMoves ? White : Black) + L", " + captions(TextId::MovesOfSide);
         case txtMove: return WithoutAccessKey(captions(TextId::EditMove));
+        case txtTypedMove: return typing.SpokenText(captions);
         default: return {};
     }
 }
 
+std::wstring frmScorlet::SpokenPart(int id, int part) const {
+    if (id != lstMoves && id != lstMoves + 1) return {};
+    const MoveList& list = recorder.List(id == lstMoves ? White : Black);
+    const auto index = static_cast<size_t>(part - 1);
+    // With the number in both lists, as in White's.
+    return index < list.Entries().size() ? FromAnsi(list.Line(index, White)) : L"";
+}
+
 void frmScorlet::OnDrawItem(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
-    if (id == picBoard) return painter.DrawBoardEdge(item, layout);
-    if (IsPromotion(id)) return painter.DrawPromotion(item, static_cast<size_t>(id - imgPromotionQ));
-    if (IsCaptured(id)) {
-        const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
-        return painter.DrawCaptured(item, piece, input.IsPicked(piece, slot));
-    }
-    if (!IsCell(id)) return;
-    const auto square = static_cast<Square>(id - picBoard);
-    CellLook look = input.LookOf(square);
-    look.Cursor = look.Cursor && GetFocus() == Control(picBoard);
-    painter.DrawCell(item, square, look);
+    if (id == lstMoves || id == lstMoves + 1) return lists.Draw(item, id == lstMoves ? White : Black);
+    if (PromotionPicker::Has(id)) return picker.Draw(item);
+    board.Draw(item);
+}
+
+HBRUSH frmScorlet::OnColour(HDC dc, int id) const {
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+    const HBRUSH warning = id == lblWhoseMove ? whoseMove.Colours(dc) : nullptr;
+    return warning ? warning : painter.BackgroundBrush();
 }
 
 int frmScorlet::ChildAt(POINT point) const {
@@ -428,6 +487,9 @@ LRESULT CALLBACK frmScorlet::BoardProcedure(HWND board, UINT message, WPARAM wPa
             // A held arrow moves on; a held Enter must not pick and drop in turns.
             if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
             if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
+            break;
+        case WM_CHAR:
+            if (SendMessageW(form->Window(), WM_BOARDCHARACTER, wParam, 0)) return 0;
             break;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:

@@ -2,11 +2,16 @@
 
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
+#include "recorder/BoardMouse.h"
 #include "recorder/MoveField.h"
+#include "recorder/PromotionPicker.h"
 #include "recorder/SayList.h"
+#include "recorder/ScorletBoard.h"
 #include "recorder/ScorletGame.h"
 #include "recorder/ScorletLists.h"
 #include "recorder/ScorletPainter.h"
+#include "recorder/TypedMoveField.h"
+#include "recorder/WhoseMoveLine.h"
 
 #include <array>
 #include <optional>
@@ -34,8 +39,12 @@ class frmScorlet : public Form, private RecordView {
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::wstring SpokenName(int id) const override;
+    std::wstring SpokenPart(int id, int part) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
+    void RecordTakenBack(const ChosenLines& chosen) override;
+    ChosenLines Chosen() const override { return lists.Chosen(); }
+    void ShowWhoseMove() override { whoseMove.Show(captions, game.NextMove()); }
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
@@ -44,16 +53,23 @@ class frmScorlet : public Form, private RecordView {
     void CreateControls();
     void ApplyTexts();
     void Arrange();
+    void ShowNames();
     void ShowBoard();
 
     void OnCommand(int id, int notification);
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
+    // After a piece has been picked or dropped, which may have written a line or put a captured piece back.
+    void ShowEntered(const std::optional<ChosenLine>& line, bool puttingBack);
     bool OnBoardKey(WPARAM key);
+    bool OnBoardCharacter(wchar_t character);
+    void Promote(PieceKind kind);
+    void EndTyping(bool enter);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
     void BeginEdit(Side side);
     void EndEdit(bool accept);
     void OnDrawItem(const DRAWITEMSTRUCT& item) const;
+    HBRUSH OnColour(HDC dc, int id) const;
     bool OnSetCursor() const;
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     int ChildAt(POINT point) const;
@@ -67,7 +83,9 @@ class frmScorlet : public Form, private RecordView {
     const HWND shell;
     BoardInput input{recorder};
     MoveField field{*this};
+    TypedMoveField typing{*this};
     SayList say{*this};
+    WhoseMoveLine whoseMove{*this};
     ScorletLists lists{*this, recorder};
     // The entry that is open in the edit field, and how it was.
     struct Edited {
@@ -77,7 +95,9 @@ class frmScorlet : public Form, private RecordView {
     std::optional<Edited> edited;
     Side menuList = White;
     ScorletPainter painter;
+    PromotionPicker picker{*this, recorder, painter};
     ScorletLayout layout{};
-    std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
+    ScorletBoard board{*this, recorder, input, painter};
+    BoardMouse mouse{*this, input, painter, layout};
     UniqueCursor handPointBlue;
 };

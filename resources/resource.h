@@ -43,10 +43,17 @@ enum ClockControl : int {
     mnuContents,
     mnuAbout,
     mnuBringBack,
+    mnuCopyGame,
+    mnuCopyPosition,
+    mnuExportPgn,
+    mnuTakeBack,
+    mnuRedo,
+    mnuGoOn,
     // These have no menu entry.
     mnuNextWindow,
     mnuSetupByKey,
     mnuScorletHelp,
+    mnuTurnBoard,  // in the Scorlet menu
 };
 
 // The Scorlet.
@@ -72,6 +79,10 @@ enum ScorletControl : int {
     cmbSay,
     lstMoves = 2152,  // White's list, then Black's
     txtMove = 2154,
+    txtTypedMove,
+    lblTypedMove,
+    lblWhoseMove,
+    lblPlayer = 2158,  // the headings of the lists
 
     mnuEditMove = 2160,
     mnuPrintMoveList,
@@ -154,6 +165,8 @@ enum ClockMessage : unsigned {
 enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board
     WM_ENDEDIT,            // the edit of a move ends: with 1 in wParam it is accepted
+    WM_BOARDCHARACTER,     // a character in wParam for the board
+    WM_ENDTYPING,          // the typing of a move ends: with 1 in wParam it is to be entered
 };
 
 // The timers of the clock window.

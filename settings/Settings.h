@@ -23,6 +23,7 @@ struct Settings {
     const char* ButtonSoundName = ButtonSounds[0];
     const char* FlagSoundName = FlagSounds[0];
     bool WritePgn = false;
+    bool BoardTurned = false;  // the Scorlet's board, with Black's side below; no part of a game
     int32_t LanguageIndex = English;
 
     // The DEFAULT preset, no names, English.

@@ -35,3 +35,18 @@ void SettingsFile::Save(const Settings& settings) const {
     MakeFolder(folder);
     ReplaceFileBytes(path, EncodeRecord(EncodeSettings(settings)));
 }
+
+std::wstring SettingsFile::SaveBoardTurned(bool turned, const Texts& texts) const {
+    try {
+        const auto bytes = ReadFileBytes(path, LongestRecord);
+        DecodedRecord record = bytes ? DecodeRecord(*bytes) : DecodedRecord{EncodeSettings(Settings()), std::nullopt};
+        if (record.Error)
+            return texts.Compose(TextId::SettingsDamaged, path, texts.Reason(record.Error->What, record.Error->Slot));
+        WriteBoardTurned(turned, record.Slots);
+        MakeFolder(folder);
+        ReplaceFileBytes(path, EncodeRecord(record.Slots));
+        return {};
+    } catch (const SystemError& error) {
+        return texts.Compose(TextId::SettingsNotSaved, error.Thing(), texts.Reason(error.Code()));
+    }
+}

@@ -27,6 +27,11 @@ class SettingsFile {
     // written; the old file then stays.
     void Save(const Settings& settings) const;
 
+    // Writes down in the file whether the board is turned, and leaves all else in it as it is: the settings in use may
+    // be those of a loaded game. Without a file it makes one of the DEFAULT preset. The text says why it could not; it
+    // is empty on success.
+    std::wstring SaveBoardTurned(bool turned, const Texts& texts) const;
+
   private:
     std::wstring folder, path;
 };

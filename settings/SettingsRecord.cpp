@@ -8,6 +8,7 @@ namespace {
 
 constexpr int32_t LanguageSlot = 300;
 constexpr int32_t PgnSlot = 301;
+constexpr int32_t BoardSlot = 302;
 
 }  // namespace
 
@@ -44,11 +45,16 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
         DecodeOptions(reader, settings, 60);
         reader.At(LanguageSlot);
         settings.WritePgn = reader.At(PgnSlot) != 0;
+        settings.BoardTurned = reader.At(BoardSlot) != 0;
     } catch (const BadSlot& bad) {
         return bad.Error;
     }
     // A fault after the last setting has cost nothing, but the file is damaged.
     return record.Error;
+}
+
+void WriteBoardTurned(bool turned, SlotRecord& record) {
+    record[BoardSlot] = turned ? SlotValue(int32_t{1}) : SlotValue();
 }
 
 SlotRecord EncodeSettings(const Settings& settings) {
@@ -75,5 +81,6 @@ SlotRecord EncodeSettings(const Settings& settings) {
     write(settings.FlagSoundIndex);
     record[LanguageSlot] = settings.LanguageIndex;
     if (settings.WritePgn) record[PgnSlot] = int32_t{1};
+    WriteBoardTurned(settings.BoardTurned, record);
     return record;
 }

@@ -4,7 +4,8 @@
 #include "settings/SlotReader.h"
 
 // The places of the settings in their record. The names are written character by character, so the slot of every later
-// field depends on their lengths; but the language is always in slot 300 and the PGN option in slot 301.
+// field depends on their lengths; but the language is always in slot 300, the PGN option in slot 301 and the turned
+// board in slot 302.
 
 // More characters than this in the two names together would push the fields into the language's slot.
 inline constexpr int32_t MaxNameCharacters = 284;
@@ -20,6 +21,9 @@ void DecodeOptions(SlotReader& slots, Settings& settings, int32_t step);
 // was taken before it stays and the rest is as it was. Any numeric slot type is accepted for a number; an empty slot
 // counts as 0. The periods must be whole minutes, and the language a number, though it is not taken.
 std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings& settings);
+
+// Writes down whether the board is turned. The slot of a board that is not stays empty.
+void WriteBoardTurned(bool turned, SlotRecord& record);
 
 // The record of all settings; times in whole minutes. Throws RunTimeError(Fault::OutOfRange) when the two names
 // together are longer than MaxNameCharacters.

@@ -20,6 +20,9 @@ class Texts {
 
     std::wstring operator()(TextId row) const { return LookUp(TextIdentifier(row, LanguageIndex())); }
 
+    // The text of a menu entry with the name of its key after it, as menus show it.
+    std::wstring WithKey(TextId entry, TextId key) const { return (*this)(entry) + L"\t" + (*this)(key); }
+
     // Text of a row with its %1 to %9 replaced.
     template <typename... Parts>
     std::wstring Compose(TextId row, const Parts&... parts) const {

@@ -91,7 +91,9 @@ void Change(const Form& form, const Texts& texts, int state) {
     if (!clock) {
         for (int up = 0; state == 2 && up < 5; ++up) key(VK_UP);
         if (state < 3) return key(VK_RETURN);
-        for (const int id : {int{txtMove}, int{cmdOK}}) form.SetVisible(id, true);
+        for (const int id : {int{txtMove}, int{cmdOK}, int{txtTypedMove}, int{lblTypedMove}}) form.SetVisible(id, true);
+        form.SetText(lblTypedMove, texts.Compose(TextId::SeveralMovesMatch, L"Nb1-d2, Nf3-d2"));
+        form.SetText(lblWhoseMove, texts.Compose(TextId::OtherColourMoved, texts.SideName(White), L"299"));
         return;
     }
     // The longest that the panels come to show.
@@ -220,7 +222,7 @@ TEST(MenusTest, TellKeysAndWhatCanBeDoneInTheLanguageOfTheWindow) {
     };
     const auto grayed = [&](UINT id) { return (GetMenuState(bar, id, MF_BYCOMMAND) & MF_GRAYED) != 0; };
     EXPECT_EQ(entry(0), maker.Words(TextId::MenuReset) + L"\t" + maker.Words(TextId::MenuResetKey));
-    EXPECT_TRUE(grayed(mnuCloseScorlet) && grayed(mnuPrint));
+    EXPECT_TRUE(grayed(mnuCloseScorlet) && grayed(mnuPrint) && grayed(mnuCopyGame) && grayed(mnuExportPgn));
     EXPECT_FALSE(grayed(mnuShowScorlet) || grayed(mnuSetup));
     const std::wstring pause = maker.Words(TextId::MenuPause), resume = maker.Words(TextId::MenuResume);
     maker.Options.LanguageIndex = Turkish;

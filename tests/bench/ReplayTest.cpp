@@ -54,7 +54,21 @@ TEST(ReplayTest, PromotionsAndMalformedLines) {
     EXPECT_EQ(written, wanted);
     for (const char* line : {"", "e2e4", "e2e4 1-0 e7e5", "e2e4x *", "e2e2 *", "e3e4 *", "e2i4 *", "e2e9 *", "e2e4q *",
                              "e2 e4 *", "a2a8k *", "1-0 1-0", "e2e4qq *"}) {
-        EXPECT_FALSE(ReplayLine(line, written)) << line;
+        EXPECT_FALSE(ReplayLine(line, written) || RecordLine(line)) << line;
         EXPECT_EQ(written, wanted) << line;
     }
+}
+
+TEST(ReplayTest, WhatIsNotClearInAnExportedGame) {
+    const auto unclear = [](const std::string& line) {
+        std::string exported;
+        const std::string text = ExportRecord(*RecordLine(line), exported);
+        EXPECT_TRUE(exported.ends_with(" 1/2-1/2\n")) << exported;
+        return text;
+    };
+    EXPECT_EQ(unclear("e2e4 e7e5 1/2-1/2"), "");
+    EXPECT_EQ(unclear("e2e4 e7e5 e1e3 1/2-1/2"), "White's move 2, Ke3, cannot be understood");
+    EXPECT_EQ(unclear("e2e4 e8e6 1/2-1/2"), "Black's move 1, Ke6, cannot be understood");
+    // A pawn of Black's is moved as White's move.
+    EXPECT_EQ(unclear("e7e5 1/2-1/2"), "White's move 1, e5, cannot be understood");
 }

@@ -117,7 +117,7 @@ std::wstring TextOf(HWND window) {
     return text.data();
 }
 
-std::wstring SpokenName(HWND control) {
+std::wstring SpokenName(HWND control, LONG part) {
     // For what comes from another process.
     static const HRESULT library = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     void* pointer = nullptr;
@@ -125,11 +125,11 @@ std::wstring SpokenName(HWND control) {
         FAILED(AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &pointer)))
         return {};
     const UniqueCom<IAccessible> object(static_cast<IAccessible*>(pointer));
-    VARIANT self{};
-    self.vt = VT_I4;
-    self.lVal = CHILDID_SELF;
+    VARIANT asked{};
+    asked.vt = VT_I4;
+    asked.lVal = part;
     BSTR name = nullptr;
-    object->get_accName(self, &name);
+    object->get_accName(asked, &name);
     const std::wstring text = name ? name : L"";
     SysFreeString(name);
     return text;

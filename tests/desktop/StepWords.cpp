@@ -136,6 +136,17 @@ void Steps::AddLooks() {
         const HWND control = Shown(words.Take());
         Await([&] { return Utf8(SpokenName(control)); }, words.Take());
     });
+    // So does a row of a list, counted from 1.
+    Add("says-row", [this](Words& words) {
+        const HWND list = Shown(words.Take());
+        const int row = words.Number();
+        Await([&] { return Utf8(SpokenName(list, row)); }, words.Take());
+    });
+    // The first row that is in sight.
+    Add("top-row", [this](Words& words) {
+        const HWND list = Shown(words.Take());
+        Await([&] { return std::to_string(SendMessageW(list, LB_GETTOPINDEX, 0, 0) + 1); }, words.Take());
+    });
     Add("lists", [this](Words& words) {
         Await([this] { return ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B"); }, words.Take());
     });
@@ -164,8 +175,10 @@ void Steps::AddLooks() {
     });
     // With the button that answers it, where one does. No other window takes input meanwhile.
     Add("message", [this](Words& words) {
-        const HWND box = Shown("message");
+        HWND box = nullptr;
         const auto text = [&] {
+            // Anew, since one message may follow another.
+            box = Shown("message");
             std::string all;
             for (HWND part = nullptr; (part = FindWindowExW(box, part, L"Static", nullptr)) != nullptr;)
                 all += Utf8(TextOf(part));
@@ -317,6 +330,57 @@ void Steps::AddFaults() {
         while (Time::now() < kill) {
         }
         TerminateProcess(program->Process(), 99);
+    });
+    // Notes what the game has come to, when it has changed.
+    Add("note", [this](Words&) {
+        std::string now;
+        const auto changed = [&] { return (now = State()) == State() && (states.empty() || now != states.back()); };
+        Until(changed, "nothing changes");
+        states.push_back(now);
+    });
+    // Does steps that lead from one noted state to the next, and kills the program so many tenths of a millisecond
+    // later. What it brings back is one of the two; the steps are done again where it is the first.
+    Add("killed-after", [this](Words& words) {
+        const int left = SecondsLeft(), wait = words.Number();
+        const std::string steps = words.Take(), before = states.at(compared), after = states.at(++compared);
+        const Time::time_point begun = Time::now();
+        Do(steps);
+        for (const auto kill = Time::now() + std::chrono::microseconds(100) * wait; Time::now() < kill;) {
+        }
+        TerminateProcess(program->Process(), 99);
+        const auto passed = std::chrono::duration_cast<std::chrono::seconds>(Time::now() - begun).count();
+        Do("ended 99 / restart / message \"A game of *\" Yes");
+        std::string now;
+        Until([&] { return (now = State()) == before || now == after; }, "it is neither as before nor as after");
+        const auto won = SecondsLeft() - (left - passed);
+        cameBack[now == after] = true;
+        if (won < -1 || won > 5) Fail(std::to_string(won) + " seconds are won");
+        Do("command mnuPause / runs");
+        if (now == before) Do(steps);
+        Await([this] { return State(); }, after);
+    });
+    Add("both-came-back", [this](Words&) {
+        if (!cameBack[0] || !cameBack[1]) Fail("the program was always killed too early, or too late");
+    });
+    // Another program begins beside this one; it, or this one again, is what the next steps are done with.
+    Add("another", [this](Words&) {
+        std::swap(program, other);
+        Launch();
+    });
+    Add("swap", [this](Words&) { std::swap(program, other); });
+    // Saves in both programs at once, where both ask.
+    Add("both-yes", [this](Words&) {
+        const HWND boxes[] = {program->Message(), other->Message()};
+        for (const HWND box : boxes) PostMessageW(box, WM_COMMAND, IDYES, 0);
+        Until([&] { return !IsWindow(boxes[0]) && !IsWindow(boxes[1]); }, "a question stays");
+    });
+    // A message to the clock window, its parameter, and the answer, which must come at once.
+    Add("send", [this](Words& words) {
+        const auto message = static_cast<UINT>(words.Number());
+        const auto parameter = static_cast<WPARAM>(words.Number());
+        DWORD_PTR answer = 0;
+        SendMessageTimeoutW(program->Clock(), message, parameter, 0, SMTO_NORMAL, 1000, &answer);
+        if (static_cast<int>(answer) != words.Number()) Fail("another answer");
     });
     Add("lock", [this](Words& words) {
         const std::wstring path = folder.Path() + Wide(words.Take());

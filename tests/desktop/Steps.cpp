@@ -156,6 +156,7 @@ Steps::Steps() {
 
 Steps::~Steps() {
     program.reset();
+    other.reset();
     try {
         if (!linesAtEnd.empty()) RunShell(linesAtEnd);
     } catch (const std::exception& error) {
@@ -192,7 +193,7 @@ void Steps::Launch(const std::wstring& installed) {
     program.reset();
     const std::wstring copy = folder.Path() + L"torvanix.exe";
     if (installed.empty()) CopyFileW((BuildFolder() + L"torvanix.exe").c_str(), copy.c_str(), FALSE);
-    program.emplace(installed.empty() ? copy : installed);
+    program = std::make_unique<ProgramRun>(installed.empty() ? copy : installed);
     const auto ready = [&] {
         const HWND clock = program->FindWindowNow(L"frmClock");
         if (program->Message()) return true;
@@ -246,6 +247,20 @@ std::string Steps::ValueOf(const std::string& name) const {
         lines += (i > 0 ? "|" : "") + Utf8(line.data());
     }
     return lines;
+}
+
+std::string Steps::State() const {
+    std::string state = Counts() + " " + ValueOf("lstMoves.W") + " / " + ValueOf("lstMoves.B");
+    for (int i = 0; i < 64; ++i)
+        state += " " + ValueOf({static_cast<char>('a' + i % 8), static_cast<char>('1' + i / 8)});
+    return state;
+}
+
+int Steps::SecondsLeft() const {
+    int left = 0;
+    for (const std::string& face : {ValueOf("lblFace.W"), ValueOf("lblFace.B")})
+        left += std::stoi(face) * 3600 + std::stoi(face.substr(3)) * 60 + std::stoi(face.substr(6));
+    return left;
 }
 
 // The move numbers, and for each side what it can do, whether it has the focus, and its marks that are shown.

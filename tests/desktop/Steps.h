@@ -4,7 +4,7 @@
 
 #include <chrono>
 #include <map>
-#include <optional>
+#include <memory>
 #include <stdexcept>
 
 // The words of a step after its first.
@@ -53,8 +53,14 @@ class Steps {
     std::string Counts() const { return ValueOf("lblMoveCount.W") + ValueOf("lblMoveCount.B"); }
     std::string Face() const;  // of the side to move
 
+    std::string State() const;  // counts, lists and board
+    int SecondsLeft() const;    // on both faces together
+
     TestFolder folder;
-    std::optional<ProgramRun> program;
+    std::unique_ptr<ProgramRun> program, other;  // that runs beside it
+    std::vector<std::string> states;             // of the game, that have been noted
+    size_t compared = 0;                         // of these
+    bool cameBack[2]{};                          // after a kill: the state before, the one after
     std::map<std::string, std::function<void(Words&)>> actions;
     UniqueFile held;
     Time::duration savingTime{};

@@ -60,7 +60,7 @@ TEST(GameCodecTest, PlayGoesOnAsIfTheGameHadNotBeenSaved) {
 }
 
 TEST(GameCodecTest, FilesThatAreMissingOrDamaged) {
-    // What was asked for or is damaged, the lists, and the piece on f3.
+    // What was asked for or is damaged, the lists, the piece on f3, and whether the files come from several saves.
     const auto loaded = [](GameFiles files, std::initializer_list<GameFile> changed,
                            const std::optional<std::string>& bytes) {
         for (const GameFile file : changed) files[file] = bytes;
@@ -68,7 +68,8 @@ TEST(GameCodecTest, FilesThatAreMissingOrDamaged) {
         game.Scorlet = Played("d2d4");
         const std::string asked = Load(files, game), text = asked + " " + ListText(game.Scorlet.Lists()) + " ";
         EXPECT_EQ(game.Clock.PlayerTime[Black], text.ends_with(" 1. d4 /  ") ? 0 : 200);
-        return text + std::string(PieceCode(game.Scorlet.Position().At(SquareNamed("f3"))));
+        return text + std::string(PieceCode(game.Scorlet.Position().At(SquareNamed("f3")))) +
+               (game.Mismatched ? " mismatched" : "");
     };
     const Recorder recorder = Played("e2e4 e7e5 g1f3");
     const std::optional<std::string> none, old = "of an earlier game", huge = std::string(5 << 20, ' ');
@@ -76,9 +77,13 @@ TEST(GameCodecTest, FilesThatAreMissingOrDamaged) {
     EXPECT_EQ(loaded(Saved(&recorder, false), {PgnFile}, old), ".bin.txt.cgn 1. e4|2. Nf3 / e5 WN");
     const GameFiles files = Saved(&recorder);
     EXPECT_EQ(loaded(files, {PgnFile}, none), ".bin.txt.cgn.pgn 1. e4|2. Nf3 / e5 WN");
-    EXPECT_EQ(loaded(files, {MovesFile}, none), ".bin.txt.cgn.pgn  /  WN");
-    EXPECT_EQ(loaded(files, {DiagramFile}, none), ".bin.txt.cgn.pgn 1. e4|2. Nf3 / e5 O");
+    EXPECT_EQ(loaded(files, {MovesFile}, none), ".bin.txt.cgn.pgn  /  WN mismatched");
+    EXPECT_EQ(loaded(files, {DiagramFile}, none), ".bin.txt.cgn.pgn 1. e4|2. Nf3 / e5 O mismatched");
     EXPECT_EQ(loaded(files, {DiagramFile, MovesFile}, none), ".bin.txt.cgn  /  O");
+    for (const auto& [moves, mismatch] : {std::pair{3, " mismatched"}, {2, ""}, {1, ""}}) {
+        const std::string other = *Saved(&recorder, true, moves)[ClockFile];
+        EXPECT_EQ(loaded(files, {ClockFile}, other), ".bin.txt.cgn.pgn 1. e4|2. Nf3 / e5 WN" + std::string(mismatch));
+    }
     EXPECT_EQ(loaded(files, {ClockFile}, none), ".bin ShortFile 0 1. d4 /  O");
     EXPECT_EQ(loaded(files, {DiagramFile}, std::string(273, ' ')), ".txt TooLong 272 1. d4 /  O");
     EXPECT_EQ(loaded(files, {DiagramFile}, ""), ".txt BrokenLine 1 1. d4 /  O");

@@ -22,6 +22,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
     bool KillWorks = true, Yes = false;
     std::function<void()> DuringSound;
     std::string Said, Kept;
+    ChosenLines Shown;  // as chosen in the lists
 
     void Say(const std::string& what) { Said += (Said.empty() ? "" : ", ") + what; }
     int32_t Set() override {
@@ -64,8 +65,12 @@ struct Around final : modClock::Timer, ClockView, RecordView {
         for (Side side : BothSides)
             if (chosen[side]) what += (side == White ? " W" : " B") + std::to_string(*chosen[side]);
         Say(what);
+        Shown = chosen;
     }
     void RecordReplaced() override { Say("new record"); }
+    void RecordTakenBack(const ChosenLines& chosen) override { RecordChanged(chosen); }
+    ChosenLines Chosen() const override { return Shown; }
+    void ShowWhoseMove() override {}
 };
 
 // "load3,2" and, of a game that is on, "load3,2on".
@@ -109,6 +114,9 @@ struct Play {
         if (word.starts_with("pause")) return Played.PauseOrResume(word == "pauseW" ? White : Black);
         if (word.starts_with("load")) return Played.TakeLoadedGame(Saved(word));
         if (word.starts_with("timer=")) Beside.Handle = std::stoi(word.substr(6));
+        if (word == "back") Played.TakeBack();
+        if (word == "redo") Played.Redo();
+        if (word == "go") Played.GoOnAtClocksMove();
         if (word == "yes") Beside.Yes = true;
         if (word == "no-kill") Beside.KillWorks = false;
         if (word == "slow-sound") Beside.DuringSound = [&] { Played.Tick(); };
@@ -117,7 +125,7 @@ struct Play {
         if (word == "up") control.PeriodLimit.fill(std::numeric_limits<int32_t>::max()), Played.Reset();
         if (word == "setup") Beside.Options.Control.PeriodLimit[White] += 60, Played.TakeSettings();
         if (word == "open") Record = &Played.OpenRecord(Beside);
-        if (word.size() == 4 && isdigit(word[1]) && isdigit(word[3])) Do(*Record, word);
+        if (word.size() == 4 && isdigit(word[1]) && isdigit(word[3])) Do(*Record, word), Played.RecordEdited();
         for (int left = isdigit(word[0]) ? std::stoi(word) : 0; left > 0; --left) {
             Beside.Said.clear();
             Played.Tick();
@@ -158,6 +166,18 @@ std::string Kept(const std::string& script) {
     Play play;
     play.SayAll(script);
     return play.Beside.Kept + (play.Played.WorthKeeping() ? "worth" : "");
+}
+
+// What is remembered of the face at the end of each move: "60 - / 58".
+std::string Times(const std::string& script) {
+    Play play;
+    play.SayAll(script);
+    std::string text;
+    for (Side side : BothSides) {
+        for (const auto& time : play.Played.TimesAtPresses()[side]) text += (time ? std::to_string(*time) : "-") + " ";
+        text += side == White ? "/ " : "";
+    }
+    return text;
 }
 
 }  // namespace
@@ -201,6 +221,22 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open W draw pause resign => lists; CPTm - 00:01:00; 1. _|[1/2-1/2] /
         Saving fills the lists up to the counts.
         open W W B top => lists W1 B0; CPTm - 00:01:00; 1. _|2. _ / 1. _ | W W top => nothing; - CPTm 00:01:00
+        Take Back and Redo, from the opening, a load or a reset on. What the clock has added stays, and the clock as it is.
+        open back redo => nothing; CP CP S 00:01:00;  / | back => nothing; CP CP S 00:01:00
+        open W e2e4 W e7e5 back => lists B0; - CPTm 00:01:00; 1. e4 / 1. _
+        open W e2e4 W back => lists W0; - CPTm 00:01:00; 1. _ / 1. _
+        open W e2e4 W back redo => lists B0; - CPTm 00:01:00; 1. e4 / 1. _
+        open W W draw back => lists W0; - Rp 00:01:00; 1. _ /
+        open W e2e4 60s back => lists W0; F - 00:00:00; 1. _|[0-1] /
+        open W W B top back => lists W0; CPTm - 00:01:00; 1. _ /
+        W 60s open e2e4 draw back back d2d4 draw e7e5 => nothing; F - 00:00:00; 1. d4 / e5|[1/2-1/2]
+        open e2e4 load3,2 back => nothing; F - 00:00:45; 1. d4 / | open e2e4 yes reset back => nothing; CP CP S 00:01:00;  /
+        open e2e4 close back redo => nothing; CP CP S 00:01:00 | open load1,0 draw back draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2]
+        Going on at the clock's move, where the record is behind.
+        open W W B go e2e4 => nothing; CPTm - 00:01:00; 1. _|2. e4 / 1. _ | go => nothing; CP CP S 00:01:00
+        open W W pause go => lists B0; - Rp 00:01:00; 1. _ / 1. _ | open W W B go back => lists W0; CPTm - 00:01:00; 1. _ /
+        open W go => nothing; CPTm - 00:01:00; 1. _ / | open W e2e4 go => nothing; CPTm - 00:01:00; 1. e4 /
+        open W W go 60s back go => nothing; - F 00:01:00; 1. _|[1-0] /
         Start, reset and setup.
         start => click, show B all; CPTm - 00:01:00 | W start => ask; CPTm - 00:01:00
         W yes start => ask, read, show W B all, click, show B all; CPTm - 00:01:00
@@ -236,11 +272,18 @@ TEST(GameTest, WhatIsKeptAndPutAside) {
         Soon after everything that changes the game, and every five seconds of a clock that runs.
         W => keep worth | W W => keep worth | W B => worth | W pause => keep worth | W pause pause => keep worth
         W 4s => worth | W 5s => keep worth | W 5s 4s => worth | W 3s pause pause 3s => worth | open W e2e4 mate => keep keep worth
-        open e2e4 edited => keep worth | open W W top => keep worth | open check => keep | timer=0 W => | pause =>
+        open e2e4 edited => keep worth | open e2e4 back => keep | open e2e4 back redo => keep worth | open W W top => keep worth | open check => keep | timer=0 W => | pause =>
         A game that would be lost is put aside, a finished one too; what nobody has begun is not.
         W yes reset => aside keep | W pause start => aside keep keep worth | W 60s reset => aside keep | reset => keep
         W load3,2on => aside keep worth | load3,2on => keep worth | open reset => keep | setup => keep
         open e2e4 close => aside keep | open W close => aside keep worth | open close => keep
+    )");
+}
+
+TEST(GameTest, TheTimesAtThePressesAreRemembered) {
+    ExpectRows(Times, R"(
+        W => / | W 5s W => 55 / | W 5s W 2s B 1s W => 55 54 / 58 | W 5s W B pause => 55 / 60 | W 5s W W => 55 / | W W load3,2on => /
+        W W yes reset => / | load3,2on pause W 1s B => - - 45 / - - 29
     )");
 }
 

@@ -57,9 +57,9 @@ inline std::string ListText(const MoveLists& lists) {
 }
 
 // Does what the words say: moves ("e2e4", "b7a8q"), the piece of a promotion ("=Q"), declarations and missing lines
-// with the clock's counts where they matter ("check", "draw2,1", "top3,3"), a fallen flag ("flagW"), the presses that
-// make a side run ("first", "pressB"), edits ("W0=Nf3"), "deleteB", a captured piece put back ("WP0@e5"), "reset".
-// Returns the lines that the last word reports, " W1 B0".
+// with the clock's counts where they matter ("check", "draw2,1", "top3,3"), going on at the clock's move ("go3,2W"), a
+// fallen flag ("flagW"), the presses that make a side run ("first", "pressB"), edits ("W0=Nf3"), "deleteB", a captured
+// piece put back ("WP0@e5"), "reset". Returns the lines that the last word reports, " W1 B0".
 inline std::string Do(Recorder& recorder, const std::string& script) {
     const std::array<std::string, 4> declarations{"check", "mate", "resign", "draw"};
     std::array<std::optional<size_t>, 2> lines;
@@ -75,6 +75,7 @@ inline std::string Do(Recorder& recorder, const std::string& script) {
         lines = {};
         if (declared != declarations.end())
             lines = recorder.Declare(static_cast<Declaration>(declared - declarations.begin()), counts);
+        if (name == "go") lines = recorder.GoOn(counts, ofLast);
         if (name == "top") lines = recorder.TopUpMoveLists(counts);
         if (word == "reset") recorder.Reset();
         if (word.starts_with("flag")) recorder.FlagFell(ofLast);

@@ -34,6 +34,14 @@ TEST(RecorderTest, Scripts) {
         top3,2 => 1. _|2. _|3. _ / 1. _|2. _; <> White at W2 B1 | e2e4 e7e5 top1,1 => 1. e4 / e5; 1. e4 <e5 > White
         top3,2 e2e4 e7e5 => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at B0 | top0,1 top0,-1 => 1. _ / 1. _; <> White
         e2e4 e7e5 resign top2,3 => 1. e4|2. _|3. _|[0-1] / e5|2. _|3. _; 1. e4 e5 0-1<> White at W2 B2
+        Going on at the clock's move passes over the lines that wait before it.
+        go3,2W e2e4 => 1. _|2. _|3. e4 / 1. _|2. _; 1. _ _ 2. _ _ <3. e4 > Black at W2
+        go3,2W e2e4 pressB e7e5 g1f3 => 1. _|2. _|3. e4|4. Nf3 / 1. _|2. _|e5; 1. _ _ 2. _ _ 3. e4 e5 <4. Nf3 > Black at W3
+        go2,2B e7e5 g1f3 => 1. _|2. _|3. Nf3 / 1. _|e5; 1. _ _ 2. _ e5 <3. Nf3 > Black at W2
+        e2e4 go3,3B c7c5 => 1. e4|2. _|3. _ / 1. _|2. _|c5; 1. e4 _ 2. _ _ 3. _ <c5 > White at B2
+        e2e4 e7e5 go3,2W => 1. e4|2. _|3. _ / e5|2. _; 1. e4 <e5 > White at W2 B1
+        go3,2W deleteW deleteW e2e4 => 1. _|2. e4 / 1. _|2. _; 1. _ _ <2. e4 > Black at W1
+        go3,2W reset e2e4 => 1. e4 / ; <1. e4 > Black at W0
         Declarations mark the last move and end the game, once.
         check mate =>  / ; <> White | e2e4 check check => 1. e4+ / ; <1. e4+ > Black
         e2e4 check mate mate => 1. e4#|[1-0] / ; 1. e4# 1-0<> Black | flagW => [0-1] / ; 0-1<> White

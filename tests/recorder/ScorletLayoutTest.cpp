@@ -1,36 +1,63 @@
 #include "recorder/ScorletLayout.h"
 
 #include "tests/base/Boxes.h"
+#include "tests/base/Rows.h"
 
 namespace {
 
-// Where everything is in a window: the corners of the board, all parts, and single lengths.
-std::string Places(int width, int height, int dpi) {
-    SCOPED_TRACE(testing::Message() << width << " x " << height << ", " << dpi << " dpi");
-    const ScorletLayout layout = LayOutScorlet(width, height, dpi);
-    const auto& [queen, rook, bishop, knight] = layout.Promotion;
-    EXPECT_LE(layout.Slot * 15, layout.Board.Width);
-    return ExpectApartInside({layout.Cell(1, 8), layout.Cell(8, 1)}, layout.Board) + "; " +
-           ExpectApartInside(
-               {layout.Board, layout.CapturedTitle, layout.CapturedRows[White], layout.CapturedRows[Black],
-                layout.SayLabel, layout.Say, layout.Lists[White], layout.Lists[Black], layout.Edit, layout.EditOk,
-                layout.PromotionTitle, queen, rook, bishop, knight},
-               {0, 0, width, height}) +
-           "; " + std::to_string(layout.Edge) + " " + std::to_string(layout.Slot) + " " +
-           std::to_string(layout.CoordinateType);
+// "width height dpi": where the lists are, the sides of a square and of a captured piece, the type, and how much of the
+// window is empty. The places of what is hidden most of the time count as empty.
+std::string Measures(const std::string& window) {
+    const std::vector<std::string> words = Words(window);
+    const int width = std::stoi(words.at(0)), height = std::stoi(words.at(1)), dpi = std::stoi(words.at(2));
+    SCOPED_TRACE(window);
+    const ScorletLayout layout = LayOutScorlet(width, height, dpi, false);
+    const std::vector<Box> shown{layout.Board,
+                                 layout.CapturedTitle,
+                                 layout.CapturedRows[White],
+                                 layout.CapturedRows[Black],
+                                 layout.SayLabel,
+                                 layout.Say,
+                                 layout.WhoseMove,
+                                 layout.ListHeads[White],
+                                 layout.Lists[White],
+                                 layout.ListHeads[Black],
+                                 layout.Lists[Black]};
+    std::vector<Box> all = shown;
+    all.insert(all.end(), {layout.Edit, layout.EditOk, layout.PromotionTitle});
+    all.insert(all.end(), layout.Promotion.begin(), layout.Promotion.end());
+    ExpectApartInside(all, {0, 0, width, height});
+    ExpectApartInside({layout.Cell(1, 8), layout.Cell(8, 1)}, layout.Board);
+    for (Side side : BothSides)
+        ExpectApartInside({layout.Captured(side, 0), layout.Captured(side, 14)}, layout.CapturedRows[side]);
+    EXPECT_GE(2 * layout.Slot, layout.CellSize);
+    for (const bool turned : {false, true}) {
+        const ScorletLayout board = LayOutScorlet(width, height, dpi, turned);
+        for (const Square square : {SquareAt(1, 8), SquareAt(8, 8), SquareAt(5, 2)}) {
+            const Box cell = board.Cell(FileOf(square), RankOf(square));
+            EXPECT_EQ(board.SquareAt(cell.Left, cell.Top), square) << turned;
+            EXPECT_EQ(board.SquareAt(cell.Right() - 1, cell.Bottom() - 1), square) << turned;
+        }
+        EXPECT_EQ(board.Cell(8, 1).Left < board.Cell(1, 1).Left && board.Cell(8, 1).Top < board.Cell(8, 8).Top, turned);
+        for (const int x : {board.Board.Left, board.Board.Right()})
+            EXPECT_EQ(board.SquareAt(x, board.Board.Top), NoSquare) << turned;
+    }
+    int empty = width * height;
+    for (const Box& box : shown) empty -= box.Width * box.Height;
+    return std::string(layout.Lists[White].Top > layout.Board.Bottom() ? "below " : "beside ") +
+           std::to_string(layout.CellSize) + " " + std::to_string(layout.Slot) + " " + std::to_string(layout.Type) +
+           " " + std::to_string(100 * empty / (width * height)) + "%";
 }
 
 }  // namespace
 
-TEST(ScorletLayoutTest, NothingOverlapsOrLeavesTheWindowAtAnySize) {
-    Places(ScorletLeastWidth, ScorletLeastHeight, 96);
-    Places(1600, ScorletLeastHeight, 96);
-    const std::string narrow = Places(ScorletLeastWidth, 1200, 96);
-    EXPECT_TRUE(narrow.starts_with("28:10 29x29") && narrow.ends_with(" 45x45; 18 16 12")) << narrow;
-    Places(ScorletWidth * 2, ScorletHeight * 2, 192);
-    // As it was drawn.
-    EXPECT_EQ(Places(ScorletWidth, ScorletHeight, 96),
-              "28:10 57x57, 427:409 57x57; 10:10 474x474, 10:494 474x20, 10:514 474x26, 10:540 474x26, 494:10 "
-              "70x24, 568:10 142x24, 494:44 105x432, 605:44 105x432, 494:482 146x24, 646:482 64x24, 494:512 "
-              "216x20, 494:532 48x48, 548:532 48x48, 602:532 48x48, 656:532 48x48; 18 26 12");
+TEST(ScorletLayoutTest, TheBoardTakesTheRoomInEitherForm) {
+    ExpectRows(Measures, R"(
+        As it was drawn, larger, and at other resolutions.
+        720 590 96 => beside 57 31 13 13% | 1080 885 144 => beside 86 47 20 13% | 1440 1180 192 => beside 115 63 26 12%
+        1440 1180 96 => beside 115 63 26 12% | 1600 1000 96 => beside 99 53 22 13% | 640 730 96 => beside 47 26 13 31%
+        Low, narrow and small.
+        1600 420 96 => beside 39 22 13 23% | 500 730 96 => below 48 26 13 26% | 360 730 96 => below 40 22 13 18%
+        360 1200 96 => below 40 22 13 13% | 360 420 96 => below 14 8 13 50% | 720 840 192 => below 29 16 26 50%
+    )");
 }

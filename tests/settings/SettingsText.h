@@ -20,7 +20,8 @@ inline Settings Unusual() {
     return settings;
 }
 
-// All settings: the names, the times, the options that are on, the type and its moves, the sounds, the language.
+// All settings: the names, the times, the options that are on, the type and its moves, the sounds, the language, and
+// whether the board is turned.
 inline std::string SettingsText(const Settings& settings) {
     std::ostringstream text;
     const auto& control = settings.Control;
@@ -32,7 +33,7 @@ inline std::string SettingsText(const Settings& settings) {
         {settings.ShowMoveNumber, " number"}, {settings.OpenScorletAtStart, " open"},   {settings.WritePgn, " pgn"}};
     for (const auto& [on, name] : options) text << (on ? name : "");
     text << ' ' << settings.ClockType << ':' << control.MovesFirstPeriod << ' ' << settings.ButtonSoundName << ' '
-         << settings.FlagSoundName << ' ' << settings.LanguageIndex;
+         << settings.FlagSoundName << ' ' << settings.LanguageIndex << (settings.BoardTurned ? " turned" : "");
     return text.str();
 }
 

@@ -55,7 +55,8 @@ TEST(TextIdsTest, AccessKeysAreTakenOnceInEachMenu) {
          TextId::MenuExit},
         {TextId::MenuReset, TextId::MenuPause, TextId::MenuSetup},
         {TextId::MenuReset, TextId::MenuResume, TextId::MenuSetup},
-        {TextId::MenuShow, TextId::MenuClose, TextId::MenuPrint},
+        {TextId::MenuShow, TextId::MenuClose, TextId::MenuPrint, TextId::MenuCopyGame, TextId::MenuCopyPosition,
+         TextId::MenuExportPgn},
         {TextId::MenuContents, TextId::MenuAbout},
         {TextId::EditMove, TextId::PrintMoveList, TextId::DeleteLastMove},
     };
