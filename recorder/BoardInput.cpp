@@ -79,14 +79,14 @@ void BoardInput::EndDrag() {
 void BoardInput::PickNextCaptured() {
     const std::optional<TraySlot> before = captured;
     Cancel();
-    bool behind = !before;
+    bool after = !before;
     for (int number = 0; number < 2 * SlotsPerSide; ++number) {
         const TraySlot next = SlotOf(number);
-        if (behind && recorder.Position().CapturedShown(next.Captured, next.Slot)) {
+        if (after && recorder.Position().CapturedShown(next.Captured, next.Slot)) {
             captured = next;
             return;
         }
-        behind = behind || next == before;
+        after = after || next == before;
     }
 }
 

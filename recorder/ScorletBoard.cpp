@@ -1,6 +1,7 @@
 #include "recorder/ScorletBoard.h"
 
 #include "platform/Ansi.h"
+#include "platform/Subclass.h"
 
 #include <commctrl.h>
 
@@ -21,11 +22,11 @@ void MoveTo(HWND control, const Box& box) {
 
 }  // namespace
 
-void ScorletBoard::Create() const {
+void ScorletBoard::Create() {
     constexpr DWORD drawn = WS_VISIBLE | SS_OWNERDRAW | WS_CLIPSIBLINGS;
     // The cells lie above the board, so they come before it.
     ForEachSquare([&](Square square) { form.AddControl(WC_STATICW, CellOf(square), drawn); });
-    form.AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP);
+    Subclass<Procedure>(form.AddControl(WC_STATICW, picBoard, drawn | WS_TABSTOP), this);
 }
 
 void ScorletBoard::CreateCaptured() const {
@@ -94,4 +95,32 @@ void ScorletBoard::Draw(const DRAWITEMSTRUCT& item) const {
         look.Cursor = look.Cursor && GetFocus() == form.Control(picBoard);
         painter.DrawCell(item, square, look);
     }
+}
+
+LRESULT CALLBACK ScorletBoard::Procedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR self) {
+    const auto& board = *reinterpret_cast<const ScorletBoard*>(self);
+    switch (message) {
+        case WM_GETDLGCODE: {
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const bool own =
+                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
+            return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_KEYDOWN:
+            // A held arrow moves on; a held Enter must not pick and drop in turns.
+            if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
+            if (SendMessageW(board.form.Window(), WM_BOARDKEY, wParam, 0)) return 0;
+            break;
+        case WM_CHAR:
+            if (SendMessageW(board.form.Window(), WM_BOARDCHARACTER, wParam, 0)) return 0;
+            break;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            // The cursor is shown only while its keys work.
+            InvalidateRect(board.form.Control(CellOf(board.input.Cursor())), nullptr, FALSE);
+            break;
+        default: break;
+    }
+    return DefSubclassProc(control, message, wParam, lParam);
 }

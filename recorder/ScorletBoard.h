@@ -13,7 +13,8 @@ constexpr bool IsCell(int id) { return id > picBoard && id < picBoard + SquareIn
 constexpr bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCapturedWQ + 2 * CapturedSlots; }
 
 // The board and the captured pieces as the Scorlet shows them, with a control for each square and for each piece that
-// can be captured.
+// can be captured. Keys of the board go to the form's window as WM_BOARDKEY and WM_BOARDCHARACTER, which answer whether
+// they have been taken.
 class ScorletBoard {
   public:
     // All must outlive the board.
@@ -21,7 +22,7 @@ class ScorletBoard {
         : form(form), recorder(recorder), input(input), painter(painter) {}
 
     // The squares and what is around them, then the captured pieces.
-    void Create() const;
+    void Create();
     void CreateCaptured() const;
     void Place(const ScorletLayout& layout);
     // Draws what has changed anew, and nothing else.
@@ -38,6 +39,9 @@ class ScorletBoard {
     };
 
     void ShowCaptured();
+
+    static LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR self);
 
     Form& form;
     const Recorder& recorder;

@@ -2,7 +2,6 @@
 
 #include "platform/Ansi.h"
 #include "platform/Dpi.h"
-#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "recorder/ListMenu.h"
 #include "recorder/MatchedMoves.h"
@@ -73,7 +72,6 @@ void frmScorlet::CreateControls() {
     lists.Create();
     field.Create(WM_ENDEDIT);
     picker.Create();
-    Subclass<BoardProcedure>(Control(picBoard), this);
 }
 
 void frmScorlet::ApplyTexts() {
@@ -401,11 +399,11 @@ void frmScorlet::EndEdit(bool accept) {
     ChosenLine line = edited->Line;
     const bool wasResult = edited->Entry.IsResult();
     edited.reset();
-    // A result moves behind new lines, and goes when play goes on; moves stay where they are.
+    // A result moves to the end when lines are added, and goes when play goes on; moves stay where they are.
     const MoveList& list = recorder.List(line.List);
     if (wasResult && list.EndsWithResult()) line.Index = list.Entries().size() - 1;
-    const bool stands = line.Index < list.Entries().size() && list.Entries()[line.Index].IsResult() == wasResult;
-    if (accept && stands) recorder.Edit(line.List, line.Index, ToAnsi(field.Text()));
+    const bool unchanged = line.Index < list.Entries().size() && list.Entries()[line.Index].IsResult() == wasResult;
+    if (accept && unchanged) recorder.Edit(line.List, line.Index, ToAnsi(field.Text()));
     field.Hide();
     ShowEdit(line);
     SetFocus(Control(picBoard));
@@ -471,32 +469,4 @@ void frmScorlet::OnGetMinMaxInfo(MINMAXINFO& info) const {
     RECT area{0, 0, Scaled(ScorletLeastWidth, Dpi()), Scaled(ScorletLeastHeight, Dpi())};
     AdjustWindowRectEx(&area, Style, FALSE, 0);
     info.ptMinTrackSize = {area.right - area.left, area.bottom - area.top};
-}
-
-LRESULT CALLBACK frmScorlet::BoardProcedure(HWND board, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                            DWORD_PTR self) {
-    const auto* form = reinterpret_cast<const frmScorlet*>(self);
-    switch (message) {
-        case WM_GETDLGCODE: {
-            const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const bool own =
-                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
-            return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
-        }
-        case WM_KEYDOWN:
-            // A held arrow moves on; a held Enter must not pick and drop in turns.
-            if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
-            if (SendMessageW(form->Window(), WM_BOARDKEY, wParam, 0)) return 0;
-            break;
-        case WM_CHAR:
-            if (SendMessageW(form->Window(), WM_BOARDCHARACTER, wParam, 0)) return 0;
-            break;
-        case WM_SETFOCUS:
-        case WM_KILLFOCUS:
-            // The cursor is shown only while its keys work.
-            InvalidateRect(form->Control(CellOf(form->input.Cursor())), nullptr, FALSE);
-            break;
-        default: break;
-    }
-    return DefSubclassProc(board, message, wParam, lParam);
 }

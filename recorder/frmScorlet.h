@@ -75,9 +75,6 @@ class frmScorlet : public Form, private RecordView {
     int ChildAt(POINT point) const;
     bool Editing() const { return edited.has_value(); }
 
-    static LRESULT CALLBACK BoardProcedure(HWND board, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                           DWORD_PTR self);
-
     ScorletGame& game;
     Recorder& recorder;
     const HWND shell;

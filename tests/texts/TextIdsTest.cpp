@@ -55,10 +55,11 @@ TEST(TextIdsTest, AccessKeysAreTakenOnceInEachMenu) {
          TextId::MenuExit},
         {TextId::MenuReset, TextId::MenuPause, TextId::MenuSetup},
         {TextId::MenuReset, TextId::MenuResume, TextId::MenuSetup},
-        {TextId::MenuShow, TextId::MenuClose, TextId::MenuPrint, TextId::MenuCopyGame, TextId::MenuCopyPosition,
-         TextId::MenuExportPgn},
+        {TextId::MenuShow, TextId::MenuClose, TextId::MenuPrint, TextId::MenuTakeBack, TextId::MenuRedo,
+         TextId::MenuGoOn, TextId::MenuCopyGame, TextId::MenuCopyPosition, TextId::MenuExportPgn,
+         TextId::MenuTurnBoard},
         {TextId::MenuContents, TextId::MenuAbout},
-        {TextId::EditMove, TextId::PrintMoveList, TextId::DeleteLastMove},
+        {TextId::EditMove, TextId::PrintMoveList, TextId::DeleteLastMove, TextId::MenuTakeBack, TextId::MenuRedo},
     };
     for (const std::vector<TextId>& menu : menus) {
         for (size_t language = 0; language < 3; ++language) {
