@@ -136,13 +136,13 @@ void Game::TakeStep() { history.Changed(*record, recordView->Chosen()); }
 
 void Game::TakeBack() {
     if (!CanTakeBack()) return;
-    recordView->RecordTakenBack(history.TakeBack(*record, recordView->Chosen()));
+    recordView->RecordStepped(history.TakeBack(*record, recordView->Chosen()));
     Changed();
 }
 
 void Game::Redo() {
     if (!CanRedo()) return;
-    recordView->RecordTakenBack(history.Redo(*record, recordView->Chosen()));
+    recordView->RecordStepped(history.Redo(*record, recordView->Chosen()));
     Changed();
 }
 

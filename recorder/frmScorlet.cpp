@@ -149,7 +149,7 @@ void frmScorlet::RecordReplaced() {
     ShowRecord();
 }
 
-void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
+void frmScorlet::RecordStepped(const ChosenLines& chosen) {
     EndEdit(false);
     EndTyping(false);
     input.Cancel();

@@ -42,7 +42,7 @@ class frmScorlet : public Form, private RecordView {
     std::wstring SpokenPart(int id, int part) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
-    void RecordTakenBack(const ChosenLines& chosen) override;
+    void RecordStepped(const ChosenLines& chosen) override;
     ChosenLines Chosen() const override { return lists.Chosen(); }
     void ShowWhoseMove() override { whoseMove.Show(captions, game.NextMove()); }
 

@@ -68,7 +68,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
         Shown = chosen;
     }
     void RecordReplaced() override { Say("new record"); }
-    void RecordTakenBack(const ChosenLines& chosen) override { RecordChanged(chosen); }
+    void RecordStepped(const ChosenLines& chosen) override { RecordChanged(chosen); }
     ChosenLines Chosen() const override { return Shown; }
     void ShowWhoseMove() override {}
 };
