@@ -82,7 +82,7 @@ void Game::Reset() {
 
 void Game::TakeSettings() {
     clock.Initialise(settings.Control);
-    shown = {};
+    timesAtPresses = {};
     ShowWhole();
     if (record) recordView->RecordChanged({});
     Changed();
@@ -96,6 +96,7 @@ void Game::TurnBoard() {
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
     record.emplace();
+    timesAtPresses = {};
     KeepResultIfFallen(*record);
     history.Begin(*record);
     return *record;
@@ -161,7 +162,7 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
     settings = saved.Options;
     settings.BoardTurned = turned;
     clock.TakeLoadedGame(saved.Clock);
-    shown = {};
+    timesAtPresses = {};
     ShowWhole();
     Recorder loaded = saved.Scorlet;
     KeepResultIfFallen(loaded);
@@ -189,11 +190,15 @@ void Game::Show(ClockEvent event, ClockChange change) {
     }
 }
 
+// The press has ended the line that the record has written last, or the one that its next move goes into.
 void Game::RememberTime(Side side) {
+    if (!record || record->HasResult()) return;
+    const int64_t behind = NextMove().Behind;
+    if (behind != 0 && behind != 1) return;
     const modClock::ClockState& state = clock.Clock().State();
-    const auto moves = static_cast<size_t>(state.MoveCount[side]);
-    shown[side].resize(moves);
-    if (moves > 0) shown[side].back() = state.PlayerTime[side];
+    auto& times = timesAtPresses[side];
+    times.resize(static_cast<size_t>(state.MoveCount[side]));
+    if (!times.empty()) times.back() = state.PlayerTime[side];
 }
 
 WhoseMove Game::NextMove() const {

@@ -168,16 +168,16 @@ std::string Kept(const std::string& script) {
     return play.Beside.Kept + (play.Played.WorthKeeping() ? "worth" : "");
 }
 
-// What is remembered of the face at the end of each move: "60 - / 58".
-std::string Times(const std::string& script) {
+// The moves as they are exported, with the face at the end of each: "1. e4 (55) e5".
+std::string Exported(const std::string& script) {
     Play play;
     play.SayAll(script);
-    std::string text;
-    for (Side side : BothSides) {
-        for (const auto& time : play.Played.TimesAtPresses()[side]) text += (time ? std::to_string(*time) : "-") + " ";
-        text += side == White ? "/ " : "";
-    }
-    return text;
+    const Recorder& record = *play.Played.Record();
+    const std::string text =
+        ExportGame({}, ReadGame(record.Lists(), record.Position()), "*", play.Played.TimesAtPresses());
+    std::string moves;
+    for (const std::string& word : Words(text.substr(text.find("\n\n")))) moves += word + " ";
+    return moves;
 }
 
 }  // namespace
@@ -280,10 +280,14 @@ TEST(GameTest, WhatIsKeptAndPutAside) {
     )");
 }
 
-TEST(GameTest, TheTimesAtThePressesAreRemembered) {
-    ExpectRows(Times, R"(
-        W => / | W 5s W => 55 / | W 5s W 2s B 1s W => 55 54 / 58 | W 5s W B pause => 55 / 60 | W 5s W W => 55 / | W W load3,2on => /
-        W W yes reset => / | load3,2on pause W 1s B => - - 45 / - - 29
+TEST(GameTest, TheTimesAtThePressesAreExportedWithTheMovesThatTheyEnded) {
+    ExpectRows(Exported, R"(
+        A move may be entered before its press or after it, and taken back.
+        open W e2e4 5s W e7e5 => X | open e2e4 W 5s W 2s e7e5 B => X | open W 5s W e2e4 2s B e7e5 pause g1f3 => X
+        open W e2e4 5s W back d2d4 => X | open W e2e4 5s W e7e5 B mate 3s pause W b8c6 => X
+        A pad that is not where the clock is has no times until it is: moves before the first press, or a pad that was opened late.
+        open e2e4 e7e5 W g1f3 5s W b8c6 B => X | W 5s W 2s B open e2e4 e7e5 g1f3 4s W => X
+        W W B open e2e4 5s W e7e5 B => X | open W e2e4 5s W close open e2e4 => X | open W e2e4 5s W load3,2on => X
     )");
 }
 
