@@ -76,6 +76,7 @@ bool Game::PauseIfRunning() {
 void Game::Reset() {
     LeaveGame();
     ReplaceRecord({});
+    begunEarlier = false;
     clockView->ReadSettings();
     TakeSettings();
 }
@@ -167,6 +168,7 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
     Recorder loaded = saved.Scorlet;
     KeepResultIfFallen(loaded);
     ReplaceRecord(loaded);
+    begunEarlier = WorthKeeping();
     Changed();
 }
 

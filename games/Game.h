@@ -54,6 +54,9 @@ class Game final : public ScorletGame {
     // that the record is further from than one move ends none of its lines.
     const ShownTimes& TimesAtPresses() const { return timesAtPresses; }
 
+    // Whether the game was begun before it was loaded or brought back: the day is not known then.
+    bool BegunEarlier() const { return begunEarlier; }
+
     void Press(Side button);
     void PressEnabledButton() override;  // White's where a flag has fallen: the players are told then
     void Start();
@@ -119,4 +122,5 @@ class Game final : public ScorletGame {
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
     ShownTimes timesAtPresses;
+    bool begunEarlier = false;
 };
