@@ -23,14 +23,15 @@ void Game::Press(Side button) {
     change.Faces[Other(running)] = true;
     Show(event, change);
     if (event != ClockEvent::Changed || !record) return;
+    ChosenLines chosen;
     if (const auto line = record->AddLineForPress(before == Phase::Idle, running)) {
-        ChosenLines chosen;
         chosen[line->List] = line->Index;
         ClockAdditions added;
         added.Lines[line->List] = line->Index + 1;
         history.ClockAdded(*record, added);
-        recordView->RecordChanged(chosen);
     }
+    // Without a new line too: the last one comes into sight.
+    recordView->RecordChanged(chosen);
 }
 
 void Game::PressEnabledButton() {

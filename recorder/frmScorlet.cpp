@@ -329,7 +329,7 @@ void frmScorlet::EndTyping(bool enter) {
         input.Cancel();
         const ChosenLine line = recorder.Play(match->Played.Origin, match->Played.Destination);
         if (match->Promotion != PieceKind::None) recorder.Promote(match->Promotion);
-        ShowEdit(line);
+        ShowEntered(line, false);
     }
     // Before it is hidden: a window that is hidden gives the focus to its form.
     if (GetFocus() == Control(txtTypedMove)) SetFocus(Control(picBoard));
