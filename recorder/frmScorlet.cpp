@@ -313,6 +313,7 @@ void frmScorlet::Promote(PieceKind kind) {
 bool frmScorlet::OnBoardCharacter(wchar_t character) {
     if (const auto kind = picker.OnCharacter(character)) {
         Promote(*kind);
+        TellSpokenName(picBoard);
     } else if (character < 128 && BeginsMove(static_cast<char>(character))) {
         typing.Show(character);
     } else {
