@@ -145,6 +145,7 @@ void frmScorlet::RecordReplaced() {
     EndEdit(false);
     EndTyping(false);
     input.Reset();
+    picker.Reset();
     lists.ChooseNone();
     ShowRecord();
 }
@@ -160,6 +161,7 @@ void frmScorlet::RecordStepped(const ChosenLines& chosen) {
 
 void frmScorlet::ShowBoard() {
     board.Show();
+    picker.ShowMark();
     mouse.Follow();
 }
 

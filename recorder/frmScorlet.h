@@ -92,7 +92,7 @@ class frmScorlet : public Form, private RecordView {
     std::optional<Edited> edited;
     Side menuList = White;
     ScorletPainter painter;
-    PromotionPicker picker{*this, recorder, painter};
+    PromotionPicker picker{*this, recorder, input, painter};
     ScorletLayout layout{};
     ScorletBoard board{*this, recorder, input, painter};
     BoardMouse mouse{*this, input, painter, layout};
