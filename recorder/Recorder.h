@@ -97,7 +97,8 @@ class Recorder {
     // the flag.
     void Take(const ClockAdditions& added);
 
-    // Corrects a typed text and writes it into an entry. The position does not change: the board keeps no history.
+    // Corrects a typed text and writes it into an entry. The position does not change: the moves after it
+    // might no longer be possible.
     void Edit(Side side, size_t index, std::string_view typed);
 
     // Removes the last entry of a list, which must not be empty. Nothing else changes except the game's text.
