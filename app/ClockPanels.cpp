@@ -6,13 +6,27 @@
 #include "resources/resource.h"
 #include "settings/ShownName.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
 constexpr int HandImageSize = 256;
 
 static_assert(cmdClock % 2 == 0, "pairs of controls begin at even numbers");
+
+// Sets the text of a drawn control straight where it is kept: whether the control takes a new text for a reason to be
+// drawn is its own affair.
+void SetDrawnText(HWND control, const std::wstring& text) {
+    DefWindowProcW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::wstring DrawnText(HWND control) {
+    std::array<wchar_t, 64> text{};
+    const int length = GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
+    return {text.data(), static_cast<size_t>(length)};
+}
 
 }  // namespace
 
@@ -30,20 +44,20 @@ void ClockPanels::Create() {
         };
         // The order is the reading and the tab order; a label comes before what it names.
         const auto addMark = [&](int mark) { form.AddControl(WC_STATICW, TurnMark(side, mark), SS_OWNERDRAW); };
-        addMark(0);
-        add(WC_STATICW, lblSide, text);
-        add(WC_STATICW, lblBlink, text | SS_RIGHT);
         addMark(1);
-        add(WC_STATICW, lblFace, drawn);
-        addMark(2);
         add(WC_STATICW, imgFlagUp, drawn);
         add(WC_STATICW, imgFlagDown, SS_OWNERDRAW);
+        add(WC_STATICW, lblSide, text);
+        addMark(0);
+        add(WC_STATICW, lblBlink, drawn);
+        add(WC_STATICW, lblFace, drawn);
         add(WC_STATICW, imgHand, drawn);
         add(WC_BUTTONW, cmdClock, WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW);
         add(WC_BUTTONW, cmdPause, WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW);
         add(WC_STATICW, lblMoveNumber, text);
         add(WC_STATICW, lblMoveCount, text);
         for (int pair : {lblPeriod, lblPeriodTime, lblBonus, lblBonusTime}) add(WC_STATICW, pair, text | SS_RIGHT);
+        addMark(2);
     }
     toolTips.Create();
 }
@@ -101,14 +115,18 @@ void ClockPanels::ArrangePanel(Side side) {
     place(imgHand, panel.Hand);
     place(cmdClock, panel.ClockButton, painter.ButtonFont());
     place(cmdPause, panel.PauseButton, painter.PauseFont());
-    place(lblMoveNumber, panel.MoveNumber, painter.TextFont());
-    place(lblMoveCount, panel.MoveCount, painter.TextFont());
+    // The number follows its caption, which is shorter in some languages.
+    Box caption = panel.MoveNumber, count = panel.MoveCount;
+    caption.Width = std::min(caption.Width, painter.TextWidth(texts(TextId::MoveNumber)) + layout.TextType / 4);
+    count.Left = caption.Right();
+    place(lblMoveNumber, caption, painter.TextFont());
+    place(lblMoveCount, count, painter.TextFont());
     place(lblPeriod, panel.Period, painter.TextFont());
     place(lblPeriodTime, panel.PeriodTime, painter.TextFont());
     place(lblBonus, panel.Bonus, painter.TextFont());
     place(lblBonusTime, panel.BonusTime, painter.TextFont());
     for (int mark = 0; mark < TurnMarksPerSide; ++mark)
-        move(TurnMark(side, mark), panel.TurnMarks[static_cast<size_t>(mark)]);
+        move(TurnMark(side, mark), panel.TurnMarks()[static_cast<size_t>(mark)]);
 
     const auto tip = [&](int pair, const Box& box, TextId row) {
         toolTips.SetArea(ControlOf(pair, side), {box.Left, box.Top, box.Right(), box.Bottom()}, texts(row));
@@ -150,10 +168,14 @@ void ClockPanels::ShowSettings() {
 
 void ClockPanels::ShowFace(Side side) {
     const HWND face = form.Control(ControlOf(lblFace, side));
-    // Straight to where the text is kept: whether a control that its owner draws takes a new text for a reason to be
-    // drawn is its own affair. It is drawn once and at once, before the many other controls that a press changes.
-    DefWindowProcW(face, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(FromAnsi(commands.Clock().Face(side)).c_str()));
-    RedrawWindow(face, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    const std::wstring before = DrawnText(face), text = FromAnsi(commands.Clock().Face(side));
+    if (text == before) return;
+    SetDrawnText(face, text);
+    if (!IsWindowVisible(face)) return;
+    // Drawn once and at once, before the many other controls that a press changes, and no more of it than the digits
+    // that are new.
+    const RECT changed = painter.ChangedPart(before, text);
+    RedrawWindow(face, &changed, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
 void ClockPanels::ShowPhase() {
@@ -165,23 +187,29 @@ void ClockPanels::ShowPhase() {
         form.SetText(ControlOf(cmdPause, side), texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
         form.SetEnabled(ControlOf(cmdClock, side), commands.ClockButtonEnabled(side));
         form.SetEnabled(ControlOf(cmdPause, side), commands.PauseButtonEnabled(side));
-        form.SetText(ControlOf(lblBlink, side), L"");
+        SetDrawnText(form.Control(ControlOf(lblBlink, side)), L"");
         const int32_t moves = commands.Clock().State().MoveCount[side];
         form.SetText(ControlOf(lblMoveCount, side), std::to_wstring(moves) + L".");
         // What says nothing should not be there for a screen reader.
         form.SetVisible(ControlOf(lblBlink, side), commands.BlinkingSide() == side);
     }
     Blink();
+    for (Side side : BothSides) {
+        if (std::exchange(shown[side], commands.LookOf(side)) == commands.LookOf(side)) continue;
+        const Box& panel = layout.Panels[side].Panel;
+        const RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
+        RedrawWindow(form.Window(), &area, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    }
     // At once: what follows may take time, the flag's sound for example.
-    RedrawWindow(form.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    RedrawWindow(form.Window(), nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 void ClockPanels::Blink() {
     const auto side = commands.BlinkingSide();
     if (!side) return;
-    const int id = ControlOf(lblBlink, *side);
-    const bool empty = GetWindowTextLengthW(form.Control(id)) == 0;
-    form.SetText(id, empty ? texts(BlinkRow()) : L"");
+    const HWND label = form.Control(ControlOf(lblBlink, *side));
+    SetDrawnText(label, GetWindowTextLengthW(label) == 0 ? texts(BlinkRow()) : L"");
+    InvalidateRect(label, nullptr, FALSE);
 }
 
 TextId ClockPanels::BlinkRow() const {
@@ -217,34 +245,45 @@ Place ClockPanels::PlaceAt(POINT point) const {
     return child && child != form.Window() ? PlaceOf(GetDlgCtrlID(child)) : Place{};
 }
 
-void ClockPanels::Draw(const DRAWITEMSTRUCT& item) const {
+std::wstring ClockPanels::MarkWord(Side side) const {
+    const PanelLook look = commands.LookOf(side);
+    if (look == PanelLook::Paused) return texts(TextId::MarkPaused);
+    return look == PanelLook::Fallen ? texts(TextId::MarkFallen) : L"";
+}
+
+void ClockPanels::Draw(const DRAWITEMSTRUCT& item) {
     const int id = static_cast<int>(item.CtlID);
     const auto [pair, side] = PlaceOf(id);
-    const bool running = Runs(side);
-    std::array<wchar_t, 64> text{};
-    GetWindowTextW(item.hwndItem, text.data(), static_cast<int>(text.size()));
+    const PanelLook look = commands.LookOf(side);
+    const std::wstring text = DrawnText(item.hwndItem);
     switch (pair) {
-        case lblFace: return painter.DrawFace(item, side, text.data(), commands.FlagFallen(side));
-        case shpTurn: return painter.DrawTurnMark(item, id == TurnMark(side, 0));
-        case imgFlagUp: return painter.DrawPicture(item, flagUp, running);
-        case imgFlagDown: return painter.DrawPicture(item, flagDown, running);
-        case imgHand: return painter.DrawPicture(item, hand, running);
-        case cmdClock: return painter.DrawClockButton(item, text.data(), running);
-        case cmdPause: return painter.DrawPauseButton(item, text.data(), running);
+        case lblFace: return painter.DrawFace(item, side, look, text);
+        case lblBlink: return painter.DrawMarkWord(item, look, text.empty() ? MarkWord(side) : text);
+        case shpTurn: return painter.DrawTurnMark(item, side, static_cast<size_t>(id - TurnMark(side, 0)));
+        case imgFlagUp: return painter.DrawFlag(item, flagUp, false);
+        case imgFlagDown: return painter.DrawFlag(item, flagDown, true);
+        case imgHand: return painter.DrawHand(item, side, hand, commands.ClockButtonEnabled(side));
+        case cmdClock: return painter.DrawClockButton(item, side, text);
+        case cmdPause: return painter.DrawPauseButton(item, text);
         default: return;
     }
 }
 
 HBRUSH ClockPanels::Colour(HDC dc, HWND control) const {
+    const auto [pair, side] = PlaceOf(GetDlgCtrlID(control));
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, ClockPainter::Ink);
-    return painter.PanelBrush(Runs(PlaceOf(GetDlgCtrlID(control)).Panel));
+    SetTextColor(dc, pair == lblSide ? ClockPainter::NameColour(commands.LookOf(side)) : ClockPainter::LabelColour());
+    return painter.CardBrush();
 }
 
 void ClockPanels::PaintBackground() const {
     PAINTSTRUCT paint;
     const HDC dc = BeginPaint(form.Window(), &paint);
     FillRect(dc, &paint.rcPaint, painter.BackgroundBrush());
-    for (Side side : BothSides) painter.DrawPanel(dc, layout.Panels[side].Panel, Runs(side));
+    for (Side side : BothSides) {
+        const Box& panel = layout.Panels[side].Panel;
+        const RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
+        if (RectVisible(dc, &area)) painter.DrawPanel(dc, side, commands.LookOf(side), MarkWord(side));
+    }
     EndPaint(form.Window(), &paint);
 }

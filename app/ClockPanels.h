@@ -7,6 +7,8 @@
 #include "platform/ToolTips.h"
 #include "settings/Settings.h"
 
+#include <array>
+
 // The pair of controls that a number belongs to, and its side; pair 0 is none.
 struct Place {
     int Pair = 0;
@@ -54,7 +56,7 @@ class ClockPanels {
     void Relay(MSG& message) const { toolTips.Relay(message); }
 
     // Messages of the window.
-    void Draw(const DRAWITEMSTRUCT& item) const;
+    void Draw(const DRAWITEMSTRUCT& item);
     HBRUSH Colour(HDC dc, HWND control) const;
     void PaintBackground() const;
 
@@ -63,7 +65,8 @@ class ClockPanels {
     bool HasSecondPeriod(Side side) const;
     int32_t PeriodTime(Side side) const;  // that is shown under the face
     TextId BlinkRow() const;
-    bool Runs(Side side) const { return commands.TurnMarksVisible(side); }
+    // What the mark of a panel says besides the label in it.
+    std::wstring MarkWord(Side side) const;
 
     Form& form;
     const ClockCommands& commands;
@@ -71,7 +74,8 @@ class ClockPanels {
     const Texts& texts;
     ClockPainter painter;
     ClockLayout layout{};
-    RECT arranged{};  // the client area that the layout is for
+    std::array<PanelLook, 2> shown{};  // by the panels
+    RECT arranged{};                   // the client area that the layout is for
     Picture flagUp, flagDown, hand;
     ToolTips toolTips;
 };

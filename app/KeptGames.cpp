@@ -70,13 +70,14 @@ void KeptGames::TellFailure(DWORD code) {
 
 void KeptGames::BringBackLast(const Take& take) {
     Try([&] {
-        const std::optional<SavedGame> last = Read(keeper.LastPath());
+        const std::wstring path = keeper.LastPath();
+        const std::optional<SavedGame> last = Read(path);
         if (!last) return;
         // Where there is a game now, taking the other one puts it aside.
-        const bool swapped = game.WorthKeeping();
         take(*last);
         Keep();
-        if (keeper.Finish() && !swapped) keeper.ForgetLast();
+        // Not before it is kept again.
+        if (keeper.Finish()) GameKeeper::Forget(path);
     });
 }
 

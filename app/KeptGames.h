@@ -26,7 +26,7 @@ class KeptGames {
     // Tells the players, once for all, why games cannot be kept.
     void TellFailure(DWORD code);
 
-    bool HasLast() const { return keeper.HasLast(); }
+    bool HasLast() const { return !keeper.LastPath().empty(); }
     // The last game and the present one change places.
     void BringBackLast(const Take& take);
 

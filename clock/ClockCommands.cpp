@@ -8,6 +8,15 @@ Phase ClockCommands::CurrentPhase() const {
     return clock.State().GameStarted ? Phase::Paused : Phase::Idle;
 }
 
+PanelLook ClockCommands::LookOf(Side side) const {
+    switch (CurrentPhase()) {
+        case Phase::Running: return side == clock.TurnSide() ? PanelLook::Running : PanelLook::Waiting;
+        case Phase::Paused: return side == clock.TurnSide() ? PanelLook::Paused : PanelLook::Waiting;
+        case Phase::Fallen: return FlagFallen(side) ? PanelLook::Fallen : PanelLook::Resting;
+        default: return PanelLook::Resting;
+    }
+}
+
 bool ClockCommands::ClockButtonEnabled(Side side) const {
     const Phase phase = CurrentPhase();
     return phase == Phase::Idle || (phase == Phase::Running && side == clock.TurnSide());

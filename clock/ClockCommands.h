@@ -31,6 +31,15 @@ constexpr Side ButtonOfMouse(bool rightButton, bool turnClock) { return rightBut
 
 enum class BlinkMark { ToMove, Paused };
 
+// The state of a side, as its panel shows it.
+enum class PanelLook {
+    Resting,  // no game is on, or the other side's flag has fallen
+    Running,
+    Waiting,  // for the other side, running or paused
+    Paused,   // the side to move
+    Fallen,
+};
+
 // What the players can do with the clock in each phase, and what a window shows of it. No command lets an exception
 // out.
 class ClockCommands {
@@ -44,8 +53,9 @@ class ClockCommands {
     bool ClockButtonEnabled(Side side) const;
     bool PauseButtonEnabled(Side side) const;
     bool ReadsResume(Side side) const;  // the side's pause button; otherwise it reads "Pause"
-    bool TurnMarksVisible(Side side) const { return CurrentPhase() == Phase::Running && side == clock.TurnSide(); }
+    bool TurnMarksVisible(Side side) const { return LookOf(side) == PanelLook::Running; }
     bool FlagFallen(Side side) const { return fallenSide == side; }
+    PanelLook LookOf(Side side) const;
     bool SetupEnabled() const { return CurrentPhase() == Phase::Idle; }
 
     // The side whose blinking mark blinks, and what the mark shows when it is on.

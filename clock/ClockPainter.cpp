@@ -1,169 +1,328 @@
 #include "clock/ClockPainter.h"
 
+#include "platform/Look.h"
 #include "platform/Painting.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-constexpr Colour PanelColour{RGB(0xE6, 0xE6, 0xE6), COLOR_WINDOW};
-constexpr Colour RunningColour{RGB(0xFF, 0xF1, 0xC2), COLOR_WINDOW};
-constexpr Colour MarkColour{RGB(0x12, 0x8A, 0x3A), COLOR_HIGHLIGHT};
-constexpr Colour EdgeColour{RGB(0x6E, 0x6E, 0x6E), COLOR_WINDOWTEXT};
+constexpr Colour Own(uint32_t own, int system) { return {ColourOf(own), system}; }
+
+constexpr Colour CardColour = Own(Look::Card, COLOR_WINDOW), LineColour = Own(Look::Line, COLOR_WINDOWTEXT);
+constexpr Colour InkColour = Own(Look::Ink, COLOR_WINDOWTEXT), QuietColour = Own(Look::QuietInk, COLOR_WINDOWTEXT);
+
+// How a state is shown: its frame, its mark, and the word and sign on that.
+struct StateColours {
+    Colour Frame, Mark, Ink;
+};
+constexpr StateColours RunningColours{Own(Look::Running, COLOR_HIGHLIGHT), Own(Look::Running, COLOR_HIGHLIGHT),
+                                      Own(Look::RunningInk, COLOR_HIGHLIGHTTEXT)};
+constexpr StateColours PausedColours{Own(Look::Paused, COLOR_WINDOWTEXT), Own(Look::PausedMark, COLOR_WINDOWTEXT),
+                                     Own(Look::Paused, COLOR_WINDOW)};
+constexpr StateColours FallenColours{Own(Look::Fallen, COLOR_HIGHLIGHT), Own(Look::Fallen, COLOR_HIGHLIGHT),
+                                     Own(Look::FallenInk, COLOR_HIGHLIGHTTEXT)};
+
+// Null for a state that has neither frame nor mark.
+const StateColours* ColoursOf(PanelLook look) {
+    switch (look) {
+        case PanelLook::Running: return &RunningColours;
+        case PanelLook::Paused: return &PausedColours;
+        case PanelLook::Fallen: return &FallenColours;
+        default: return nullptr;
+    }
+}
 
 struct FaceColours {
-    Colour Ground, Ink, FallenInk;
+    Colour Ground, Ink;
 };
-constexpr std::array<FaceColours, 2> Faces{
-    FaceColours{{RGB(0xFF, 0xFF, 0xFF), COLOR_WINDOW},
-                {RGB(0x10, 0x10, 0x10), COLOR_WINDOWTEXT},
-                {RGB(0xC0, 0x10, 0x10), COLOR_WINDOWTEXT}},
-    FaceColours{{RGB(0x1B, 0x1B, 0x1B), COLOR_WINDOW},
-                {RGB(0xFF, 0xFF, 0xFF), COLOR_WINDOWTEXT},
-                {RGB(0xFF, 0x7A, 0x6A), COLOR_WINDOWTEXT}},
-};
-
-constexpr KeyColours MakeKey(COLORREF face, COLORREF text, COLORREF edge, int system) {
-    const COLORREF rim = RGB(GetRValue(face) * 5 / 8, GetGValue(face) * 5 / 8, GetBValue(face) * 5 / 8);
-    return {{face, COLOR_BTNFACE}, {rim, system}, {text, system}, {edge, system}};
+FaceColours FaceOf(PanelLook look, Side side) {
+    const auto own = [side](const Look::FaceShades(&faces)[2], int ground, int ink) -> FaceColours {
+        return {Own(faces[side].Ground, ground), Own(faces[side].Ink, ink)};
+    };
+    switch (look) {
+        case PanelLook::Waiting: return own(Look::DimmedFaces, COLOR_WINDOW, COLOR_GRAYTEXT);
+        case PanelLook::Paused: return own(Look::PausedFaces, COLOR_WINDOW, COLOR_WINDOWTEXT);
+        case PanelLook::Fallen: return own(Look::FallenFaces, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT);
+        default: return own(Look::FullFaces, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    }
 }
-constexpr COLORREF KeyInk = RGB(0x14, 0x14, 0x14);
-constexpr KeyColours BrassKey = MakeKey(RGB(0xE9, 0xB4, 0x4C), KeyInk, KeyInk, COLOR_BTNTEXT);
-constexpr KeyColours PlainKey = MakeKey(RGB(0xF7, 0xF7, 0xF7), KeyInk, KeyInk, COLOR_BTNTEXT);
-constexpr KeyColours DeadKey =
-    MakeKey(RGB(0xC9, 0xC9, 0xC9), RGB(0x76, 0x76, 0x76), RGB(0x6E, 0x6E, 0x6E), COLOR_GRAYTEXT);
 
-int WidthOf(HDC dc, HFONT font, const std::wstring& text) {
+struct KeyColours {
+    Colour Top, Edge, Ink;
+};
+constexpr KeyColours BrassKey{Own(Look::Key, COLOR_BTNFACE), Own(Look::KeyEdge, COLOR_BTNTEXT),
+                              Own(Look::KeyInk, COLOR_BTNTEXT)};
+constexpr KeyColours PlainKey{Own(Look::PlainKey, COLOR_BTNFACE), Own(Look::PlainKeyEdge, COLOR_BTNTEXT),
+                              Own(Look::KeyInk, COLOR_BTNTEXT)};
+constexpr KeyColours DeadKey{Own(Look::DeadKey, COLOR_BTNFACE), Own(Look::DeadKeyEdge, COLOR_GRAYTEXT),
+                             Own(Look::DeadKeyInk, COLOR_GRAYTEXT)};
+constexpr BYTE DeadPicture = 120;  // the strength of the hand on a key that cannot be pressed
+
+RECT RectOf(const Box& box) { return {box.Left, box.Top, box.Right(), box.Bottom()}; }
+
+// A key of that size. It stands out while it can be pressed and lies flat while it cannot. Returns its top.
+RECT DrawKey(HDC dc, const Box& key, int corner, const KeyColours& colours, bool enabled) {
+    const int rise = std::max(key.Height / 14, 2), line = std::max(key.Height / 60, 1);
+    FillRounded(dc, {0, 0, key.Width, key.Height}, corner, colours.Edge);
+    const RECT top{line, line, key.Width - line, key.Height - (enabled ? rise : line)};
+    FillRounded(dc, top, corner - line, colours.Top);
+    return top;
+}
+
+void WriteCentred(HDC dc, RECT area, HFONT font, COLORREF colour, const std::wstring& text) {
     const Selection selection(dc, font);
-    SIZE size{};
-    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-    return static_cast<int>(size.cx);
+    SetTextColor(dc, colour);
+    DrawTextW(dc, text.c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+// A bar below the text of the key that has the focus.
+void DrawFocus(HDC dc, const RECT& top, COLORREF colour) {
+    const int width = static_cast<int>(top.right - top.left), height = static_cast<int>(top.bottom - top.top);
+    const int bar = std::max(height / 18, 2);
+    const LONG left = top.left + width * 5 / 12, bottom = top.bottom - height / 9;
+    FillRounded(dc, {left, bottom - bar, top.right - width * 5 / 12, bottom}, bar / 2, colour);
+}
+
+// An arrow for a clock that runs, two bars for one that is paused.
+void DrawSign(HDC dc, const RECT& area, PanelLook look, COLORREF ground, COLORREF ink) {
+    const int width = static_cast<int>(area.right - area.left), height = static_cast<int>(area.bottom - area.top);
+    if (look == PanelLook::Paused) {
+        const LONG bar = std::max(width * 3 / 10, 1);
+        Fill(dc, {area.left + width / 10, area.top, area.left + width / 10 + bar, area.bottom}, ink);
+        Fill(dc, {area.right - width / 10 - bar, area.top, area.right - width / 10, area.bottom}, ink);
+    }
+    if (look != PanelLook::Running) return;
+    // The arrow is drawn larger and shrunk, which smooths its slopes.
+    constexpr int factor = 4;
+    const UniqueDc large(CreateCompatibleDC(dc));
+    const TopDownBitmap bitmap(width * factor, height * factor);
+    const Selection bitmapSelection(large.get(), bitmap.Handle());
+    Fill(large.get(), {0, 0, width * factor, height * factor}, ground);
+    const UniqueBrush brush(CreateSolidBrush(ink));
+    const Selection brushSelection(large.get(), brush.get());
+    const Selection penSelection(large.get(), GetStockObject(NULL_PEN));
+    const std::array<POINT, 3> corners{POINT{width * factor / 10, 0}, POINT{width * factor, height * factor / 2},
+                                       POINT{width * factor / 10, height * factor}};
+    Polygon(large.get(), corners.data(), static_cast<int>(corners.size()));
+    SetStretchBltMode(dc, HALFTONE);
+    StretchBlt(dc, area.left, area.top, width, height, large.get(), 0, 0, width * factor, height * factor, SRCCOPY);
 }
 
 }  // namespace
 
 ClockPainter::ClockPainter(uint32_t background)
-    : backgroundBrush({ColourOf(background), COLOR_BTNFACE}), panelBrush(PanelColour), runningBrush(RunningColour) {}
+    : backgroundBrush(Own(background, COLOR_BTNFACE)), cardBrush(CardColour) {}
 
-void ClockPainter::SetLayout(const ClockLayout& layout) {
-    nameType = layout.NameType;
+void ClockPainter::SetLayout(const ClockLayout& newLayout) {
+    layout = newLayout;
     blinkFont = MakeFont(layout.BlinkType, true);
     buttonFont = MakeFont(layout.ButtonType, true);
     pauseFont = MakeFont(layout.PauseType, true);
     textFont = MakeFont(layout.TextType, false);
-    faceFont.reset();
+    faceType = {};
 }
 
 HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
     UniqueFont& font = nameFonts[side];
-    font = MakeFont(nameType, true);
+    font = MakeFont(layout.NameType, true);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
-    const int wanted = WidthOf(dc.get(), font.get(), name);
+    const int wanted = static_cast<int>(ExtentOf(dc.get(), font.get(), name).cx);
     // A text's width does not shrink in exact proportion to its type. Below two thirds a name is cut rather than made
     // unreadable.
-    if (wanted > width) font = MakeFont(std::max(MulDiv(nameType, width, wanted) - 1, nameType * 2 / 3), true);
+    if (wanted > width)
+        font = MakeFont(std::max(MulDiv(layout.NameType, width, wanted) - 1, layout.NameType * 2 / 3), true);
     return font.get();
 }
 
-void ClockPainter::DrawPanel(HDC dc, const Box& panel, bool running) const {
-    RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
-    FillRect(dc, &area, PanelBrush(running));
-    Frame(dc, area, running ? MarkColour : EdgeColour);
-    if (running) {
-        InflateRect(&area, -1, -1);
-        Frame(dc, area, MarkColour);
+int ClockPainter::TextWidth(const std::wstring& text) const {
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
+    return static_cast<int>(ExtentOf(dc.get(), textFont.get(), text).cx);
+}
+
+COLORREF ClockPainter::NameColour(PanelLook look) { return look == PanelLook::Waiting ? QuietColour : InkColour; }
+COLORREF ClockPainter::LabelColour() { return QuietColour; }
+
+const ClockPainter::FaceType& ClockPainter::TypeFor(const std::wstring& text) {
+    if (faceType.Characters == text.size()) return faceType;
+    const Box& face = layout.Panels[White].Face;
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
+
+    // First in a type as high as the face, which tells the type's proportions.
+    const UniqueFont trial = MakeFont(face.Height, true);
+    const Selection selection(dc.get(), trial.get());
+    const int wide = std::max(static_cast<int>(ExtentOf(dc.get(), trial.get(), text).cx), 1);
+    GLYPHMETRICS digit{};
+    constexpr MAT2 identity{{0, 1}, {0, 0}, {0, 0}, {0, 1}};
+    if (GetGlyphOutlineW(dc.get(), L'8', GGO_METRICS, &digit, 0, nullptr, &identity) == GDI_ERROR || !digit.gmBlackBoxY)
+        digit.gmBlackBoxY = static_cast<UINT>(std::max(face.Height * 7 / 10, 1));
+    const double high = digit.gmBlackBoxY;
+    const DigitSize size = FitDigits(face.Width, face.Height, wide / high);
+
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc.get(), &metrics);
+    const double own = metrics.tmAveCharWidth * size.Height / high;  // the average width of the type at that height
+    const double narrowing = size.Width / (size.Height * wide / high);
+    const double narrowest = std::ceil(own * FaceDigits::Narrowest);
+    const int average = narrowing < 0.99 ? static_cast<int>(std::max(std::round(own * narrowing), narrowest)) : 0;
+
+    FaceType type;
+    type.Characters = text.size();
+    type.Font = MakeFont(static_cast<int>(std::lround(face.Height * size.Height / high)), true, average);
+    type.Digit = static_cast<int>(ExtentOf(dc.get(), type.Font.get(), L"0").cx);
+    type.Colon = static_cast<int>(ExtentOf(dc.get(), type.Font.get(), L":").cx);
+    const auto colons = static_cast<int>(std::count(text.begin(), text.end(), L':'));
+    type.Left = (face.Width - type.Colon * colons - type.Digit * (static_cast<int>(text.size()) - colons)) / 2;
+    const int height = static_cast<int>(std::lround(size.Height)), margin = std::max(height / 30, 1);
+    type.Baseline = (face.Height + height) / 2;
+    type.Top = type.Baseline - height - margin;
+    type.Bottom = type.Baseline + margin;
+    faceType = std::move(type);
+    return faceType;
+}
+
+std::vector<RECT> ClockPainter::Cells(const std::wstring& text) {
+    const FaceType& type = TypeFor(text);
+    std::vector<RECT> cells;
+    LONG left = type.Left;
+    for (const wchar_t character : text) {
+        const LONG right = left + (character == L':' ? type.Colon : type.Digit);
+        cells.push_back({left, type.Top, right, type.Bottom});
+        left = right;
     }
+    return cells;
 }
 
-void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text, bool fallen) const {
+RECT ClockPainter::ChangedPart(const std::wstring& before, const std::wstring& after) {
+    const Box& face = layout.Panels[White].Face;
+    if (before.size() != after.size()) return {0, 0, face.Width, face.Height};
+    const std::vector<RECT> cells = Cells(after);
+    RECT changed{};
+    for (size_t i = 0; i < cells.size(); ++i) {
+        if (before[i] != after[i]) UnionRect(&changed, &changed, &cells[i]);
+    }
+    return changed;
+}
+
+void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook look, const std::wstring& text) {
+    const auto [ground, ink] = FaceOf(look, side);
+    const std::vector<RECT> cells = Cells(text);
+    const FaceType& type = TypeFor(text);
+    const auto write = [&, ink = ink, ground = ground](HDC dc) {
+        const Selection font(dc, type.Font.get());
+        SetTextAlign(dc, TA_BASELINE | TA_CENTER);
+        SetTextColor(dc, ink);
+        SetBkColor(dc, ground);
+        for (size_t i = 0; i < cells.size(); ++i) {
+            if (RectVisible(dc, &cells[i]))
+                ExtTextOutW(dc, (cells[i].left + cells[i].right) / 2, type.Baseline, ETO_OPAQUE | ETO_CLIPPED,
+                            &cells[i], &text[i], 1, nullptr);
+        }
+    };
+
+    // Only digits have changed: each is drawn in one go with its ground, straight into the window.
+    RECT asked{}, all{};
+    if (!cells.empty()) UnionRect(&all, &cells.front(), &cells.back());
+    GetClipBox(item.hDC, &asked);
+    if (UnionRect(&asked, &asked, &all) && EqualRect(&asked, &all)) {
+        const int previous = SaveDC(item.hDC);
+        write(item.hDC);
+        RestoreDC(item.hDC, previous);
+        return;
+    }
     const Buffered buffer(item);
+    Fill(buffer.Dc(), buffer.Area(), CardColour);
+    // A line around a face keeps one that is as bright as the card apart from it.
     RECT area = buffer.Area();
-    const FaceColours& colours = Faces[side];
-    Fill(buffer.Dc(), area, colours.Ground);
-    Frame(buffer.Dc(), area, EdgeColour);
-    const Selection selection(buffer.Dc(), FaceFont(buffer.Dc(), text, area.right * 94 / 100, area.bottom));
-    SetTextColor(buffer.Dc(), fallen ? colours.FallenInk : colours.Ink);
-    DrawTextW(buffer.Dc(), text.c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    const bool fallen = look == PanelLook::Fallen;
+    const int line = fallen ? std::max(static_cast<int>(area.bottom) / 30, 2) : 1;
+    FillRounded(buffer.Dc(), area, layout.FaceCorner, fallen ? FallenColours.Frame : LineColour);
+    InflateRect(&area, -line, -line);
+    FillRounded(buffer.Dc(), area, layout.FaceCorner - line / 2, ground);
+    write(buffer.Dc());
 }
 
-HFONT ClockPainter::FaceFont(HDC dc, const std::wstring& text, int width, int height) const {
-    const std::array<int, 3> wanted{static_cast<int>(text.size()), width, height};
-    if (faceFont && faceFontFor == wanted) return faceFont.get();
-    // All digits have the same width, so a font that suits this text suits every other of its length. Digits take seven
-    // tenths of the type's height, so even type that is higher than the box fits into it.
-    const int highest = height * 6 / 5;
-    UniqueFont tall = MakeFont(highest, true);
-    const int wide = WidthOf(dc, tall.get(), text);
-    faceFont = wide > width ? MakeFont(MulDiv(highest, width, wide), true) : std::move(tall);
-    faceFontFor = wanted;
-    return faceFont.get();
+void ClockPainter::DrawPanel(HDC dc, Side side, PanelLook look, const std::wstring& word) const {
+    const PanelLayout& panel = layout.Panels[side];
+    const StateColours* state = ColoursOf(look);
+    RECT area = RectOf(panel.Panel);
+    FillRounded(dc, area, layout.CardCorner, state ? state->Frame : LineColour);
+    const int frame = state ? panel.Frame : 1;
+    InflateRect(&area, -frame, -frame);
+    FillRounded(dc, area, std::max(layout.CardCorner - frame, layout.CardCorner / 3), CardColour);
+    if (!state) return;
+    FillRounded(dc, RectOf(panel.Mark), panel.Mark.Height / 2, state->Mark);
+    DrawSign(dc, RectOf(panel.Sign), look, state->Mark, state->Ink);
+    // No sign stands before the word of a flag that has fallen.
+    RECT place = RectOf(panel.Blink);
+    if (look == PanelLook::Fallen) place.left = panel.Sign.Left;
+    WriteWord(dc, place, look, word);
 }
 
-void ClockPainter::DrawTurnMark(const DRAWITEMSTRUCT& item, bool arrow) const {
+void ClockPainter::WriteWord(HDC dc, RECT area, PanelLook look, const std::wstring& word) const {
+    const StateColours* state = ColoursOf(look);
+    if (!state || word.empty()) return;
+    UniqueFont smaller;
+    const LONG wanted = ExtentOf(dc, BlinkFont(), word).cx, width = area.right - area.left;
+    if (wanted > width) smaller = MakeFont(MulDiv(layout.BlinkType, width, wanted), true);
+    SetBkMode(dc, TRANSPARENT);
+    WriteCentred(dc, area, smaller ? smaller.get() : BlinkFont(), state->Ink, word);
+}
+
+void ClockPainter::DrawMarkWord(const DRAWITEMSTRUCT& item, PanelLook look, const std::wstring& word) const {
+    const Buffered buffer(item);
+    const StateColours* state = ColoursOf(look);
+    Fill(buffer.Dc(), buffer.Area(), state ? state->Mark : CardColour);
+    WriteWord(buffer.Dc(), buffer.Area(), look, word);
+}
+
+void ClockPainter::DrawTurnMark(const DRAWITEMSTRUCT& item, Side side, size_t mark) const {
+    const Buffered buffer(item);
+    const Box place = layout.Panels[side].TurnMarks()[mark];
+    FillRect(buffer.Dc(), &item.rcItem, BackgroundBrush());
+    buffer.DrawAsPart(place.Left, place.Top);
+    DrawPanel(buffer.Dc(), side, PanelLook::Running, L"");
+}
+
+void ClockPainter::DrawFlag(const DRAWITEMSTRUCT& item, const Picture& flag, bool fallen) const {
     const Buffered buffer(item);
     const RECT area = buffer.Area();
-    if (!arrow) return Fill(buffer.Dc(), area, MarkColour);
-
-    // The arrow is drawn larger and shrunk, which smooths its slopes.
-    constexpr int factor = 4;
-    const int width = area.right * factor, height = area.bottom * factor;
-    const UniqueDc large(CreateCompatibleDC(buffer.Dc()));
-    const UniqueBitmap bitmap(CreateCompatibleBitmap(item.hDC, width, height));
-    const Selection bitmapSelection(large.get(), bitmap.get());
-    Fill(large.get(), {0, 0, width, height}, RunningColour);
-    const UniqueBrush brush(CreateSolidBrush(MarkColour));
-    const Selection brushSelection(large.get(), brush.get());
-    const Selection penSelection(large.get(), GetStockObject(NULL_PEN));
-    const std::array<POINT, 3> corners{POINT{0, 0}, POINT{width, height / 2}, POINT{0, height}};
-    Polygon(large.get(), corners.data(), static_cast<int>(corners.size()));
-    SetStretchBltMode(buffer.Dc(), HALFTONE);
-    StretchBlt(buffer.Dc(), 0, 0, area.right, area.bottom, large.get(), 0, 0, width, height, SRCCOPY);
+    Fill(buffer.Dc(), area, CardColour);
+    const int side = static_cast<int>(std::min(area.right, area.bottom)), size = fallen ? side : side * 3 / 5;
+    flag.Draw(buffer.Dc(), (side - size) / 2, (side - size) / 2, size);
 }
 
-void ClockPainter::DrawPicture(const DRAWITEMSTRUCT& item, const Picture& picture, bool running) const {
+void ClockPainter::DrawHand(const DRAWITEMSTRUCT& item, Side side, const Picture& hand, bool enabled) const {
     const Buffered buffer(item);
-    const RECT area = buffer.Area();
-    FillRect(buffer.Dc(), &area, PanelBrush(running));
-    picture.Draw(buffer.Dc(), 0, 0, static_cast<int>(std::min(area.right, area.bottom)));
+    const PanelLayout& panel = layout.Panels[side];
+    Fill(buffer.Dc(), buffer.Area(), CardColour);
+    const RECT top = DrawKey(buffer.Dc(), panel.Key, layout.KeyCorner, enabled ? BrassKey : DeadKey, enabled);
+    const int height = static_cast<int>(top.bottom - top.top);
+    const int size = std::min(height * 6 / 10, panel.Hand.Width * 8 / 10);
+    hand.Draw(buffer.Dc(), (panel.Hand.Width - size) * 2 / 3, static_cast<int>(top.top) + (height - size) / 2, size,
+              enabled ? BYTE{255} : DeadPicture);
 }
 
-void ClockPainter::DrawClockButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const {
-    DrawKey(item, text, running, BrassKey, ButtonFont());
-}
-
-void ClockPainter::DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const {
-    DrawKey(item, text, running, PlainKey, PauseFont());
-}
-
-// A key stands out while it can be pressed and lies flat while it cannot.
-void ClockPainter::DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, const KeyColours& live,
-                           HFONT font) const {
+void ClockPainter::DrawClockButton(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text) const {
     const Buffered buffer(item);
-    RECT area = buffer.Area();
-    FillRect(buffer.Dc(), &area, PanelBrush(running));
-    const bool enabled = !(item.itemState & ODS_DISABLED), down = (item.itemState & ODS_SELECTED) || !enabled;
-    const LONG rise = std::max(area.bottom / 10, LONG{3});
-    const KeyColours& colours = enabled ? live : DeadKey;
+    const PanelLayout& panel = layout.Panels[side];
+    const bool enabled = !(item.itemState & ODS_DISABLED);
+    const KeyColours& colours = enabled ? BrassKey : DeadKey;
+    Fill(buffer.Dc(), buffer.Area(), CardColour);
+    buffer.DrawAsPart(panel.ClockButton.Left - panel.Key.Left, 0);
+    const RECT top = DrawKey(buffer.Dc(), panel.Key, layout.KeyCorner, colours, enabled);
+    WriteCentred(buffer.Dc(), top, ButtonFont(), colours.Ink, text);
+    if (item.itemState & ODS_FOCUS) DrawFocus(buffer.Dc(), top, colours.Ink);
+}
 
-    Fill(buffer.Dc(), area, colours.Rim);
-    RECT top = area;
-    if (down) {
-        top.top += rise * 2 / 3;
-        RECT gone{area.left, area.top, area.right, top.top};
-        FillRect(buffer.Dc(), &gone, PanelBrush(running));
-        top.bottom -= rise / 3;
-    } else {
-        top.bottom -= rise;
-    }
-    Fill(buffer.Dc(), top, colours.Face);
-    Frame(buffer.Dc(), {area.left, top.top, area.right, area.bottom}, colours.Edge);
-
-    const Selection selection(buffer.Dc(), font);
-    SetTextColor(buffer.Dc(), colours.Text);
-    DrawTextW(buffer.Dc(), text.c_str(), -1, &top, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-    if (item.itemState & ODS_FOCUS) {
-        InflateRect(&top, -static_cast<int>(rise / 2), -static_cast<int>(rise / 2));
-        SetTextColor(buffer.Dc(), ClockPainter::Ink);
-        DrawFocusRect(buffer.Dc(), &top);
-    }
+void ClockPainter::DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text) const {
+    const Buffered buffer(item);
+    const Box key{0, 0, static_cast<int>(buffer.Area().right), static_cast<int>(buffer.Area().bottom)};
+    const bool enabled = !(item.itemState & ODS_DISABLED);
+    const KeyColours& colours = enabled ? PlainKey : DeadKey;
+    Fill(buffer.Dc(), buffer.Area(), CardColour);
+    const RECT top = DrawKey(buffer.Dc(), key, layout.KeyCorner, colours, enabled);
+    WriteCentred(buffer.Dc(), top, PauseFont(), colours.Ink, text);
+    if (item.itemState & ODS_FOCUS) DrawFocus(buffer.Dc(), top, colours.Ink);
 }

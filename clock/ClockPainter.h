@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clock/ClockCommands.h"
 #include "clock/ClockLayout.h"
 #include "platform/Colours.h"
 #include "platform/Handles.h"
@@ -9,22 +10,16 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
-// The colours of a key, which differ while it can be pressed and while it cannot.
-struct KeyColours {
-    Colour Face, Rim, Text, Edge;
-};
-
-// How the clock window looks: its colours, type and pictures.
+// How the clock window looks: its type and pictures, and the palette's colours for each state of a panel.
 class ClockPainter {
   public:
-    static constexpr Colour Ink{RGB(0x14, 0x14, 0x14), COLOR_WINDOWTEXT};  // of texts on the panels
-
     // `background` as 0xRRGGBB.
     explicit ClockPainter(uint32_t background);
 
-    // Takes the sizes of a new layout.
-    void SetLayout(const ClockLayout& layout);
+    // Takes the places and sizes of a new layout.
+    void SetLayout(const ClockLayout& newLayout);
 
     // The font of a name, smaller for a name that is too long for the width.
     HFONT NameFont(Side side, const std::wstring& name, int width);
@@ -33,28 +28,47 @@ class ClockPainter {
     HFONT PauseFont() const { return pauseFont.get(); }
     HFONT TextFont() const { return textFont.get(); }
 
+    // The width of a text below the keys, in pixels.
+    int TextWidth(const std::wstring& text) const;
+
     HBRUSH BackgroundBrush() const { return backgroundBrush.get(); }
-    HBRUSH PanelBrush(bool running) const { return running ? runningBrush.get() : panelBrush.get(); }
+    HBRUSH CardBrush() const { return cardBrush.get(); }  // under the labels
+    static COLORREF NameColour(PanelLook look);
+    static COLORREF LabelColour();
 
-    void DrawPanel(HDC dc, const Box& panel, bool running) const;
+    // The part of a face, in pixels of its control, that changes with its text.
+    RECT ChangedPart(const std::wstring& before, const std::wstring& after);
 
-    // Each of these fills the whole rectangle of its control.
-    void DrawFace(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text, bool fallen) const;
-    void DrawTurnMark(const DRAWITEMSTRUCT& item, bool arrow) const;
-    void DrawPicture(const DRAWITEMSTRUCT& item, const Picture& picture, bool running) const;
-    void DrawClockButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const;
-    void DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running) const;
+    // Draws a panel without its controls, in the window. `word` is what its mark says.
+    void DrawPanel(HDC dc, Side side, PanelLook look, const std::wstring& word) const;
+
+    // These draw the controls. A face draws no more of itself than has to be.
+    void DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook look, const std::wstring& text);
+    void DrawTurnMark(const DRAWITEMSTRUCT& item, Side side, size_t mark) const;
+    void DrawMarkWord(const DRAWITEMSTRUCT& item, PanelLook look, const std::wstring& word) const;
+    void DrawFlag(const DRAWITEMSTRUCT& item, const Picture& flag, bool fallen) const;
+    void DrawHand(const DRAWITEMSTRUCT& item, Side side, const Picture& hand, bool enabled) const;
+    void DrawClockButton(const DRAWITEMSTRUCT& item, Side side, const std::wstring& text) const;
+    void DrawPauseButton(const DRAWITEMSTRUCT& item, const std::wstring& text) const;
 
   private:
-    void DrawKey(const DRAWITEMSTRUCT& item, const std::wstring& text, bool running, const KeyColours& live,
-                 HFONT font) const;
-    HFONT FaceFont(HDC dc, const std::wstring& text, int width, int height) const;
+    // How texts of a number of characters are drawn on a face.
+    struct FaceType {
+        size_t Characters = 0;
+        UniqueFont Font;
+        int Digit = 0, Colon = 0;  // widths
+        int Left = 0;              // of the first character
+        int Baseline = 0, Top = 0, Bottom = 0;
+    };
 
-    Brush backgroundBrush, panelBrush, runningBrush;
+    const FaceType& TypeFor(const std::wstring& text);
+    // The places of a text's characters in its face.
+    std::vector<RECT> Cells(const std::wstring& text);
+    void WriteWord(HDC dc, RECT area, PanelLook look, const std::wstring& word) const;
+
+    Brush backgroundBrush, cardBrush;
+    ClockLayout layout{};
     std::array<UniqueFont, 2> nameFonts;
-    int nameType = 0;
     UniqueFont blinkFont, buttonFont, pauseFont, textFont;
-    // The face's font is made for a number of characters, a width and a height.
-    mutable UniqueFont faceFont;
-    mutable std::array<int, 3> faceFontFor{};
+    FaceType faceType;
 };

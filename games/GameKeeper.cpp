@@ -3,30 +3,30 @@
 #include "platform/Files.h"
 #include "platform/SystemError.h"
 
+#include <algorithm>
+#include <cwchar>
 #include <utility>
 
 namespace {
 
-constexpr int MostPrograms = 99;
+constexpr int MostPrograms = 98, NumberStep = 100;
 
 std::wstring NameOf(int number, const wchar_t* ending) { return L"Game" + std::to_wstring(number) + ending; }
 
 // Null where another program holds it. The system lets go of it when the program dies.
 UniqueFile LockOf(const std::wstring& folder, int number) {
-    const HANDLE file = CreateFileW((folder + NameOf(number, L".lock")).c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
-                                    OPEN_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    const HANDLE file = CreateFileW(LongPath(folder + NameOf(number, L".lock")).c_str(), GENERIC_WRITE | DELETE, 0,
+                                    nullptr, OPEN_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     return UniqueFile(file == INVALID_HANDLE_VALUE ? nullptr : file);
 }
 
 }  // namespace
 
 GameKeeper::GameKeeper(std::wstring dataFolder, std::function<void(DWORD)> failed)
-    : folder(std::move(dataFolder)),
-      number(TakeNumber(folder)),
-      lastPath(folder + NameOf(number.Value, L".last")),
-      kept(PathOf(number.Value), std::move(failed)) {
+    : folder(std::move(dataFolder)), number(TakeNumber(folder)), kept(PathOf(number.Value), std::move(failed)) {
     // Of a program that ended while it wrote.
-    for (const std::wstring& path : {PathOf(number.Value), lastPath}) FileBeside::RemoveLeft(path);
+    FileBeside::RemoveLeft(PathOf(number.Value));
+    FileBeside::RemoveLeft(NextLastPath());
 }
 
 // The lowest that is free. In a folder that cannot be written to, none is locked.
@@ -53,18 +53,49 @@ void GameKeeper::Adopt(const Orphan& orphan) const {
     if (orphan.Lock) MoveOver(orphan.Path, PathOf(number.Value));
 }
 
-void GameKeeper::MakeLast(const Orphan& orphan) const { MoveOver(orphan.Path, lastPath); }
+void GameKeeper::MakeLast(const Orphan& orphan) const {
+    MoveOver(orphan.Path, NextLastPath());
+    ForgetOldest();
+}
 
-bool GameKeeper::HasLast() const { return FileExists(lastPath); }
+void GameKeeper::PutAside(std::string_view bytes) const {
+    ReplaceFileBytes(NextLastPath(), bytes);
+    ForgetOldest();
+}
 
-void GameKeeper::PutAside(std::string_view bytes) const { ReplaceFileBytes(lastPath, bytes); }
+std::vector<int> GameKeeper::LastNumbers() const {
+    std::vector<int> numbers;
+    for (const std::wstring& name : FilesLike(folder + L"Game*.last")) {
+        const int value = static_cast<int>(std::wcstol(name.c_str() + wcslen(L"Game"), nullptr, 10));
+        if (name == NameOf(value, L".last")) numbers.push_back(value);
+    }
+    std::ranges::sort(numbers);
+    return numbers;
+}
 
-void GameKeeper::ForgetLast() const { DeleteFileAt(lastPath); }
+std::wstring GameKeeper::LastPath() const {
+    const std::vector<int> numbers = LastNumbers();
+    return numbers.empty() ? L"" : folder + NameOf(numbers.back(), L".last");
+}
+
+// The last two digits are the program's number, so that no two programs take the same one.
+std::wstring GameKeeper::NextLastPath() const {
+    const std::vector<int> numbers = LastNumbers();
+    const int highest = numbers.empty() ? 0 : numbers.back();
+    return folder + NameOf((highest / NumberStep + 1) * NumberStep + number.Value, L".last");
+}
+
+void GameKeeper::ForgetOldest() const {
+    const std::vector<int> numbers = LastNumbers();
+    for (size_t i = 0; i + MostLast < numbers.size(); ++i) Forget(folder + NameOf(numbers[i], L".last"));
+}
+
+void GameKeeper::Forget(const std::wstring& path) { DeleteFileAt(path); }
 
 std::wstring GameKeeper::MoveAway(const std::wstring& path) {
     for (int value = 1; value <= MostPrograms; ++value) {
         std::wstring name = path + L".damaged" + std::to_wstring(value);
-        if (MoveFileExW(path.c_str(), name.c_str(), MOVEFILE_WRITE_THROUGH)) return name;
+        if (MoveFileExW(LongPath(path).c_str(), LongPath(name).c_str(), MOVEFILE_WRITE_THROUGH)) return name;
         if (GetLastError() != ERROR_ALREADY_EXISTS && GetLastError() != ERROR_FILE_EXISTS) break;
     }
     throw SystemError(GetLastError(), path);

@@ -71,6 +71,8 @@ void GameStore::SaveGame(const std::wstring& name, const GameFiles& files) const
     MakeFolder(folder);
     SavingMark mark(MarkOf(name), PathOf(name, DiagramFile));
     Settle(name, mark);
+    // A mark that was left says so of an earlier save.
+    mark.SetComplete(false);
     std::vector<FileBeside> written;
     std::vector<std::pair<std::wstring, std::optional<std::vector<uint8_t>>>> replaced;
     for (GameFile file : {DiagramFile, MovesFile, PgnFile, ClockFile}) {

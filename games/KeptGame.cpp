@@ -56,7 +56,8 @@ std::optional<KeptGameError> DecodeKeptGame(std::span<const uint8_t> bytes, Game
 }
 
 bool IsUnderWay(const SavedGame& game) {
+    if (game.Scorlet.HasResult()) return false;
     if (game.Clock.GameStarted) return true;
     const bool fallen = game.Clock.MoveCount[White] > 0;
-    return !fallen && game.Scorlet.MovesWritten() && !game.Scorlet.HasResult();
+    return !fallen && game.Scorlet.MovesWritten();
 }

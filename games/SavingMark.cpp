@@ -23,7 +23,7 @@ SavingMark::SavingMark(const std::wstring& path, const std::wstring& shownPath) 
 SavingMark::~SavingMark() {
     file.reset();
     // Not when another program has taken it over meanwhile: that one removes it.
-    DeleteFileW(path.c_str());
+    DeleteFileW(LongPath(path).c_str());
 }
 
 // One byte, so that it cannot be half there.

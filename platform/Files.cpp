@@ -10,14 +10,7 @@ namespace {
 
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// The form in which the system takes paths of any length (Maximum Path Length Limitation, Win32 documentation).
-std::wstring Long(const std::wstring& path) {
-    if (path.rfind(L"\\\\?\\", 0) == 0) return path;
-    if (path.rfind(L"\\\\", 0) == 0) return L"\\\\?\\UNC" + path.substr(1);
-    return L"\\\\?\\" + path;
-}
-
-std::wstring Beside(const std::wstring& path) { return Long(path) + L".new"; }
+std::wstring Beside(const std::wstring& path) { return LongPath(path) + L".new"; }
 
 UniqueFile Open(const std::wstring& longPath, DWORD access, DWORD share, DWORD disposition) {
     const HANDLE file =
@@ -29,8 +22,15 @@ bool IsMissing(DWORD code) { return code == ERROR_FILE_NOT_FOUND || code == ERRO
 
 }  // namespace
 
+// The form in which the system takes paths of any length (Maximum Path Length Limitation, Win32 documentation).
+std::wstring LongPath(const std::wstring& path) {
+    if (path.rfind(L"\\\\?\\", 0) == 0) return path;
+    if (path.rfind(L"\\\\", 0) == 0) return L"\\\\?\\UNC" + path.substr(1);
+    return L"\\\\?\\" + path;
+}
+
 std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path, size_t limit) {
-    const UniqueFile file = Open(Long(path), GENERIC_READ, ShareAll, OPEN_EXISTING);
+    const UniqueFile file = Open(LongPath(path), GENERIC_READ, ShareAll, OPEN_EXISTING);
     if (!file) {
         const DWORD code = GetLastError();
         if (IsMissing(code)) return std::nullopt;
@@ -54,7 +54,7 @@ std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path, size
 }
 
 bool FileExists(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(Long(path).c_str());
+    const DWORD attributes = GetFileAttributesW(LongPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
@@ -62,7 +62,7 @@ std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found;
     // Without short names, and many at a time: a folder may hold thousands.
-    const HANDLE search = FindFirstFileExW(Long(pattern).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
+    const HANDLE search = FindFirstFileExW(LongPath(pattern).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
                                            nullptr, FIND_FIRST_EX_LARGE_FETCH);
     if (search == INVALID_HANDLE_VALUE) return names;
     do {
@@ -75,27 +75,27 @@ std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
 SYSTEMTIME LastChangeOf(const std::wstring& path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
     SYSTEMTIME universal{}, local{};
-    if (!GetFileAttributesExW(Long(path).c_str(), GetFileExInfoStandard, &data) ||
+    if (!GetFileAttributesExW(LongPath(path).c_str(), GetFileExInfoStandard, &data) ||
         !FileTimeToSystemTime(&data.ftLastWriteTime, &universal) ||
         !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
         throw SystemError(GetLastError(), path);
     return local;
 }
 
-void MakeFolder(const std::wstring& path) { CreateDirectoryW(Long(path).c_str(), nullptr); }
+void MakeFolder(const std::wstring& path) { CreateDirectoryW(LongPath(path).c_str(), nullptr); }
 
 void ExpectReplaceable(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(Long(path).c_str());
+    const DWORD attributes = GetFileAttributesW(LongPath(path).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return;
     // Not every system refuses to move a file over one that is write-protected.
     if (attributes & FILE_ATTRIBUTE_READONLY) throw SystemError(ERROR_ACCESS_DENIED, path);
     if (attributes & FILE_ATTRIBUTE_DIRECTORY) throw SystemError(ERROR_ALREADY_EXISTS, path);
     // Older systems do not replace a file that is open, however it is shared.
-    if (!Open(Long(path), GENERIC_WRITE | DELETE, 0, OPEN_EXISTING)) throw SystemError(GetLastError(), path);
+    if (!Open(LongPath(path), GENERIC_WRITE | DELETE, 0, OPEN_EXISTING)) throw SystemError(GetLastError(), path);
 }
 
 void DeleteFileAt(const std::wstring& path) {
-    if (DeleteFileW(Long(path).c_str())) return;
+    if (DeleteFileW(LongPath(path).c_str())) return;
     const DWORD code = GetLastError();
     if (!IsMissing(code)) throw SystemError(code, path);
 }
@@ -103,7 +103,7 @@ void DeleteFileAt(const std::wstring& path) {
 void MoveOver(const std::wstring& from, const std::wstring& to) {
     constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
     // A virus scanner or an indexer may have opened a file that has just been written, for a moment.
-    for (int tries = 1; !MoveFileExW(Long(from).c_str(), Long(to).c_str(), flags); ++tries) {
+    for (int tries = 1; !MoveFileExW(LongPath(from).c_str(), LongPath(to).c_str(), flags); ++tries) {
         const DWORD code = GetLastError();
         if (tries == 20 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))
             throw SystemError(code, to);
@@ -152,7 +152,7 @@ void FileBeside::TakePlaceLeft(const std::wstring& path) {
 void FileBeside::RemoveLeft(const std::wstring& path) { DeleteFileW(Beside(path).c_str()); }
 
 UniqueFile OpenAlone(const std::wstring& path) {
-    return Open(Long(path), GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS);
+    return Open(LongPath(path), GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS);
 }
 
 void ReplaceFileBytes(const std::wstring& path, std::string_view bytes) { FileBeside(path, bytes).TakePlace(); }

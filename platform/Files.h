@@ -13,6 +13,9 @@
 
 // Files by their full paths, of any length that the system can hold. Failures throw SystemError with the path.
 
+// A path in the form that the system takes at any length.
+std::wstring LongPath(const std::wstring& path);
+
 // The first `limit` bytes of a file, or all of a shorter one; no value when there is no such file. More than 4 GB are
 // not read at once, but fail.
 std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path,

@@ -107,11 +107,11 @@ std::vector<uint32_t> Picture::Unpacked() const {
     return pixels;
 }
 
-void Picture::Draw(HDC dc, int left, int top, int size) const {
+void Picture::Draw(HDC dc, int left, int top, int size, BYTE strength) const {
     if (Empty() || size <= 0) return;
     const UniqueDc memory(CreateCompatibleDC(dc));
     const Selection selection(memory.get(), OfSize(size));
-    const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    const BLENDFUNCTION blend{AC_SRC_OVER, 0, strength, AC_SRC_ALPHA};
     // The same function as AlphaBlend, in a library that every program has loaded.
     GdiAlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, size, size, blend);
 }

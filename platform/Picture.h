@@ -25,8 +25,9 @@ class Picture {
 
     bool Empty() const { return runs.empty(); }
 
-    // Draws the whole picture into a square, over what is there.
-    void Draw(HDC dc, int left, int top, int size) const;
+    // Draws the whole picture into a square, over what is there; with less than the full strength of 255 that shows
+    // through.
+    void Draw(HDC dc, int left, int top, int size, BYTE strength = 255) const;
 
   private:
     // Consecutive pixels of one colour. Runs take a tenth of the memory that the pixels would.

@@ -45,8 +45,11 @@ class Arrangement {
         const int boardSize = 8 * layout.CellSize + layout.Edge;
         const int left = below ? (width - boardSize) / 2 : margin;
         layout.Board = {left, margin, boardSize, boardSize};
-        layout.TypedMove = {left + layout.Edge, margin, 4 * layout.CellSize, field};
-        layout.TypedReason = {left + layout.Edge, layout.TypedMove.Bottom(), 8 * layout.CellSize, Unit(32)};
+        // What is wrong with a move must be readable over the smallest board too.
+        const int typedWidth = std::min(std::max(8 * layout.CellSize, Unit(300)), width - 2 * margin);
+        const int typedLeft = std::min(left + layout.Edge, width - margin - typedWidth);
+        layout.TypedMove = {typedLeft, margin, typedWidth / 2, field};
+        layout.TypedReason = {typedLeft, layout.TypedMove.Bottom(), typedWidth, Unit(32)};
         layout.CapturedTitle = {left, layout.Board.Bottom() + margin, boardSize, line};
         layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, RoundedUpHalf(layout.CellSize),
                                  std::max(boardSize / MostCaptured, RoundedUpHalf(layout.CellSize)));

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -147,6 +149,54 @@ void ExpectTextsFit(HWND form, bool drawnTexts) {
             }
         }
     }
+}
+
+GreyPicture GreyOf(HWND form, const Box& part) {
+    RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    const TopDownBitmap bitmap(part.Width, part.Height);
+    const HDC window = GetDCEx(form, nullptr, DCX_CACHE);
+    {
+        const UniqueDc dc(CreateCompatibleDC(nullptr));
+        const Selection selection(dc.get(), bitmap.Handle());
+        BitBlt(dc.get(), 0, 0, part.Width, part.Height, window, part.Left, part.Top, SRCCOPY);
+        GdiFlush();
+    }
+    ReleaseDC(form, window);
+    GreyPicture picture{part.Width, part.Height, {}};
+    for (const uint32_t pixel : bitmap.Pixels()) {
+        const auto linear = [&](int shift) { return std::pow((pixel >> shift & 0xFF) / 255.0, 2.2); };
+        picture.Pixels.push_back(0.2126 * linear(16) + 0.7152 * linear(8) + 0.0722 * linear(0));
+    }
+    return picture;
+}
+
+bool DifferInGrey(const GreyPicture& one, const GreyPicture& other) {
+    const auto differ = [](double first, double second) {
+        return std::max(first, second) + 0.05 >= 3 * (std::min(first, second) + 0.05);
+    };
+    const auto mean = [](const GreyPicture& picture) {
+        return std::accumulate(picture.Pixels.begin(), picture.Pixels.end(), 0.0) /
+               static_cast<double>(picture.Pixels.size());
+    };
+    if (differ(mean(one), mean(other))) return true;
+    // A shape is a row of squares that differ all over, each a little further down than the one before.
+    const int stroke = std::max(one.Height / 100, 1);
+    std::vector<int> shapeTop(one.Pixels.size(), -1);
+    const auto at = [&](int x, int y) { return static_cast<size_t>(y * one.Width + x); };
+    for (int y = 0; y + stroke <= one.Height; ++y) {
+        for (int x = 0; x + stroke <= one.Width; ++x) {
+            bool whole = true;
+            for (int i = 0; i < stroke * stroke && whole; ++i) {
+                const size_t pixel = at(x + i % stroke, y + i / stroke);
+                whole = differ(one.Pixels[pixel], other.Pixels[pixel]);
+            }
+            if (!whole) continue;
+            const int above = y > 0 ? shapeTop[at(x, y - 1)] : -1;
+            shapeTop[at(x, y)] = above >= 0 ? above : y;
+            if ((y + stroke - shapeTop[at(x, y)]) * 20 >= one.Height) return true;
+        }
+    }
+    return false;
 }
 
 void ExpectSystemColours(HWND form) {

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
 
 // Every window from inside, in each language and in each state that looks different.
@@ -163,6 +164,52 @@ TEST_P(FormsTest, IsReadableFitsAndTakesTheSystemsColours) {
 
 INSTANTIATE_TEST_SUITE_P(Each, FormsTest,
                          testing::Combine(testing::ValuesIn(Names), testing::Values(Turkish, English, French)));
+
+// Each state of a side as its panel shows it while the word of its label is off, in a window of that size.
+std::map<PanelLook, GreyPicture> LooksOf(Side side, SIZE size) {
+    Maker maker;
+    const std::unique_ptr<Form> form = maker.Clock();
+    const RECT window = AreaOf(form->Window());
+    RECT client{};
+    GetClientRect(form->Window(), &client);
+    SetWindowPos(form->Window(), HWND_TOPMOST, 0, 0, window.right - window.left - client.right + size.cx,
+                 window.bottom - window.top - client.bottom + size.cy, 0);
+    const Box panel = LayOutClock(size.cx, size.cy).Panels[side].Panel;
+    std::map<PanelLook, GreyPicture> looks;
+    const auto take = [&] {
+        for (const Side each : BothSides) form->SetText(ControlOf(lblFace, each), L"00:00:00");
+        if (GetWindowTextLengthW(form->Control(ControlOf(lblBlink, side))) > 0)
+            SendMessageW(form->Window(), WM_TIMER, BlinkTimer, 0);
+        looks.emplace(maker.Played.Clock().LookOf(side), GreyOf(form->Window(), panel));
+    };
+    take();
+    Command(*form, mnuStart);
+    take();
+    maker.Played.Press(White);
+    take();
+    if (side == White) maker.Played.Press(Black);
+    Command(*form, mnuPause);
+    take();
+    Command(*form, mnuPause);
+    while (maker.Played.Clock().CurrentPhase() == Phase::Running) maker.Played.Tick();
+    take();
+    return looks;
+}
+
+TEST(PanelsTest, TellTheStatesApartWithoutColours) {
+    for (const SIZE size : {SIZE{DesignWidth, DesignHeight}, {300, 600}, {LeastWidth, LeastHeight}}) {
+        for (const Side side : BothSides) {
+            const std::map<PanelLook, GreyPicture> looks = LooksOf(side, size);
+            EXPECT_EQ(looks.size(), 5U);
+            for (auto one = looks.begin(); one != looks.end(); ++one) {
+                for (auto other = looks.begin(); other != one; ++other)
+                    EXPECT_TRUE(DifferInGrey(one->second, other->second))
+                        << size.cx << ", side " << side << ": " << static_cast<int>(one->first) << " and "
+                        << static_cast<int>(other->first);
+            }
+        }
+    }
+}
 
 TEST(MenusTest, TellKeysAndWhatCanBeDoneInTheLanguageOfTheWindow) {
     Maker maker;

@@ -39,6 +39,6 @@ TEST(KeptGameTest, FilesComeBackAndDamagesAreNamed) {
         38 4 .pgn => record | 61 9 => EndsEarly 61 | 62 1 x => UnexpectedText 61
     )");
     ExpectRows(UnderWay, R"(
-        on: => yes | idle: => no | idle:e2e4 => yes | idle:e2e4 draw => no | fallen:e2e4 => no | on:e2e4 draw => yes
+        on: => yes | idle: => no | idle:e2e4 => yes | idle:e2e4 draw => no | fallen:e2e4 => no | on:e2e4 => yes | on:e2e4 draw => no
     )");
 }

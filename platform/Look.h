@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+
+// The palette that all windows share, as 0xRRGGBB, and the sizes that give them one style. Text keeps a contrast of at
+// least 4.5 : 1 with its ground, and 3 : 1 on a face that is dimmed on purpose.
+namespace Look {
+
+inline constexpr uint32_t Card = 0xFAF9F6, Line = 0xCFCBC2;
+inline constexpr uint32_t Ink = 0x1C1B19, QuietInk = 0x6A665E;
+
+// The marks of the states of a clock, each with the ink for a word on it. That of the pause is dark, so that it differs
+// from the other marks without any colour.
+inline constexpr uint32_t Running = 0x1B7F3B, RunningInk = 0xFFFFFF;
+inline constexpr uint32_t Paused = 0xE0A11B, PausedMark = 0x2A1E00;
+inline constexpr uint32_t Fallen = 0xB3261E, FallenInk = 0xFFFFFF;
+
+// Keys, their lower edges and what is written on them.
+inline constexpr uint32_t Key = 0xE3AE3C, KeyEdge = 0xA87414, KeyInk = 0x2A1E00;
+inline constexpr uint32_t PlainKey = 0xFFFFFF, PlainKeyEdge = Line;
+inline constexpr uint32_t DeadKey = 0xDAD7D0, DeadKeyEdge = 0xC4C0B7, DeadKeyInk = 0x5C5851;
+
+struct FaceShades {
+    uint32_t Ground, Ink;
+};
+// White's face and Black's.
+inline constexpr FaceShades FullFaces[] = {{0xFFFFFF, 0x141312}, {0x141312, 0xFFFFFF}};
+inline constexpr FaceShades DimmedFaces[] = {{0xBDBAB3, 0x625F59}, {0x3A3937, 0x888580}};
+inline constexpr FaceShades PausedFaces[] = {{0xBDBAB3, 0x141312}, {0x4B4A47, 0xFFFFFF}};
+inline constexpr FaceShades FallenFaces[] = {{Fallen, 0xFFFFFF}, {0xFFFFFF, Fallen}};
+
+}  // namespace Look
