@@ -8,6 +8,7 @@
 #include "platform/SystemError.h"
 #include "platform/Today.h"
 #include "recorder/StandardNotation.h"
+#include "settings/ShownName.h"
 
 #include <commdlg.h>
 
@@ -39,7 +40,10 @@ std::wstring AskForFile(HWND owner, const std::wstring& title) {
 GameReading GameExporter::Read() const { return ReadGame(game.Record()->Lists(), game.Record()->Position()); }
 
 std::wstring GameExporter::TextOf(const GameReading& reading) const {
-    const ExportHead head{Today(), game.Options().PlayerNames, game.Options().Control};
+    ExportHead head;
+    head.Control = game.Options().Control;
+    if (!game.BegunEarlier()) head.Date = Today();
+    for (Side side : BothSides) head.Names[side] = KnownName(game.Options(), texts, side);
     const std::wstring lines =
         FromAnsi(ExportGame(head, reading, ResultToken(game.Record()->Lists()), game.TimesAtPresses()));
     std::wstring text;

@@ -23,14 +23,15 @@ void Game::Press(Side button) {
     change.Faces[Other(running)] = true;
     Show(event, change);
     if (event != ClockEvent::Changed || !record) return;
+    ChosenLines chosen;
     if (const auto line = record->AddLineForPress(before == Phase::Idle, running)) {
-        ChosenLines chosen;
         chosen[line->List] = line->Index;
         ClockAdditions added;
         added.Lines[line->List] = line->Index + 1;
         history.ClockAdded(*record, added);
-        recordView->RecordChanged(chosen);
     }
+    // Without a new line too: the last one comes into sight.
+    recordView->RecordChanged(chosen);
 }
 
 void Game::PressEnabledButton() {
@@ -76,13 +77,14 @@ bool Game::PauseIfRunning() {
 void Game::Reset() {
     LeaveGame();
     ReplaceRecord({});
+    begunEarlier = false;
     clockView->ReadSettings();
     TakeSettings();
 }
 
 void Game::TakeSettings() {
     clock.Initialise(settings.Control);
-    shown = {};
+    timesAtPresses = {};
     ShowWhole();
     if (record) recordView->RecordChanged({});
     Changed();
@@ -96,6 +98,7 @@ void Game::TurnBoard() {
 Recorder& Game::OpenRecord(RecordView& view) {
     recordView = &view;
     record.emplace();
+    timesAtPresses = {};
     KeepResultIfFallen(*record);
     history.Begin(*record);
     return *record;
@@ -136,13 +139,13 @@ void Game::TakeStep() { history.Changed(*record, recordView->Chosen()); }
 
 void Game::TakeBack() {
     if (!CanTakeBack()) return;
-    recordView->RecordTakenBack(history.TakeBack(*record, recordView->Chosen()));
+    recordView->RecordStepped(history.TakeBack(*record, recordView->Chosen()));
     Changed();
 }
 
 void Game::Redo() {
     if (!CanRedo()) return;
-    recordView->RecordTakenBack(history.Redo(*record, recordView->Chosen()));
+    recordView->RecordStepped(history.Redo(*record, recordView->Chosen()));
     Changed();
 }
 
@@ -161,11 +164,12 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
     settings = saved.Options;
     settings.BoardTurned = turned;
     clock.TakeLoadedGame(saved.Clock);
-    shown = {};
+    timesAtPresses = {};
     ShowWhole();
     Recorder loaded = saved.Scorlet;
     KeepResultIfFallen(loaded);
     ReplaceRecord(loaded);
+    begunEarlier = WorthKeeping();
     Changed();
 }
 
@@ -189,11 +193,15 @@ void Game::Show(ClockEvent event, ClockChange change) {
     }
 }
 
+// The press has ended the line that the record has written last, or the one that its next move goes into.
 void Game::RememberTime(Side side) {
+    if (!record || record->HasResult()) return;
+    const int64_t behind = NextMove().Behind;
+    if (behind != 0 && behind != 1) return;
     const modClock::ClockState& state = clock.Clock().State();
-    const auto moves = static_cast<size_t>(state.MoveCount[side]);
-    shown[side].resize(moves);
-    if (moves > 0) shown[side].back() = state.PlayerTime[side];
+    auto& times = timesAtPresses[side];
+    times.resize(static_cast<size_t>(state.MoveCount[side]));
+    if (!times.empty()) times.back() = state.PlayerTime[side];
 }
 
 WhoseMove Game::NextMove() const {

@@ -50,8 +50,12 @@ class Game final : public ScorletGame {
     // Null while the Scorlet is closed.
     const Recorder* Record() const { return record ? &*record : nullptr; }
     const Settings& Options() const { return settings; }
-    // Of the moves that presses have ended since the game began or was loaded.
-    const ShownTimes& TimesAtPresses() const { return shown; }
+    // Of the lines of the record that presses have ended, since it was opened or the game began or was loaded. A press
+    // that the record is further from than one move ends none of its lines.
+    const ShownTimes& TimesAtPresses() const { return timesAtPresses; }
+
+    // Whether the game was begun before it was loaded or brought back: the day is not known then.
+    bool BegunEarlier() const { return begunEarlier; }
 
     void Press(Side button);
     void PressEnabledButton() override;  // White's where a flag has fallen: the players are told then
@@ -117,5 +121,6 @@ class Game final : public ScorletGame {
     RecordHistory history;  // of the record
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
-    ShownTimes shown;
+    ShownTimes timesAtPresses;
+    bool begunEarlier = false;
 };

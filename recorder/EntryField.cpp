@@ -2,6 +2,12 @@
 
 #include "platform/Subclass.h"
 
+namespace {
+
+constexpr bool Ends(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE; }
+
+}  // namespace
+
 void EntryField::Create(UINT message, DWORD style) {
     endMessage = message;
     const HWND field = form.AddControl(WC_EDITW, id, style | WS_BORDER | ES_AUTOHSCROLL);
@@ -19,19 +25,17 @@ HWND EntryField::Show(const std::wstring& text) const {
 LRESULT CALLBACK EntryField::Procedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                        DWORD_PTR self) {
     const auto& entry = *reinterpret_cast<const EntryField*>(self);
-    const bool ends = wParam == VK_RETURN || wParam == VK_ESCAPE;
     switch (message) {
         case WM_GETDLGCODE: {
             const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const bool own =
-                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
+            const bool own = key && key->message == WM_KEYDOWN && Ends(key->wParam);
             return DefSubclassProc(field, message, wParam, lParam) | (own ? DLGC_WANTMESSAGE : 0);
         }
         case WM_KEYDOWN:
-            if (ends) return SendMessageW(entry.form.Window(), entry.endMessage, wParam == VK_RETURN, 0);
+            if (Ends(wParam)) return SendMessageW(entry.form.Window(), entry.endMessage, wParam == VK_RETURN, 0);
             break;
         case WM_CHAR:
-            if (ends) return 0;
+            if (Ends(wParam)) return 0;
             break;
         default: break;
     }

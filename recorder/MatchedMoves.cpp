@@ -123,6 +123,6 @@ std::string FullText(const Move& move) {
     return (lettered ? std::string(1, PieceLetter(kind)) : "") + std::string(WriteLongForm(move).View());
 }
 
-bool BeginsMove(char letter) {
-    return std::string_view("abcdefghnrqko").find(AsciiLower(letter)) != std::string_view::npos;
+bool BeginsMove(char character) {
+    return std::string_view("abcdefghnrqko0").find(AsciiLower(character)) != std::string_view::npos;
 }

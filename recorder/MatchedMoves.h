@@ -20,5 +20,5 @@ std::vector<MatchedMove> MatchMoves(const Board& board, Side side, std::string_v
 // What tells a move from all others, to be shown where several match: "Ng1-f3".
 std::string FullText(const Move& move);
 
-// Whether a move can begin with that letter: a to h, N, B, R, Q, K, O, small or not.
-bool BeginsMove(char letter);
+// Whether a move can begin with that character: a to h, N, B, R, Q, K, O, small or not, and the 0 of castling.
+bool BeginsMove(char character);

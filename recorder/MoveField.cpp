@@ -10,7 +10,7 @@ void MoveField::Create(UINT endMessage) {
 }
 
 void MoveField::Show(const std::wstring& text) {
-    typed.Begin(text);
+    edited.Begin(text);
     form.SetVisible(cmdOK, true);
     SendMessageW(entry.Show(text), EM_SETSEL, 0, -1);
 }
@@ -24,5 +24,5 @@ std::wstring MoveField::Text() const { return form.Text(txtMove); }
 
 void MoveField::OnChange() {
     edit.OnChange();
-    toolTips.Set(txtMove, typed.LastGood());
+    toolTips.Set(txtMove, edited.LastGood());
 }

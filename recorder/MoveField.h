@@ -2,13 +2,13 @@
 
 #include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
+#include "recorder/EditedMove.h"
 #include "recorder/EntryField.h"
-#include "recorder/TypedMove.h"
 #include "resources/resource.h"
 
 #include <string>
 
-// The field in which a written move is corrected, with its OK button. It lets in what TypedMove does; its tool tip
+// The field in which a written move is corrected, with its OK button. It lets in what EditedMove does; its tool tip
 // carries the last good text.
 class MoveField {
   public:
@@ -29,7 +29,7 @@ class MoveField {
     Form& form;
     EntryField entry{form, txtMove};
     ToolTips toolTips;
-    TypedMove typed;
-    FilteredEdit edit{form, txtMove, [this](const std::wstring& text) { return typed.Changed(text); },
-                      [this](wchar_t character, const std::wstring& text) { return typed.TakesKey(character, text); }};
+    EditedMove edited;
+    FilteredEdit edit{form, txtMove, [this](const std::wstring& text) { return edited.Changed(text); },
+                      [this](wchar_t character, const std::wstring& text) { return edited.TakesKey(character, text); }};
 };

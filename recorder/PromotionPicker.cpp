@@ -31,8 +31,9 @@ void PromotionPicker::ApplyTexts(const Texts& texts) const {
 
 void PromotionPicker::Show() {
     const auto piece = recorder.Promoting();
-    const bool waited = std::exchange(waits, piece && ::KindOf(*piece) == PieceKind::Pawn);
-    if (waits && !waited) {
+    const bool waits = piece && ::KindOf(*piece) == PieceKind::Pawn;
+    const Square before = std::exchange(pawn, waits ? *recorder.PromotionSquare() : NoSquare);
+    if (pawn != before) {
         left = false;
         marked = 0;
     }
@@ -40,14 +41,19 @@ void PromotionPicker::Show() {
     if (piece) Redraw();
 }
 
-void PromotionPicker::Redraw() const {
+void PromotionPicker::ShowMark() {
+    if (TakesKeys() != markShown) Redraw();
+}
+
+void PromotionPicker::Redraw() {
+    markShown = TakesKeys();
     for (int id = imgPromotionQ; id <= imgPromotionN; ++id) InvalidateRect(form.Control(id), nullptr, FALSE);
 }
 
 void PromotionPicker::Draw(const DRAWITEMSTRUCT& item) const {
     const size_t choice = ChoiceOf(static_cast<int>(item.CtlID));
     const Side side = recorder.Promoting() ? SideOf(*recorder.Promoting()) : White;
-    painter.DrawPromotion(item, PieceOf(side, Kinds[choice]), waits, TakesKeys() && choice == marked);
+    painter.DrawPromotion(item, PieceOf(side, Kinds[choice]), pawn != NoSquare, TakesKeys() && choice == marked);
 }
 
 void PromotionPicker::Mark(size_t choice) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "recorder/BoardInput.h"
 #include "recorder/ScorletPainter.h"
 #include "resources/resource.h"
 
@@ -10,20 +11,24 @@
 class PromotionPicker {
   public:
     // All must outlive the picker.
-    PromotionPicker(Form& form, const Recorder& recorder, const ScorletPainter& painter)
-        : form(form), recorder(recorder), painter(painter) {}
+    PromotionPicker(Form& form, const Recorder& recorder, const BoardInput& input, const ScorletPainter& painter)
+        : form(form), recorder(recorder), input(input), painter(painter) {}
 
     void Create() const;
     void ApplyTexts(const Texts& texts) const;
     void Show();
+    // Shows whether it takes keys, which changes with what is picked.
+    void ShowMark();
+    // The record is another one: a pawn that waits in it has its keys, whatever became of the one before.
+    void Reset() { pawn = NoSquare; }
     void Draw(const DRAWITEMSTRUCT& item) const;
 
     static bool Has(int id) { return id >= imgPromotionQ && id <= imgPromotionN; }
     // Of one of its controls.
     static PieceKind KindOf(int id);
 
-    // A pawn waits, and the players have not turned to the board all the same.
-    bool TakesKeys() const { return waits && !left; }
+    // A pawn waits, no piece is picked, and the players have not turned to the board all the same.
+    bool TakesKeys() const { return pawn != NoSquare && !left && !input.PiecePicked(); }
     // A key or a character of the board. The arrows go on to another piece, Esc leaves the keys to the board. Returns
     // whether it has been taken; `chosen` is the piece that it chooses.
     bool OnKey(WPARAM key, std::optional<PieceKind>& chosen);
@@ -33,12 +38,14 @@ class PromotionPicker {
 
   private:
     void Mark(size_t choice);
-    void Redraw() const;
+    void Redraw();
 
     Form& form;
     const Recorder& recorder;
+    const BoardInput& input;
     const ScorletPainter& painter;
-    bool waits = false;
+    Square pawn = NoSquare;  // where one waits
     bool left = false;
     size_t marked = 0;
+    bool markShown = false;
 };

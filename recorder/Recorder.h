@@ -68,6 +68,8 @@ class Recorder {
     bool AwaitsPromotion() const { return promotion.has_value(); }
     // That pawn, or the piece that has been chosen for it; no value once the next move is entered.
     std::optional<Piece> Promoting() const { return promotion ? std::optional(board.At(promotion->On)) : std::nullopt; }
+    // Where it is.
+    std::optional<Square> PromotionSquare() const { return promotion ? std::optional(promotion->On) : std::nullopt; }
     // Makes the pawn that piece and writes so in its entry. The choice can be made again.
     void Promote(PieceKind kind);
 
@@ -95,7 +97,8 @@ class Recorder {
     // the flag.
     void Take(const ClockAdditions& added);
 
-    // Corrects a typed text and writes it into an entry. The position does not change: the board keeps no history.
+    // Corrects a typed text and writes it into an entry. The position does not change: the moves after it
+    // might no longer be possible.
     void Edit(Side side, size_t index, std::string_view typed);
 
     // Removes the last entry of a list, which must not be empty. Nothing else changes except the game's text.

@@ -10,8 +10,8 @@ class RecordView {
     virtual void RecordChanged(const ChosenLines& chosen) = 0;
     // The record has become another one: what was under way in the window is over.
     virtual void RecordReplaced() = 0;
-    // Take Back or Redo has made it one of its other states, with these lines chosen.
-    virtual void RecordTakenBack(const ChosenLines& chosen) = 0;
+    // A step of Take Back or Redo has made it another of its states, with these lines chosen.
+    virtual void RecordStepped(const ChosenLines& chosen) = 0;
     // The lines that the window shows as chosen. After a change that it does not show yet, those from before.
     virtual ChosenLines Chosen() const = 0;
     // The record or the clock has changed, and with it the move that is expected.

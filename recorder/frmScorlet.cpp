@@ -145,11 +145,12 @@ void frmScorlet::RecordReplaced() {
     EndEdit(false);
     EndTyping(false);
     input.Reset();
+    picker.Reset();
     lists.ChooseNone();
     ShowRecord();
 }
 
-void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
+void frmScorlet::RecordStepped(const ChosenLines& chosen) {
     EndEdit(false);
     EndTyping(false);
     input.Cancel();
@@ -160,6 +161,7 @@ void frmScorlet::RecordTakenBack(const ChosenLines& chosen) {
 
 void frmScorlet::ShowBoard() {
     board.Show();
+    picker.ShowMark();
     mouse.Follow();
 }
 
@@ -313,6 +315,7 @@ void frmScorlet::Promote(PieceKind kind) {
 bool frmScorlet::OnBoardCharacter(wchar_t character) {
     if (const auto kind = picker.OnCharacter(character)) {
         Promote(*kind);
+        TellSpokenName(picBoard);
     } else if (character < 128 && BeginsMove(static_cast<char>(character))) {
         typing.Show(character);
     } else {
@@ -329,7 +332,7 @@ void frmScorlet::EndTyping(bool enter) {
         input.Cancel();
         const ChosenLine line = recorder.Play(match->Played.Origin, match->Played.Destination);
         if (match->Promotion != PieceKind::None) recorder.Promote(match->Promotion);
-        ShowEdit(line);
+        ShowEntered(line, false);
     }
     // Before it is hidden: a window that is hidden gives the focus to its form.
     if (GetFocus() == Control(txtTypedMove)) SetFocus(Control(picBoard));

@@ -42,7 +42,7 @@ class frmScorlet : public Form, private RecordView {
     std::wstring SpokenPart(int id, int part) const override;
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
-    void RecordTakenBack(const ChosenLines& chosen) override;
+    void RecordStepped(const ChosenLines& chosen) override;
     ChosenLines Chosen() const override { return lists.Chosen(); }
     void ShowWhoseMove() override { whoseMove.Show(captions, game.NextMove()); }
 
@@ -92,7 +92,7 @@ class frmScorlet : public Form, private RecordView {
     std::optional<Edited> edited;
     Side menuList = White;
     ScorletPainter painter;
-    PromotionPicker picker{*this, recorder, painter};
+    PromotionPicker picker{*this, recorder, input, painter};
     ScorletLayout layout{};
     ScorletBoard board{*this, recorder, input, painter};
     BoardMouse mouse{*this, input, painter, layout};

@@ -65,10 +65,11 @@ struct Around final : modClock::Timer, ClockView, RecordView {
         for (Side side : BothSides)
             if (chosen[side]) what += (side == White ? " W" : " B") + std::to_string(*chosen[side]);
         Say(what);
-        Shown = chosen;
+        for (Side side : BothSides)
+            if (chosen[side]) Shown[side] = chosen[side];
     }
     void RecordReplaced() override { Say("new record"); }
-    void RecordTakenBack(const ChosenLines& chosen) override { RecordChanged(chosen); }
+    void RecordStepped(const ChosenLines& chosen) override { Shown = {}, RecordChanged(chosen); }
     ChosenLines Chosen() const override { return Shown; }
     void ShowWhoseMove() override {}
 };
@@ -168,16 +169,16 @@ std::string Kept(const std::string& script) {
     return play.Beside.Kept + (play.Played.WorthKeeping() ? "worth" : "");
 }
 
-// What is remembered of the face at the end of each move: "60 - / 58".
-std::string Times(const std::string& script) {
+// The moves as they are exported, after "earlier" where the game was begun before it was loaded.
+std::string Exported(const std::string& script) {
     Play play;
     play.SayAll(script);
-    std::string text;
-    for (Side side : BothSides) {
-        for (const auto& time : play.Played.TimesAtPresses()[side]) text += (time ? std::to_string(*time) : "-") + " ";
-        text += side == White ? "/ " : "";
-    }
-    return text;
+    const Recorder& record = *play.Played.Record();
+    std::string moves = play.Played.BegunEarlier() ? "earlier: " : "";
+    const std::string text =
+        ExportGame({}, ReadGame(record.Lists(), record.Position()), "*", play.Played.TimesAtPresses());
+    for (const std::string& word : Words(text.substr(text.find("\n\n")))) moves += word + " ";
+    return moves;
 }
 
 }  // namespace
@@ -192,10 +193,10 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W 59s slow-sound W => click, show W all, gong; F - 00:00:00
         A press gives the side that then runs its line, once the other has written its move.
         open W => click, show B all, lists W0; CPTm - 00:01:00; 1. _ /
-        open W W => click, show W all; - CPTm 00:01:00; 1. _ /
+        open W W => click, show W all, lists; - CPTm 00:01:00; 1. _ /
         open W e2e4 W => click, show W all, lists B0; - CPTm 00:01:00; 1. e4 / 1. _
         open W e2e4 W e7e5 B => click, show B all, lists W1; CPTm - 00:01:00; 1. e4|2. _ / e5
-        W open W => click, show W all; - CPTm 00:01:00;  /
+        W open W => click, show W all, lists; - CPTm 00:01:00;  /
         open W e2e4 W close B => click, show B all; CPTm - 00:01:00
         Pause and resume.
         W W p => show all; - Rp 00:01:00 | W W p p => nothing; - Rp 00:01:00 | W W p B => nothing; - Rp 00:01:00
@@ -223,9 +224,9 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open W W B top => lists W1 B0; CPTm - 00:01:00; 1. _|2. _ / 1. _ | W W top => nothing; - CPTm 00:01:00
         Take Back and Redo, from the opening, a load or a reset on. What the clock has added stays, and the clock as it is.
         open back redo => nothing; CP CP S 00:01:00;  / | back => nothing; CP CP S 00:01:00
-        open W e2e4 W e7e5 back => lists B0; - CPTm 00:01:00; 1. e4 / 1. _
+        open W e2e4 W e7e5 back => lists W0 B0; - CPTm 00:01:00; 1. e4 / 1. _
         open W e2e4 W back => lists W0; - CPTm 00:01:00; 1. _ / 1. _
-        open W e2e4 W back redo => lists B0; - CPTm 00:01:00; 1. e4 / 1. _
+        open W e2e4 W back redo => lists W0 B0; - CPTm 00:01:00; 1. e4 / 1. _
         open W W draw back => lists W0; - Rp 00:01:00; 1. _ /
         open W e2e4 60s back => lists W0; F - 00:00:00; 1. _|[0-1] /
         open W W B top back => lists W0; CPTm - 00:01:00; 1. _ /
@@ -258,7 +259,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open load0,0 setup => show W B all, lists; CP CP S 00:11:00; 1. d4 /
         open load3,3 => show W B all, new record; - F 00:00:45; 1. d4 /
         open W load0,0 => show W B all, new record; CP CP S 00:10:00; 1. d4 /
-        open load0,0 start => click, show B all; CPTm - 00:10:00; 1. d4 /
+        open load0,0 start => click, show B all, lists; CPTm - 00:10:00; 1. d4 /
         open load3,2on yes reset => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
         What goes wrong.
         W unload => show all; Rm - 00:01:00 | W no-kill unload => not killed; Rm - 00:01:00
@@ -280,10 +281,20 @@ TEST(GameTest, WhatIsKeptAndPutAside) {
     )");
 }
 
-TEST(GameTest, TheTimesAtThePressesAreRemembered) {
-    ExpectRows(Times, R"(
-        W => / | W 5s W => 55 / | W 5s W 2s B 1s W => 55 54 / 58 | W 5s W B pause => 55 / 60 | W 5s W W => 55 / | W W load3,2on => /
-        W W yes reset => / | load3,2on pause W 1s B => - - 45 / - - 29
+TEST(GameTest, TheTimesAtThePressesAreExportedWithTheMovesThatTheyEnded) {
+    ExpectRows(Exported, R"(
+        A move may be entered before its press or after it, and taken back.
+        open W e2e4 5s W e7e5 => 1. e4 {[%clk 0:00:55]} 1... e5 *
+        open e2e4 W 5s W 2s e7e5 B => 1. e4 {[%clk 0:00:55]} 1... e5 {[%clk 0:00:58]} *
+        open W 5s W e2e4 2s B e7e5 g1f3 => 1. e4 {[%clk 0:00:55]} 1... e5 {[%clk 0:00:58]} 2. Nf3 *
+        open W e2e4 5s W back d2d4 => 1. d4 {[%clk 0:00:55]} *
+        open W e2e4 5s W e7e5 B mate pause 3s W g1f3 => 1. e4 {[%clk 0:00:55]} 1... e5 {[%clk 0:01:00]} 2. Nf3 *
+        While the pad is not where the clock is, no time belongs to its lines: after moves before the first press, or where it was opened late.
+        open e2e4 e7e5 W g1f3 5s W b8c6 B => 1. e4 e5 2. Nf3 Nc6 * | W W B open e2e4 5s W e7e5 B => 1. e4 e5 *
+        W 5s W 2s B open e2e4 e7e5 g1f3 4s W => 1. e4 e5 2. Nf3 {[%clk 0:00:51]} *
+        open W e2e4 5s W close open e2e4 => 1. e4 * | open W e2e4 5s W load3,2on => earlier: 1. d4 *
+        A game may have been begun before it was loaded.
+        open e2e4 load0,0 => earlier: 1. d4 * | open load3,2on yes reset e2e4 => 1. e4 *
     )");
 }
 

@@ -1,4 +1,4 @@
-#include "recorder/TypedMove.h"
+#include "recorder/EditedMove.h"
 
 #include <string_view>
 
@@ -15,14 +15,14 @@ constexpr size_t LongestMove = 8;
 
 }  // namespace
 
-bool TypedMove::TakesKey(wchar_t character, const std::wstring& text) {
+bool EditedMove::TakesKey(wchar_t character, const std::wstring& text) {
     const bool allowed = Allowed.find(character) != std::wstring_view::npos && text.size() < LongestForKeys;
     if (character != Backspace && !allowed) return false;
     lastGood = text;
     return true;
 }
 
-std::wstring TypedMove::Changed(const std::wstring& text) {
+std::wstring EditedMove::Changed(const std::wstring& text) {
     if (text.find(L' ') != std::wstring::npos) {
         lastGood.clear();
         return {};

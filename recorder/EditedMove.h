@@ -3,7 +3,7 @@
 #include <string>
 
 // What the edit field for moves lets in, key by key and as a whole.
-class TypedMove {
+class EditedMove {
   public:
     // An edit begins with this text, however long it is.
     void Begin(const std::wstring& text) { lastGood = text; }
