@@ -124,7 +124,13 @@ void Steps::AddLooks() {
     each("hidden", [](HWND window) { return !IsWindowVisible(window); });
     each("enabled", [](HWND window) { return IsWindowEnabled(window) != 0; });
     each("disabled", [](HWND window) { return window && !IsWindowEnabled(window); });
-    each("in-front", [](HWND window) { return window && window == GetForegroundWindow(); });
+    // Its own thread knows it too: a key that comes before that could go to another window.
+    each("in-front", [](HWND window) {
+        GUITHREADINFO thread{};
+        thread.cbSize = sizeof(thread);
+        return window && window == GetForegroundWindow() &&
+               GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread) && thread.hwndActive == window;
+    });
     each("focus", [this](HWND window) { return window && window == program->Focused(); });
     each("shut", [](HWND list) { return !SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0); });
     Add("see", [this](Words& words) {
@@ -283,7 +289,13 @@ void Steps::AddInput() {
     Add("play", [this](Words& words) {
         while (words.More()) {
             const std::string move = words.Take();
-            for (const size_t at : {0, 2}) Click(Shown(move.substr(at, 2)));
+            for (const size_t at : {0, 2}) {
+                const HWND square = Shown(move.substr(at, 2));
+                const std::wstring before = SpokenName(square);
+                Click(square);
+                // A mouse that goes on before the press is dealt with would drag the piece.
+                Eventually([&] { return SpokenName(square) != before; }, 2000);
+            }
         }
     });
     // Moves by clicks, the clock pressed after each.
