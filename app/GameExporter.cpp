@@ -32,7 +32,8 @@ std::wstring AskForFile(HWND owner, const std::wstring& title) {
     request.lpstrDefExt = L"pgn";
     request.Flags = OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     if (!GetSaveFileNameW(&request)) return L"";
-    return path.c_str();
+    path.resize(path.find(L'\0'));
+    return path;
 }
 
 }  // namespace
