@@ -38,6 +38,8 @@ constexpr std::array ClockEntries{
     Entry{mnuPause, TextId::MenuPause},
     Separator,
     Entry{mnuSetup, TextId::MenuSetup, TextId::MenuSetupKey},
+    Separator,
+    Entry{mnuFullScreen, TextId::MenuFullScreen, TextId::MenuFullScreenKey},
 };
 
 constexpr std::array ScorletEntries{
@@ -112,6 +114,7 @@ UniqueAccelerators MakeClockAccelerators() {
         // Not the entry's own command: the system sends none for a disabled entry, and the player would get no answer.
         ACCEL{FCONTROL | FVIRTKEY, 'S', mnuSetupByKey},
         ACCEL{FVIRTKEY, VK_F6, mnuNextWindow},
+        ACCEL{FVIRTKEY, VK_F11, mnuFullScreen},
     };
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/WindowPlacer.h"
 #include "recorder/frmScorlet.h"
 
 #include <memory>
@@ -7,12 +8,14 @@
 // The Scorlet beside the clock: opened, placed and closed.
 class ClockScorlet {
   public:
-    // `clock`, the form of the clock window, and `game` must outlive it.
-    ClockScorlet(const Surroundings& around, const Form& clock, ScorletGame& game)
-        : around(around), clock(clock), game(game) {}
+    // `clock`, the form of the clock window, `game` and `placer` must outlive it.
+    ClockScorlet(const Surroundings& around, const Form& clock, ScorletGame& game, WindowPlacer& placer)
+        : around(around), clock(clock), game(game), placer(placer) {}
 
     // Null while it is not loaded.
     frmScorlet* Loaded() const { return scorlet.get(); }
+    // Its window, or null.
+    HWND Window() const { return scorlet ? scorlet->Window() : nullptr; }
 
     // Opens it, or brings it to the front, and tells which picture could not be loaded. Throws SystemError.
     void Show();
@@ -29,10 +32,9 @@ class ClockScorlet {
     void Unload() { scorlet.reset(); }
 
   private:
-    RECT PlaceBeside() const;
-
     const Surroundings around;
     const Form& clock;
     ScorletGame& game;
+    WindowPlacer& placer;
     std::unique_ptr<frmScorlet> scorlet;
 };

@@ -1,9 +1,9 @@
 #include "app/frmClock.h"
 
+#include "app/ClockButtons.h"
 #include "app/ClockMenu.h"
 #include "app/ClockNotices.h"
 #include "platform/Dpi.h"
-#include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
 #include "resources/resource.h"
@@ -32,8 +32,10 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       game(game),
       store(around.System.SavedGamesFolder),
       help(around),
+      title(game.Clock(), captions),
       panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
-      scorlet(around, *this, game),
+      placer(around.System.DataFolder + L"Places.txt"),
+      scorlet(around, *this, game, placer),
       printer(around, game),
       exporter(around, game),
       kept(around, *this, game),
@@ -53,16 +55,16 @@ void frmClock::Open() {
     Create(ClassName, captions(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
     accelerators = MakeClockAccelerators();
     panels.Create();
-    for (int id = cmdClock; id <= cmdPause + 1; ++id)
-        Subclass<ButtonProcedure>(Control(id), this, static_cast<UINT_PTR>(id));
+    for (int id = cmdClock; id <= cmdPause + 1; ++id) ActOnPress(Control(id), Window());
     LoadPictures();
-    SetMenu(Window(), MakeClockMenu(captions));
+    menu = MakeClockMenu(captions);
+    SetMenu(Window(), menu);
     panels.ApplyTexts();
-    PlaceWindow();
     game.Begin(*this);
+    const bool maximised = placer.PlaceClock(Window(), settings.OpenScorletAtStart);
     ::SetTimer(Window(), BlinkTimer, BlinkInterval, nullptr);
     ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
-    ShowWindow(Window(), SW_SHOWDEFAULT);
+    ShowWindow(Window(), maximised ? SW_SHOWMAXIMIZED : SW_SHOWDEFAULT);
     UpdateWindow(Window());
     // As a command of its own: what stops it does not stop the clock.
     if (settings.OpenScorletAtStart) PostMessageW(Window(), WM_COMMAND, mnuShowScorlet, 0);
@@ -90,6 +92,11 @@ void frmClock::TellProblems() {
 
 bool frmClock::TakeMessage(MSG& message) {
     panels.Relay(message);
+    const bool here = message.hwnd == Window() || IsChild(Window(), message.hwnd);
+    if (here && fullScreen.On() && message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
+        ToggleFullScreen();
+        return true;
+    }
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
     if (!repeated && !IsForField(message) && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
@@ -104,7 +111,7 @@ void frmClock::ShowSetup() {
     setup.Open(Window());
     setup.RunModal();
     if (!setup.Accepted()) return;
-    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
+    title.Set(Window(), captions(TextId::ProductTitle));
     panels.ShowSettings();
     game.TakeSettings();
 }
@@ -137,30 +144,15 @@ void frmClock::ShowFiles(FilesMode mode) {
     TakeGame(files.Loaded()->Saved, texts(TextId::ProductTitle) + name, true);
 }
 
-void frmClock::TakeGame(const SavedGame& saved, const std::wstring& title, bool opensScorlet) {
+void frmClock::TakeGame(const SavedGame& saved, const std::wstring& newTitle, bool opensScorlet) {
     // First what can fail. No message may come between: the running game goes on behind one.
+    if (opensScorlet) LeaveFullScreen();
     const std::wstring problem = opensScorlet ? scorlet.Open() : L"";
     game.TakeLoadedGame(saved);
     panels.ShowSettings();
-    SetWindowTextW(Window(), title.c_str());
+    title.Set(Window(), newTitle);
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
     if (saved.Mismatched) messageBoxes.Inform(Window(), texts(TextId::FilesMismatched));
-}
-
-void frmClock::PlaceWindow() {
-    const RECT screen = WorkArea(Window());
-    const int screenWidth = screen.right - screen.left, screenHeight = screen.bottom - screen.top;
-
-    // What frame, caption and menu add is known only of a window that has a size.
-    const int width = Scaled(DesignWidth, Dpi()), height = Scaled(DesignHeight, Dpi());
-    SetWindowPos(Window(), nullptr, screen.left, screen.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-    RECT client{};
-    GetClientRect(Window(), &client);
-    const int windowWidth = std::min(2 * width - static_cast<int>(client.right), screenWidth);
-    const int windowHeight = std::min(2 * height - static_cast<int>(client.bottom), screenHeight);
-    SetWindowPos(Window(), nullptr, screen.left + (screenWidth - windowWidth) / 2,
-                 screen.top + (screenHeight - windowHeight) / 2, windowWidth, windowHeight,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmClock::ClockChanged(const ClockChange& change) {
@@ -168,6 +160,7 @@ void frmClock::ClockChanged(const ClockChange& change) {
         if (change.Faces[side]) panels.ShowFace(side);
     }
     if (change.Phase) ShowPhase();
+    if (IsIconic(Window())) title.Show(Window());
 }
 
 void frmClock::ShowPhase() {
@@ -182,15 +175,11 @@ void frmClock::ShowPhase() {
     // A press from the Scorlet must leave the keys there. The clock window puts its focus right when it is activated.
     if (active) FocusRightfulButton();
 
-    // Sleep would stop the ticks.
-    SetThreadExecutionState(ES_CONTINUOUS |
-                            (phase == Phase::Running ? ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED : EXECUTION_STATE{0}));
-
+    Wakefulness::Show(phase);
     UpdateMenu();
 }
 
 void frmClock::UpdateMenu() {
-    const HMENU menu = GetMenu(Window());
     NamePauseEntry(menu, captions, game.Clock().CurrentPhase() == Phase::Paused);
     EnableEntry(menu, mnuSetup, game.Clock().SetupEnabled());
     CheckMenuItem(menu, mnuTurnBoard, MF_BYCOMMAND | (settings.BoardTurned ? MF_CHECKED : MF_UNCHECKED));
@@ -200,7 +189,6 @@ void frmClock::UpdateMenu() {
 
 // What is asked for only here, so that no press waits for it.
 void frmClock::OnOpenMenu() {
-    const HMENU menu = GetMenu(Window());
     EnableEntry(menu, mnuBringBack, kept.HasLast());
     EnableEntry(menu, mnuTakeBack, game.CanTakeBack());
     EnableEntry(menu, mnuRedo, game.CanRedo());
@@ -217,6 +205,7 @@ void frmClock::Tick() {
 }
 
 void frmClock::PlaySound(ClockSound sound) {
+    if (sound == ClockSound::Flag && GetForegroundWindow() != Window()) ClockTitle::Flash(Window());
     modSound::Play(sound == ClockSound::Button ? settings.ButtonSoundName : settings.FlagSoundName);
 }
 
@@ -232,7 +221,7 @@ void frmClock::ReadSettings() {
         // When the reset is done: the message must not stop it. A window that opens tells when all are open.
         if (IsWindowVisible(Window())) PostMessageW(Window(), WM_TELLPROBLEMS, 0, 0);
     }
-    SetWindowTextW(Window(), captions(TextId::ProductTitle).c_str());
+    title.Set(Window(), captions(TextId::ProductTitle));
     panels.ShowSettings();
 }
 
@@ -264,7 +253,22 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
                 panels.Colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: panels.PaintBackground(); return 0;
-        case WM_SIZE: panels.TakeSize(); return 0;
+        case WM_SIZE:
+            title.Show(Window());
+            panels.TakeSize();
+            return 0;
+        case WM_MOUSEMOVE: fullScreen.OnMouseMove(Window(), GET_Y_LPARAM(lParam)); return 0;
+        case WM_SYSCOMMAND:
+            if ((wParam & 0xFFF0) != SC_KEYMENU) break;
+            fullScreen.ShowMenu(Window(), true);
+            Form::Handle(message, wParam, lParam);
+            fullScreen.ShowMenu(Window(), false);
+            return 0;
+        case WM_DISPLAYCHANGE: PostMessageW(Window(), WM_SCREENCHANGED, 0, 0); break;
+        case WM_SETTINGCHANGE:
+            if (wParam == SPI_SETWORKAREA) PostMessageW(Window(), WM_SCREENCHANGED, 0, 0);
+            break;
+        case WM_SCREENCHANGED: OnScreenChanged(); return 0;
         case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_SETCURSOR:
             if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;
@@ -288,7 +292,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ENDSESSION:
             if (wParam) kept.Finish();
             return 0;
-        case WM_POWERBROADCAST: OnPower(wParam); return TRUE;
+        case WM_POWERBROADCAST: wakefulness.OnPower(wParam, game, Window()); return TRUE;
         case WM_TELLSLEEP: messageBoxes.Inform(Window(), texts(TextId::PausedForSleep)); return 0;
         case WM_INITMENUPOPUP: OnOpenMenu(); return 0;
         case WM_SCORLETGONE:
@@ -314,7 +318,9 @@ void frmClock::OnCommand(int id) {
         case mnuExit: DestroyWindow(Window()); return;
         case mnuReset: return game.AskedResetIfStarted();
         case mnuPause: return game.PauseOrResume();
+        case mnuFullScreen: return ToggleFullScreen();
         case mnuShowScorlet:
+            LeaveFullScreen();
             scorlet.Show();
             UpdateMenu();
             return;
@@ -369,39 +375,6 @@ void frmClock::OnButtonKey(int id, WPARAM key) {
     game.PauseOrResume(side);
 }
 
-LRESULT CALLBACK frmClock::ButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                           DWORD_PTR self) {
-    const auto* form = reinterpret_cast<const frmClock*>(self);
-    const bool isClock = PlaceOf(static_cast<int>(id)).Pair == cmdClock;
-    // By way of the window, whose procedure ends all exceptions.
-    const auto act = [&](WPARAM key) -> LRESULT {
-        return SendMessageW(form->Window(), WM_BUTTONKEY, key, static_cast<LPARAM>(id));
-    };
-    switch (message) {
-        case WM_GETDLGCODE: {
-            // All characters, Enter before the dialog keys take it, and the arrows, which would move the focus away.
-            const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
-            return DefSubclassProc(button, message, wParam, lParam) | DLGC_WANTCHARS | DLGC_WANTARROWS |
-                   (enter ? DLGC_WANTMESSAGE : 0);
-        }
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK: return act(0);
-        case WM_KEYDOWN:
-            if (wParam == VK_RETURN || (isClock && wParam == VK_SPACE))
-                return HIWORD(lParam) & KF_REPEAT ? 0 : act(wParam);
-            break;
-        case WM_KEYUP:
-            if (isClock && wParam == VK_SPACE) return 0;
-            break;
-        case WM_CHAR:
-            if (IsPauseKey(wParam)) return act('p');
-            break;
-        default: break;
-    }
-    return DefSubclassProc(button, message, wParam, lParam);
-}
-
 bool frmClock::OnSetCursor() {
     POINT point{};
     GetCursorPos(&point);
@@ -415,14 +388,27 @@ bool frmClock::OnSetCursor() {
 }
 
 void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
-    RECT window{}, client{};
-    GetWindowRect(Window(), &window);
-    GetClientRect(Window(), &client);
-    const LONG frameWidth = window.right - window.left - client.right;
-    const LONG frameHeight = window.bottom - window.top - client.bottom;
+    WindowPlacer::LimitClock(Window(), info);
+    const RECT screen = WorkArea(Window());
     const LONG designed = MulDiv(around.System.Look.WindowHeight, Dpi(), 1440);
-    info.ptMinTrackSize.x = Scaled(LeastWidth, Dpi()) + frameWidth;
-    info.ptMinTrackSize.y = std::max(Scaled(LeastHeight, Dpi()) + frameHeight, designed);
+    info.ptMinTrackSize.y = std::max(info.ptMinTrackSize.y, std::min(designed, screen.bottom - screen.top));
+}
+
+void frmClock::ToggleFullScreen() {
+    if (fullScreen.On()) return LeaveFullScreen();
+    fullScreen.Begin(Window());
+    SetForegroundWindow(Window());
+}
+
+void frmClock::LeaveFullScreen() {
+    if (fullScreen.On()) fullScreen.End(Window());
+}
+
+void frmClock::OnScreenChanged() {
+    if (fullScreen.On())
+        fullScreen.Fill(Window());
+    else
+        WindowPlacer::OnScreenChanged(Window(), scorlet.Window());
 }
 
 void frmClock::OnTimer(UINT_PTR id) {
@@ -444,18 +430,11 @@ void frmClock::FocusRightfulButton() {
     SetFocus(Window());
 }
 
-void frmClock::OnPower(WPARAM event) {
-    if (event == PBT_APMSUSPEND) {
-        slept = game.PauseIfRunning() || slept;
-    } else if (event == PBT_APMRESUMEAUTOMATIC || event == PBT_APMRESUMESUSPEND) {
-        // Posted: the system waits for the answer.
-        if (std::exchange(slept, false)) PostMessageW(Window(), WM_TELLSLEEP, 0, 0);
-    }
-}
-
 void frmClock::Unload() {
+    LeaveFullScreen();
+    placer.Keep(Window(), scorlet.Window());
     kept.Finish();
     help.Close(GetWindow(Window(), GW_HWNDFIRST));
     game.Unload();
-    SetThreadExecutionState(ES_CONTINUOUS);
+    Wakefulness::Show(Phase::Idle);
 }

@@ -2,10 +2,13 @@
 
 #include "app/ClockPanels.h"
 #include "app/ClockScorlet.h"
+#include "app/ClockTitle.h"
 #include "app/EditorPrinter.h"
+#include "app/FullScreen.h"
 #include "app/GameExporter.h"
 #include "app/HelpWindow.h"
 #include "app/KeptGames.h"
+#include "app/Wakefulness.h"
 #include "clock/TickTimer.h"
 #include "games/Game.h"
 #include "games/frmFiles.h"
@@ -48,9 +51,11 @@ class frmClock : public Form, private ClockView {
     void ShowHelp(HelpPage page);
     void TurnBoard();
     void ShowFiles(FilesMode mode);
-    void TakeGame(const SavedGame& saved, const std::wstring& title, bool opensScorlet);
+    void TakeGame(const SavedGame& saved, const std::wstring& newTitle, bool opensScorlet);
     void UpdateMenu();
-    void PlaceWindow();
+    void ToggleFullScreen();
+    void LeaveFullScreen();
+    void OnScreenChanged();
     void ShowPhase();
     void Tick();
     void TellProblems();
@@ -62,13 +67,8 @@ class frmClock : public Form, private ClockView {
     bool OnSetCursor();
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnTimer(UINT_PTR id);
-    void OnPower(WPARAM event);
     void FocusRightfulButton();
     void Unload();
-
-    // Clock and pause buttons act when the mouse button or the key goes down.
-    static LRESULT CALLBACK ButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                            DWORD_PTR self);
 
     const SettingsFile& settingsFile;
     Settings& settings;
@@ -76,14 +76,18 @@ class frmClock : public Form, private ClockView {
     const GameStore store;
 
     HelpWindow help;
+    ClockTitle title;
     ClockPanels panels;
+    WindowPlacer placer;
     ClockScorlet scorlet;
     EditorPrinter printer;
     GameExporter exporter;
     KeptGames kept;
     const KeptGames::Take bringBack;  // a game that was kept takes the place of the present one
     bool toKeep = false;              // WM_KEEPGAME is on its way
-    bool slept = false;               // a clock that ran was paused for it
+    HMENU menu = nullptr;             // the window's own, shown or not
+    FullScreen fullScreen;
+    Wakefulness wakefulness;
     UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told

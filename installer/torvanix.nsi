@@ -203,6 +203,8 @@ Section /o "un.$(GamesAndSettings)" GamesAndSettings
   ${If} $0 <> 1
     Delete "$INSTDIR\Data\TORVANIX.set"
     Delete "$INSTDIR\Data\TORVANIX.set.new"
+    Delete "$INSTDIR\Data\Places.txt"
+    Delete "$INSTDIR\Data\Places.txt.new"
     Delete "$INSTDIR\Data\Game*.kept*"
     Delete "$INSTDIR\Data\Game*.last*"
   ${EndIf}

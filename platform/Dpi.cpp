@@ -13,3 +13,14 @@ int DpiOf(HWND window) {
     ReleaseDC(nullptr, screen);
     return dpi;
 }
+
+RECT FrameOf(DWORD style, bool menu, int dpi) {
+    // Since Windows 10 the frame has the resolution of the window's screen.
+    using Function = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
+    static const auto adjustForDpi = reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "AdjustWindowRectExForDpi")));
+    RECT frame{};
+    if (!adjustForDpi || !adjustForDpi(&frame, style, menu, 0, static_cast<UINT>(dpi)))
+        AdjustWindowRectEx(&frame, style, menu, 0);
+    return frame;
+}

@@ -11,6 +11,7 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -30,13 +31,7 @@ frmScorlet::~frmScorlet() {
     game.CloseRecord();
 }
 
-SIZE frmScorlet::DesignSize(int dpi) {
-    RECT area{0, 0, Scaled(ScorletWidth, dpi), Scaled(ScorletHeight, dpi)};
-    AdjustWindowRectEx(&area, Style, FALSE, 0);
-    return {area.right - area.left, area.bottom - area.top};
-}
-
-std::wstring frmScorlet::Open(const RECT& place) {
+std::wstring frmScorlet::Open(const Box& place) {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     handPointBlue.reset(static_cast<HCURSOR>(
         LoadImageW(program, L"HANDPOINTBLUE.CUR", IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR)));
@@ -49,8 +44,7 @@ std::wstring frmScorlet::Open(const RECT& place) {
         problem = texts.Compose(TextId::PictureNotLoaded, error.Thing(), texts.Reason(error.Code()));
     }
     ApplyTexts();
-    SetWindowPos(Window(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(Window(), nullptr, place.Left, place.Top, place.Width, place.Height, SWP_NOZORDER | SWP_NOACTIVATE);
     ShowRecord();
     ShowWindow(Window(), SW_SHOWNOACTIVATE);
     UpdateWindow(Window());
@@ -469,7 +463,8 @@ bool frmScorlet::OnSetCursor() const {
 }
 
 void frmScorlet::OnGetMinMaxInfo(MINMAXINFO& info) const {
-    RECT area{0, 0, Scaled(ScorletLeastWidth, Dpi()), Scaled(ScorletLeastHeight, Dpi())};
-    AdjustWindowRectEx(&area, Style, FALSE, 0);
-    info.ptMinTrackSize = {area.right - area.left, area.bottom - area.top};
+    const RECT frame = FrameOf(Style, false, Dpi()), screen = WorkArea(Window());
+    const LONG width = Scaled(ScorletLeastWidth, Dpi()) + frame.right - frame.left;
+    const LONG height = Scaled(ScorletLeastHeight, Dpi()) + frame.bottom - frame.top;
+    info.ptMinTrackSize = {std::min(width, screen.right - screen.left), std::min(height, screen.bottom - screen.top)};
 }

@@ -28,13 +28,10 @@ class frmScorlet : public Form, private RecordView {
 
     // Opens the window at `place` on the screen, without taking the focus. The text, empty on success, says which
     // picture could not be loaded; moves can be entered all the same. Throws SystemError.
-    std::wstring Open(const RECT& place);
+    std::wstring Open(const Box& place);
 
     // Keys of the window. True: the message is done with.
     bool TakeMessage(MSG& message);
-
-    // The size of a window whose client area has the size of the design, for the resolution of `dpi`.
-    static SIZE DesignSize(int dpi);
 
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -54,6 +54,7 @@ enum ClockControl : int {
     mnuSetupByKey,
     mnuScorletHelp,
     mnuTurnBoard,  // in the Scorlet menu
+    mnuFullScreen,
 };
 
 // The Scorlet.
@@ -161,6 +162,7 @@ enum ClockMessage : unsigned {
     WM_KEEPGAME,            // the game has changed and is to be kept, when all is drawn
     WM_KEEPFAILED,          // it could not be, for the reason with the code in wParam
     WM_TELLSLEEP,           // the computer is awake again: a clock was paused
+    WM_SCREENCHANGED,       // the screen or its task bar has changed
 };
 enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board

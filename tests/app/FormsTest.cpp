@@ -56,8 +56,9 @@ struct Maker {
     }
     std::unique_ptr<Form> Scorlet() {
         Played.Begin(None);
-        const SIZE size = frmScorlet::DesignSize(96);
-        return Open(new frmScorlet(Around, Played, nullptr), RECT{0, 0, size.cx, size.cy});
+        const RECT frame = FrameOf(WS_OVERLAPPEDWINDOW, false, 96);
+        return Open(new frmScorlet(Around, Played, nullptr),
+                    Box{0, 0, ScorletWidth + frame.right - frame.left, ScorletHeight + frame.bottom - frame.top});
     }
     std::unique_ptr<Form> Setup(int32_t type) {
         Options.SetClockType(type);

@@ -1,5 +1,6 @@
 #include "tests/desktop/Steps.h"
 
+#include "app/WindowPlaces.h"
 #include "platform/Ansi.h"
 #include "platform/Process.h"
 #include "settings/SettingsRecord.h"
@@ -11,16 +12,17 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <sstream>
 
 // The words of the steps.
 
 namespace {
 
 const std::map<std::string, WORD> NamedKeys{
-    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE},    {"Tab", VK_TAB},      {"Back", VK_BACK},
-    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},         {"Down", VK_DOWN},    {"Home", VK_HOME},
-    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},     {"F1", VK_F1},        {"F4", VK_F4},
-    {"F6", VK_F6},       {"F10", VK_F10},       {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
+    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},       {"Back", VK_BACK},
+    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},      {"Down", VK_DOWN},     {"Home", VK_HOME},
+    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},  {"F1", VK_F1},         {"F4", VK_F4},
+    {"F6", VK_F6},       {"F10", VK_F10},       {"F11", VK_F11},    {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
 };
 
 WORD CodeOf(const std::string& key) { return key.size() == 1 ? static_cast<WORD>(key[0]) : NamedKeys.at(key); }
@@ -85,6 +87,17 @@ size_t LoudSamples() {
 HWND EditorText() {
     const HWND editor = FindWindowW(L"Notepad", nullptr);
     return editor && IsWindowVisible(editor) ? GetWindow(editor, GW_CHILD) : nullptr;
+}
+
+Box BoxOf(HWND window) {
+    const RECT area = AreaOf(window);
+    return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+std::string TextOf(const Box& box) {
+    std::ostringstream text;
+    text << box.Left << ":" << box.Top << " " << box.Width << "x" << box.Height;
+    return text.str();
 }
 
 DWORD ExitCodeOf(HANDLE process) {
@@ -198,6 +211,37 @@ void Steps::AddLooks() {
         Click(Shown(words.Take()));
         Until([&] { return !IsWindow(box); }, "the message stays");
     });
+    // Both windows lie in the work area, and neither covers the other.
+    Add("apart", [this](Words&) {
+        Until(
+            [this] {
+                const HWND clock = Find("frmClock"), scorlet = Find("frmScorlet");
+                RECT work{};
+                SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+                return IsWindowVisible(clock) && IsWindowVisible(scorlet) &&
+                       BothInSight({BoxOf(clock), BoxOf(scorlet)},
+                                   {work.left, work.top, work.right - work.left, work.bottom - work.top});
+            },
+            "they are not");
+    });
+    // The places of windows, and that they come back there.
+    Add("note-places", [this](Words& words) {
+        for (std::string name; words.More();) places[name] = BoxOf(Shown(name = words.Take()));
+    });
+    Add("in-place", [this](Words& words) {
+        for (std::string name; words.More();)
+            Await([&] { return TextOf(BoxOf(Find(name))); }, TextOf(places.at(name = words.Take())));
+    });
+    // The client area of a window is the whole screen.
+    Add("full-screen", [this](Words&) {
+        Until(
+            [this] {
+                RECT client{};
+                GetClientRect(Find("frmClock"), &client);
+                return client.right == GetSystemMetrics(SM_CXSCREEN) && client.bottom == GetSystemMetrics(SM_CYSCREEN);
+            },
+            "it is not");
+    });
     // Until what has been sent to the window so far has been dealt with.
     Add("settle", [this](Words&) { SendMessageW(program->Clock(), WM_NULL, 0, 0); });
     Add("runs", [this](Words&) { Until([this, before = Face()] { return Face() != before; }, "the clock stands"); });
@@ -305,6 +349,17 @@ void Steps::AddInput() {
             Do("play " + move + " / see " + move.substr(0, 2) + " O / key Space");
             Until([&] { return Counts() != before; }, "the clock is not pressed after " + move);
         }
+    });
+    Add("minimise", [this](Words& words) { ShowWindowAsync(Shown(words.Take()), SW_MINIMIZE); });
+    Add("restore", [this](Words& words) { ShowWindowAsync(Find(words.Take()), SW_RESTORE); });
+    Add("screen", [](Words& words) {
+        DEVMODEW mode{};
+        mode.dmSize = sizeof(mode);
+        mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
+        mode.dmPelsWidth = static_cast<DWORD>(words.Number());
+        mode.dmPelsHeight = static_cast<DWORD>(words.Number());
+        ChangeDisplaySettingsW(&mode, 0);
+        Await([] { return std::to_string(GetSystemMetrics(SM_CXSCREEN)); }, std::to_string(mode.dmPelsWidth));
     });
     Add("resize", [this](Words& words) {
         const HWND window = Shown(words.Take());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Box.h"
 #include "tests/desktop/Desktop.h"
 
 #include <chrono>
@@ -58,6 +59,7 @@ class Steps {
 
     TestFolder folder;
     std::unique_ptr<ProgramRun> program, other;  // that runs beside it
+    std::map<std::string, Box> places;           // that have been noted
     std::vector<std::string> states;             // of the game, that have been noted
     size_t compared = 0;                         // of these
     bool cameBack[2]{};                          // after a kill: the state before, the one after

@@ -1,0 +1,67 @@
+#include "app/WindowPlaces.h"
+
+#include "clock/ClockLayout.h"
+#include "recorder/ScorletLayout.h"
+
+#include <algorithm>
+
+namespace {
+
+FrameSize WindowOf(const Screen& screen, int width, int height, const FrameSize& frame) {
+    const auto scaled = [&](int length) { return (length * screen.Dpi + 48) / 96; };
+    return {std::min(scaled(width) + frame.Width, screen.WorkArea.Width),
+            std::min(scaled(height) + frame.Height, screen.WorkArea.Height)};
+}
+
+bool Inside(const Box& box, const Box& area) {
+    return box.Left >= area.Left && box.Top >= area.Top && box.Right() <= area.Right() && box.Bottom() <= area.Bottom();
+}
+
+}  // namespace
+
+FrameSize LeastClock(const Screen& screen) { return WindowOf(screen, LeastWidth, LeastHeight, screen.ClockFrame); }
+
+FrameSize LeastScorlet(const Screen& screen) {
+    return WindowOf(screen, ScorletLeastWidth, ScorletLeastHeight, screen.ScorletFrame);
+}
+
+Box BroughtInto(const Box& box, const Box& area) {
+    const int width = std::min(box.Width, area.Width), height = std::min(box.Height, area.Height);
+    return {std::clamp(box.Left, area.Left, area.Right() - width),
+            std::clamp(box.Top, area.Top, area.Bottom() - height), width, height};
+}
+
+bool BothInSight(const WindowPlaces& places, const Box& workArea) {
+    const auto& [clock, scorlet] = places;
+    const bool apart = clock.Right() <= scorlet.Left || scorlet.Right() <= clock.Left ||
+                       clock.Bottom() <= scorlet.Top || scorlet.Bottom() <= clock.Top;
+    return apart && Inside(clock, workArea) && Inside(scorlet, workArea);
+}
+
+Box PlaceClock(const Screen& screen) {
+    const Box& area = screen.WorkArea;
+    const FrameSize size = WindowOf(screen, DesignWidth, DesignHeight, screen.ClockFrame);
+    return {area.Left + (area.Width - size.Width) / 2, area.Top + (area.Height - size.Height) / 2, size.Width,
+            size.Height};
+}
+
+WindowPlaces PlaceBoth(const Screen& screen, const Box& clock) {
+    const Box& area = screen.WorkArea;
+    const FrameSize wanted = WindowOf(screen, ScorletWidth, ScorletHeight, screen.ScorletFrame);
+    const FrameSize least = LeastScorlet(screen);
+    WindowPlaces places{BroughtInto(clock, area), {0, 0, wanted.Width, wanted.Height}};
+    if (places.Clock.Width + wanted.Width > area.Width) {
+        const int narrowed = std::max(LeastClock(screen).Width, area.Width - wanted.Width);
+        // All the height makes the digits larger.
+        places.Clock = {area.Left, area.Top, std::min(places.Clock.Width, narrowed), area.Height};
+        places.Scorlet.Width = std::clamp(area.Width - places.Clock.Width, least.Width, wanted.Width);
+        // A narrow one has its lists below the board.
+        if (places.Scorlet.Width < wanted.Width) places.Scorlet.Height = area.Height;
+    }
+    places.Clock.Left =
+        std::max(std::min(places.Clock.Left, area.Right() - wanted.Width - places.Clock.Width), area.Left);
+    places.Scorlet.Left = places.Clock.Right();
+    places.Scorlet.Top = places.Clock.Top;
+    places.Scorlet = BroughtInto(places.Scorlet, area);
+    return places;
+}

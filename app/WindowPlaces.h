@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Box.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Where the clock window and the Scorlet are: whole windows with their frames, in pixels.
+
+// What frame, title and menu add to a client area.
+struct FrameSize {
+    int Width, Height;
+};
+
+// The screen that the windows are on.
+struct Screen {
+    Box WorkArea;  // what the task bar leaves free
+    int Dpi;
+    FrameSize ClockFrame, ScorletFrame;
+};
+
+struct WindowPlaces {
+    Box Clock, Scorlet;
+};
+
+// The smallest size of a window whose client area has the least size of the design. A work area that is smaller still
+// is filled.
+FrameSize LeastClock(const Screen& screen);
+FrameSize LeastScorlet(const Screen& screen);
+
+// Moved, and cut where it is too large, to lie in an area.
+Box BroughtInto(const Box& box, const Box& area);
+
+// Whether both are in the work area and neither covers the other.
+bool BothInSight(const WindowPlaces& places, const Box& workArea);
+
+// The clock alone: as it was designed, in the middle of the work area.
+Box PlaceClock(const Screen& screen);
+
+// The Scorlet at the right of a clock that was there, which moves to the left as far as that asks for. Where the work
+// area is too narrow for both, they fill its width: first the clock becomes narrower and then the Scorlet, down to
+// their least widths. Where even these are too wide, the Scorlet covers the clock.
+WindowPlaces PlaceBoth(const Screen& screen, const Box& clock);
