@@ -1,12 +1,7 @@
 #include "recorder/EntryField.h"
 
 #include "platform/Subclass.h"
-
-namespace {
-
-constexpr bool Ends(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE; }
-
-}  // namespace
+#include "recorder/EndingKeys.h"
 
 void EntryField::Create(UINT message, DWORD style) {
     endMessage = message;
@@ -26,16 +21,12 @@ LRESULT CALLBACK EntryField::Procedure(HWND field, UINT message, WPARAM wParam, 
                                        DWORD_PTR self) {
     const auto& entry = *reinterpret_cast<const EntryField*>(self);
     switch (message) {
-        case WM_GETDLGCODE: {
-            const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const bool own = key && key->message == WM_KEYDOWN && Ends(key->wParam);
-            return DefSubclassProc(field, message, wParam, lParam) | (own ? DLGC_WANTMESSAGE : 0);
-        }
+        case WM_GETDLGCODE: return DefSubclassProc(field, message, wParam, lParam) | WantsEndingKeys(lParam);
         case WM_KEYDOWN:
-            if (Ends(wParam)) return SendMessageW(entry.form.Window(), entry.endMessage, wParam == VK_RETURN, 0);
+            if (IsEndingKey(wParam)) return SendMessageW(entry.form.Window(), entry.endMessage, wParam == VK_RETURN, 0);
             break;
         case WM_CHAR:
-            if (Ends(wParam)) return 0;
+            if (IsEndingKey(wParam)) return 0;
             break;
         default: break;
     }

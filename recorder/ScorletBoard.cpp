@@ -2,6 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/Subclass.h"
+#include "recorder/EndingKeys.h"
 
 #include <commctrl.h>
 
@@ -101,15 +102,10 @@ LRESULT CALLBACK ScorletBoard::Procedure(HWND control, UINT message, WPARAM wPar
                                          DWORD_PTR self) {
     const auto& board = *reinterpret_cast<const ScorletBoard*>(self);
     switch (message) {
-        case WM_GETDLGCODE: {
-            const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const bool own =
-                key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
-            return DLGC_WANTARROWS | DLGC_WANTCHARS | (own ? DLGC_WANTMESSAGE : 0);
-        }
+        case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS | WantsEndingKeys(lParam);
         case WM_KEYDOWN:
             // A held arrow moves on; a held Enter must not pick and drop in turns.
-            if (HIWORD(lParam) & KF_REPEAT && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
+            if (HIWORD(lParam) & KF_REPEAT && IsEndingKey(wParam)) return 0;
             if (SendMessageW(board.form.Window(), WM_BOARDKEY, wParam, 0)) return 0;
             break;
         case WM_CHAR:

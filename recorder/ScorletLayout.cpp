@@ -7,8 +7,20 @@ namespace {
 // The most pieces that a side can lose.
 constexpr int MostCaptured = 15;
 
-// The window sizes from which on the lengths grow, at 96 dpi: with the lists beside the board and below it.
-constexpr int BelowWidth = 400, BelowHeight = 720;
+// Sizes of the window at 96 dpi, for the lists beside the board and below it: from the one on the lengths grow, and
+// under the other they shrink.
+struct Size {
+    int Width, Height;
+    // How many of it go into a window, in 96ths.
+    constexpr int In(int width, int height) const { return std::min(width * 96 / Width, height * 96 / Height); }
+};
+constexpr Size BesideGrows{ScorletWidth, ScorletHeight}, BelowGrows{400, 720};
+constexpr Size BesideShrinks{560, 460}, BelowShrinks{360, 620};
+
+constexpr int ScaleOf(int width, int height, int dpi, const Size& grows, const Size& shrinks) {
+    const int grown = std::max(dpi, grows.In(width, height));
+    return std::min(grown, std::max(shrinks.In(width, height), dpi * 3 / 4));
+}
 
 constexpr int RoundedUpHalf(int length) { return (length + 1) / 2; }
 
@@ -19,8 +31,10 @@ class Arrangement {
         : width(width),
           height(height),
           below(below),
-          scale(std::max(dpi, std::min(width * 96 / (below ? BelowWidth : ScorletWidth),
-                                       height * 96 / (below ? BelowHeight : ScorletHeight)))) {
+          scale(below ? ScaleOf(width, height, dpi, BelowGrows, BelowShrinks)
+                      : ScaleOf(width, height, dpi, BesideGrows, BesideShrinks)),
+          // Half of what they are where the rest is three quarters.
+          picture((36 * std::min(scale, 2 * scale - dpi) + 48) / 96) {
         layout.Edge = Unit(18);
         layout.Type = Unit(13);
         layout.CoordinateType = Unit(12);
@@ -35,7 +49,7 @@ class Arrangement {
 
     // What the lists and all that belongs to them need at least.
     int ColumnWidth() const { return std::max(Unit(216), width * 30 / 100); }
-    int ListsHeight() const { return field + Unit(32) + 3 * gap + line + Unit(80) + line + picture; }
+    int ListsHeight() const { return field + Unit(32) + 3 * gap + line + Unit(56) + line + picture; }
 
     void PlaceBoard() {
         const int roomWidth = width - 2 * margin - layout.Edge - (below ? 0 : ColumnWidth() + margin);
@@ -88,8 +102,9 @@ class Arrangement {
 
     const int width, height;
     const bool below;
-    const int scale;  // dots per inch
-    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24), picture = Unit(36);
+    const int scale;    // dots per inch
+    const int picture;  // side of a choice of the promotion picker
+    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24);
     ScorletLayout layout{};
 };
 

@@ -42,5 +42,6 @@ inline constexpr int ScorletWidth = 720, ScorletHeight = 590;
 inline constexpr int ScorletLeastWidth = 304, ScorletLeastHeight = 384;
 
 // The lists lie beside the board or, where that makes the squares clearly larger, below it. The board takes the room
-// that there is; everything else grows with the window, from the size that the resolution asks for.
+// that there is. Everything else has the size that the resolution asks for in a window of the design's size, grows with
+// a larger one, and shrinks in a small one to no less than three quarters, the promotion pictures to half.
 ScorletLayout LayOutScorlet(int width, int height, int dpi, bool turned);

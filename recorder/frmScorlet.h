@@ -3,17 +3,9 @@
 #include "platform/Form.h"
 #include "recorder/BoardInput.h"
 #include "recorder/BoardMouse.h"
-#include "recorder/MoveField.h"
-#include "recorder/PromotionPicker.h"
-#include "recorder/SayList.h"
-#include "recorder/ScorletBoard.h"
+#include "recorder/ScorletControls.h"
 #include "recorder/ScorletGame.h"
-#include "recorder/ScorletLists.h"
-#include "recorder/ScorletPainter.h"
-#include "recorder/TypedMoveField.h"
-#include "recorder/WhoseMoveLine.h"
 
-#include <array>
 #include <optional>
 
 // The Scorlet window: the board, the captured pieces, the promotion picker, the Say list and the move lists.
@@ -35,20 +27,18 @@ class frmScorlet : public Form, private RecordView {
 
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
-    std::wstring SpokenName(int id) const override;
-    std::wstring SpokenPart(int id, int part) const override;
+    std::wstring SpokenName(int id) const override { return controls.SpokenName(captions, id); }
+    std::wstring SpokenPart(int id, int part) const override { return controls.SpokenPart(id, part); }
     void RecordChanged(const ChosenLines& chosen) override;
     void RecordReplaced() override;
     void RecordStepped(const ChosenLines& chosen) override;
-    ChosenLines Chosen() const override { return lists.Chosen(); }
-    void ShowWhoseMove() override { whoseMove.Show(captions, game.NextMove()); }
+    ChosenLines Chosen() const override { return controls.Lists.Chosen(); }
+    void ShowWhoseMove() override { controls.WhoseMove.Show(captions, game.NextMove()); }
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
     // After the window has changed it.
     void ShowEdit(std::optional<ChosenLine> chosen = std::nullopt);
-    void CreateControls();
-    void ApplyTexts();
     void Arrange();
     void ShowNames();
     void ShowBoard();
@@ -63,35 +53,17 @@ class frmScorlet : public Form, private RecordView {
     void Promote(PieceKind kind);
     void EndTyping(bool enter);
     bool OnContextMenu(HWND control, POINT point);  // true: the control has a menu of its own
-    void BeginEdit(Side side);
     void EndEdit(bool accept);
-    void OnDrawItem(const DRAWITEMSTRUCT& item) const;
-    HBRUSH OnColour(HDC dc, int id) const;
     bool OnSetCursor() const;
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     int ChildAt(POINT point) const;
-    bool Editing() const { return edited.has_value(); }
 
     ScorletGame& game;
     Recorder& recorder;
     const HWND shell;
     BoardInput input{recorder};
-    MoveField field{*this};
-    TypedMoveField typing{*this};
-    SayList say{*this};
-    WhoseMoveLine whoseMove{*this};
-    ScorletLists lists{*this, recorder};
-    // The entry that is open in the edit field, and how it was.
-    struct Edited {
-        ChosenLine Line;
-        MoveEntry Entry;
-    };
-    std::optional<Edited> edited;
+    ScorletControls controls{*this, recorder, input};
+    BoardMouse mouse{*this, input, controls.Painter, controls.Layout};
     Side menuList = White;
-    ScorletPainter painter;
-    PromotionPicker picker{*this, recorder, input, painter};
-    ScorletLayout layout{};
-    ScorletBoard board{*this, recorder, input, painter};
-    BoardMouse mouse{*this, input, painter, layout};
     UniqueCursor handPointBlue;
 };
