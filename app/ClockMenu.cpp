@@ -36,6 +36,7 @@ constexpr std::array GameEntries{
 constexpr std::array ClockEntries{
     Entry{mnuReset, TextId::MenuReset, TextId::MenuResetKey},
     Entry{mnuPause, TextId::MenuPause},
+    Entry{mnuCorrect, TextId::MenuCorrect, NoKey, false},
     Separator,
     Entry{mnuSetup, TextId::MenuSetup, TextId::MenuSetupKey},
     Separator,
@@ -117,6 +118,16 @@ UniqueAccelerators MakeClockAccelerators() {
         ACCEL{FVIRTKEY, VK_F11, mnuFullScreen},
     };
     return UniqueAccelerators(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
+}
+
+std::optional<bool> PlayerKey(const MSG& message) {
+    // By scan codes, which belong to places; see "Keyboard Input Overview" of the Win32 documentation.
+    constexpr int PlaceOfA = 0x1E, PlaceOfApostrophe = 0x28;
+    const int code = HIWORD(message.lParam) & 0xFF;
+    const bool alone = GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_MENU) >= 0;
+    const bool down = message.message == WM_KEYDOWN && !(HIWORD(message.lParam) & (KF_REPEAT | KF_EXTENDED));
+    if (!down || !alone || (code != PlaceOfA && code != PlaceOfApostrophe)) return std::nullopt;
+    return code == PlaceOfApostrophe;
 }
 
 bool IsForField(const MSG& message) {

@@ -63,6 +63,12 @@ void ClockPanels::Create() {
 }
 
 void ClockPanels::LoadPictures() {
+    const auto cursor = [](const wchar_t* name) {
+        return static_cast<HCURSOR>(
+            LoadImageW(GetModuleHandleW(nullptr), name, IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR));
+    };
+    handHit.reset(cursor(L"HANDHIT.CUR"));
+    handPointBlue.reset(cursor(L"HANDPOINTBLUE.CUR"));
     hand = Picture::OfIcon(L"HAND", HandImageSize);
     flagUp = Picture(*modResource::LoadResourcePicture("FLAGUP"));
     flagDown = Picture(*modResource::LoadResourcePicture("FLAGDOWN"));
@@ -243,6 +249,15 @@ std::wstring ClockPanels::SpokenName(int id) const {
 Place ClockPanels::PlaceAt(POINT point) const {
     const HWND child = ChildWindowFromPointEx(form.Window(), point, CWP_SKIPINVISIBLE);
     return child && child != form.Window() ? PlaceOf(GetDlgCtrlID(child)) : Place{};
+}
+
+HCURSOR ClockPanels::CursorAt(POINT point) const {
+    switch (PlaceAt(point).Pair) {
+        case imgHand: return handHit.get();
+        case imgFlagUp:
+        case imgFlagDown: return handPointBlue.get();
+        default: return nullptr;
+    }
 }
 
 std::wstring ClockPanels::MarkWord(Side side) const {

@@ -3,6 +3,7 @@
 #include "clock/ClockCommands.h"
 #include "clock/ClockPainter.h"
 #include "platform/Form.h"
+#include "platform/Handles.h"
 #include "platform/Picture.h"
 #include "platform/ToolTips.h"
 #include "settings/Settings.h"
@@ -52,6 +53,9 @@ class ClockPanels {
     // The visible control at a point of the window, enabled or not.
     Place PlaceAt(POINT point) const;
 
+    // The pointer over that place; null for the usual one.
+    HCURSOR CursorAt(POINT point) const;
+
     // A message on its way to the window, which tool tips may want to see.
     void Relay(MSG& message) const { toolTips.Relay(message); }
 
@@ -77,5 +81,6 @@ class ClockPanels {
     std::array<PanelLook, 2> shown{};  // by the panels
     RECT arranged{};                   // the client area that the layout is for
     Picture flagUp, flagDown, hand;
+    UniqueCursor handHit, handPointBlue;
     ToolTips toolTips;
 };

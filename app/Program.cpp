@@ -70,7 +70,7 @@ int RunProgram() {
 
     TickTimer timer;
     Game game(settings, timer);
-    frmClock clockWindow({texts, messageBoxes, environment}, settingsFile, settings, game, timer);
+    frmClock clockWindow({texts, messageBoxes, environment, fileSystem}, settingsFile, settings, game, timer);
     try {
         clockWindow.Open();
     } catch (const std::exception& error) {

@@ -3,6 +3,8 @@
 #include "app/ClockButtons.h"
 #include "app/ClockMenu.h"
 #include "app/ClockNotices.h"
+#include "clock/frmCorrection.h"
+#include "platform/Ansi.h"
 #include "platform/Dpi.h"
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
@@ -19,6 +21,8 @@
 namespace {
 
 constexpr wchar_t ClassName[] = L"frmClock";
+
+constexpr int32_t ClockCorrectedCode = 31740;  // of the log
 
 constexpr UINT BlinkInterval = 500, HelpInterval = 2000;  // milliseconds
 
@@ -72,12 +76,6 @@ void frmClock::Open() {
 }
 
 void frmClock::LoadPictures() {
-    const auto cursor = [](const wchar_t* name) {
-        return static_cast<HCURSOR>(
-            LoadImageW(GetModuleHandleW(nullptr), name, IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_DEFAULTCOLOR));
-    };
-    handHit.reset(cursor(L"HANDHIT.CUR"));
-    handPointBlue.reset(cursor(L"HANDPOINTBLUE.CUR"));
     // Without a picture the clock still runs.
     try {
         panels.LoadPictures();
@@ -95,6 +93,11 @@ bool frmClock::TakeMessage(MSG& message) {
     const bool here = message.hwnd == Window() || IsChild(Window(), message.hwnd);
     if (here && fullScreen.On() && message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
         ToggleFullScreen();
+        return true;
+    }
+    if (const auto right = here ? PlayerKey(message) : std::nullopt) {
+        // By way of the window, whose procedure ends all exceptions.
+        SendMessageW(Window(), WM_PLAYERKEY, *right, 0);
         return true;
     }
     // A held Ctrl+T must not ask to reset the game that it has just started.
@@ -126,6 +129,18 @@ void frmClock::ShowAbout() {
     frmAbout about(around);
     about.Open(Window());
     about.RunModal();
+}
+
+void frmClock::ShowCorrection() {
+    if (!game.Clock().CanCorrect()) return;
+    const modClock::ClockState& state = game.Clock().Clock().State();
+    frmCorrection form(around, state, {Text(lblSide), Text(lblSide + 1)});
+    form.Open(Window());
+    form.RunModal();
+    if (!form.Accepted()) return;
+    const std::string before = TextOf(CorrectionOf(state));
+    game.Correct(*form.Accepted());
+    around.Log.WriteLog(ClockCorrectedCode, 0, FromAnsi(before + " > " + TextOf(CorrectionOf(state))));
 }
 
 void frmClock::TurnBoard() {
@@ -181,6 +196,7 @@ void frmClock::ShowPhase() {
 
 void frmClock::UpdateMenu() {
     NamePauseEntry(menu, captions, game.Clock().CurrentPhase() == Phase::Paused);
+    EnableEntry(menu, mnuCorrect, game.Clock().CanCorrect());
     EnableEntry(menu, mnuSetup, game.Clock().SetupEnabled());
     CheckMenuItem(menu, mnuTurnBoard, MF_BYCOMMAND | (settings.BoardTurned ? MF_CHECKED : MF_UNCHECKED));
     for (const int entry : {mnuCloseScorlet, mnuPrint, mnuCopyGame, mnuCopyPosition, mnuExportPgn})
@@ -238,6 +254,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             ShowHelp(HelpPage::Contents);
             return TRUE;
         case WM_BUTTONKEY: OnButtonKey(static_cast<int>(lParam), wParam); return 0;
+        case WM_PLAYERKEY: game.PressOwnKey(ButtonOfMouse(wParam != 0, settings.TurnClock)); return 0;
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
             OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}, message == WM_RBUTTONDOWN);
@@ -318,6 +335,7 @@ void frmClock::OnCommand(int id) {
         case mnuExit: DestroyWindow(Window()); return;
         case mnuReset: return game.AskedResetIfStarted();
         case mnuPause: return game.PauseOrResume();
+        case mnuCorrect: return ShowCorrection();
         case mnuFullScreen: return ToggleFullScreen();
         case mnuShowScorlet:
             LeaveFullScreen();
@@ -379,12 +397,9 @@ bool frmClock::OnSetCursor() {
     POINT point{};
     GetCursorPos(&point);
     ScreenToClient(Window(), &point);
-    switch (panels.PlaceAt(point).Pair) {
-        case imgHand: ::SetCursor(handHit.get()); return true;
-        case imgFlagUp:
-        case imgFlagDown: ::SetCursor(handPointBlue.get()); return true;
-        default: return false;
-    }
+    const HCURSOR cursor = panels.CursorAt(point);
+    if (cursor) ::SetCursor(cursor);
+    return cursor != nullptr;
 }
 
 void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {

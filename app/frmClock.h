@@ -48,6 +48,7 @@ class frmClock : public Form, private ClockView {
     void LoadPictures();
     void ShowSetup();
     void ShowAbout();
+    void ShowCorrection();
     void ShowHelp(HelpPage page);
     void TurnBoard();
     void ShowFiles(FilesMode mode);
@@ -88,7 +89,6 @@ class frmClock : public Form, private ClockView {
     HMENU menu = nullptr;             // the window's own, shown or not
     FullScreen fullScreen;
     Wakefulness wakefulness;
-    UniqueCursor handHit, handPointBlue;
     UniqueAccelerators accelerators;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told
 };

@@ -48,6 +48,7 @@ struct ClockHere {
     const Texts Words{Options.LanguageIndex};
     const MessageBoxes Boxes{Words};
     Environment System;
+    clsFileSystem Log;
     TickTimer Timer;
     Game Played{Options, Timer};
     std::optional<frmClock> Form;
@@ -56,7 +57,7 @@ struct ClockHere {
         File.Save(Options);
         System.Look = AppearanceOf("NONE");
         System.DataFolder = Folder.Path();
-        Form.emplace(Surroundings{Words, Boxes, System}, File, Options, Played, Timer);
+        Form.emplace(Surroundings{Words, Boxes, System, Log}, File, Options, Played, Timer);
         Form->Open();
     }
 };

@@ -89,6 +89,14 @@ ClockEvent ClockCommands::Tick() {
     return ClockEvent::FlagFell;
 }
 
+ClockEvent ClockCommands::Correct(const Correction& correction) {
+    if (!CanCorrect() || FaultOf(correction, clock.State())) return ClockEvent::Ignored;
+    modClock::ClockState state = clock.State();
+    Apply(correction, state);
+    clock.Correct(state);
+    return ClockEvent::Changed;
+}
+
 ClockEvent ClockCommands::Unload() { return clock.StopClockTimer() ? ClockEvent::Changed : ClockEvent::TimerNotKilled; }
 
 void ClockCommands::TakeLoadedGame(const modClock::ClockState& loaded) {

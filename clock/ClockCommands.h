@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clock/modClock.h"
+#include "clock/Correction.h"
 
 #include <optional>
 
@@ -71,6 +71,10 @@ class ClockCommands {
     ClockEvent PressKeyP();
     ClockEvent PauseIfRunning();  // when the players have ended the game otherwise
     ClockEvent Tick();
+
+    // Possible while the clock is paused, for a correction without a fault.
+    bool CanCorrect() const { return CurrentPhase() == Phase::Paused; }
+    ClockEvent Correct(const Correction& correction);
 
     // Stops the timer before the program ends.
     ClockEvent Unload();

@@ -34,6 +34,11 @@ void Clock::Restore(const ClockState& kept) {
     for (Side side : BothSides) ShowClock(side);
 }
 
+void Clock::Correct(const ClockState& corrected) {
+    state = corrected;
+    for (Side side : BothSides) ShowClock(side);
+}
+
 // Splits the side's time and makes its texts. An untouched clock that counts down shows its first period.
 void Clock::ShowClock(Side side) {
     const bool showsLimit = state.Control.CountTimeDown && Untouched();

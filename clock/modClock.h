@@ -71,6 +71,9 @@ class Clock {
     // Takes a whole state as it is, without its timer. The handle becomes 1 when a move has been counted, else 0.
     void Restore(const ClockState& kept);
 
+    // The whole state as somebody has corrected it, while the clock is paused.
+    void Correct(const ClockState& corrected);
+
     // One second of the running side. Throws RunTimeError(Fault::Overflow), with nothing changed.
     TickOutcome ClockTick();
 

@@ -34,6 +34,10 @@ void Game::Press(Side button) {
     recordView->RecordChanged(chosen);
 }
 
+void Game::PressOwnKey(Side side) {
+    if (clock.CurrentPhase() != Phase::Idle || side == Black) Press(side);
+}
+
 void Game::PressEnabledButton() {
     for (Side side : BothSides) {
         if (clock.ClockButtonEnabled(side)) return Press(side);
@@ -54,6 +58,10 @@ void Game::Tick() {
     change.Phase = event != ClockEvent::Ticked;
     Show(event, change);
     if (event == ClockEvent::Ticked && ++ticksSinceChange == TicksToKeep) Changed();
+}
+
+void Game::Correct(const Correction& correction) {
+    Show(clock.Correct(correction), {.Faces = {true, true}, .Phase = true});
 }
 
 void Game::AskedReset() {

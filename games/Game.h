@@ -58,12 +58,18 @@ class Game final : public ScorletGame {
     bool BegunEarlier() const { return begunEarlier; }
 
     void Press(Side button);
+    // By the side's own key. Unlike a button, White's key does not begin a game: a second tap would end his first move.
+    void PressOwnKey(Side side);
     void PressEnabledButton() override;  // White's where a flag has fallen: the players are told then
     void Start();
     void PauseOrResume() { Show(clock.PauseOrResume()); }
     void PauseOrResume(Side button) { Show(clock.PauseOrResume(button)); }
     void PressKeyP() override { Show(clock.PressKeyP()); }
     void Tick();
+
+    // What an arbiter sets while the clock is paused; the moves that are written stay. Nothing happens for a correction
+    // with a fault.
+    void Correct(const Correction& correction);
 
     void AskedReset();           // asks first, as a click on a flag does
     void AskedResetIfStarted();  // asks first when there is a game to lose

@@ -55,6 +55,7 @@ enum ClockControl : int {
     mnuScorletHelp,
     mnuTurnBoard,  // in the Scorlet menu
     mnuFullScreen,
+    mnuCorrect,
 };
 
 // The Scorlet.
@@ -132,6 +133,15 @@ enum SetupControl : int {
     cmdBlitz,
 };
 
+// The correction of the clock.
+enum CorrectionControl : int {
+    txtCorrectTime = 2500,
+    txtCorrectMove = 2502,
+    lblCorrectionOf = 2504,  // the names of the players
+    lblCorrectTime = 2506,
+    lblCorrectMove,
+};
+
 // The about box.
 enum AboutControl : int {
     imgKnight = 2300,  // four of them
@@ -163,6 +173,7 @@ enum ClockMessage : unsigned {
     WM_KEEPFAILED,          // it could not be, for the reason with the code in wParam
     WM_TELLSLEEP,           // the computer is awake again: a clock was paused
     WM_SCREENCHANGED,       // the screen or its task bar has changed
+    WM_PLAYERKEY,           // the key of the left clock was pressed, or with 1 in wParam that of the right one
 };
 enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board

@@ -1,4 +1,5 @@
 #include "app/frmClock.h"
+#include "clock/frmCorrection.h"
 #include "games/frmFiles.h"
 #include "platform/Dpi.h"
 #include "recorder/frmScorlet.h"
@@ -35,7 +36,8 @@ struct Maker {
     SettingsFile File{Folder.Path()};
     GameStore Games{Folder.Path()};
     Environment System;
-    const Surroundings Around{Words, Boxes, System};
+    clsFileSystem Log;
+    const Surroundings Around{Words, Boxes, System, Log};
     TickTimer Timer;
     Game Played{Options, Timer};
     NoClock None;
@@ -68,16 +70,20 @@ struct Maker {
     std::unique_ptr<Form> Files(FilesMode mode) {
         return Open(new frmFiles(Around, Games, Played, mode, [](HWND) {}), HWND{});
     }
+    std::unique_ptr<Form> Correction() {
+        return Open(new frmCorrection(Around, Played.Clock().Clock().State(), {L"WHITE", L"BLACK"}), HWND{});
+    }
     std::unique_ptr<Form> About() { return Open(new frmAbout(Around), HWND{}); }
 };
 
-constexpr std::array Names{"clock",  "scorlet", "setup0", "setup1", "setup2",
-                           "setup3", "load",    "save",   "delete", "about"};
+constexpr std::array Names{"clock", "scorlet", "setup0", "setup1", "setup2",    "setup3",
+                           "load",  "save",    "delete", "about",  "correction"};
 
 std::unique_ptr<Form> Make(Maker& maker, const std::string& name) {
     if (name == "clock") return maker.Clock();
     if (name == "scorlet") return maker.Scorlet();
     if (name.starts_with("setup")) return maker.Setup(name.back() - '0');
+    if (name == "correction") return maker.Correction();
     if (name == "about") return maker.About();
     return maker.Files(name == "load" ? FilesMode::Load : name == "save" ? FilesMode::Save : FilesMode::Delete);
 }

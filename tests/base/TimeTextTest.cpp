@@ -2,6 +2,19 @@
 
 #include "tests/base/Rows.h"
 
+TEST(TimeTextTest, TimesAreReadAsTheyAreTyped) {
+    const auto read = [](const std::string& text) {
+        const auto seconds = ReadTime(text);
+        return seconds ? std::to_string(*seconds) : "none";
+    };
+    ExpectRows(read, R"(
+        00:00:00 => 0 | 0:5 => 5 | 12:31 => 751 | 1:02:03 => 3723 | 99:59:59 => 359999 | 60:00 => 3600
+        => none | 5 => none | : => none | 1: => none | 1::2 => none | 1:60 => none | 1:60:00 => none | 1:2:3:4 => none
+        1:-2 => none | 1:2x => none | 100:00 => none | 1 :02 => none
+    )");
+    EXPECT_EQ(ReadTime("  1:30 "), 90);
+}
+
 TEST(TimeTextTest, PartsHaveAtLeastTwoDigits) {
     const auto texts = [](const std::string& seconds) {
         return HoursMinutesText(std::stoi(seconds)) + " " + MinutesSecondsText(std::stoi(seconds));

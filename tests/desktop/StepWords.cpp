@@ -19,10 +19,11 @@
 namespace {
 
 const std::map<std::string, WORD> NamedKeys{
-    {"Space", VK_SPACE}, {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},       {"Back", VK_BACK},
-    {"Left", VK_LEFT},   {"Right", VK_RIGHT},   {"Up", VK_UP},      {"Down", VK_DOWN},     {"Home", VK_HOME},
-    {"End", VK_END},     {"PageDown", VK_NEXT}, {"Apps", VK_APPS},  {"F1", VK_F1},         {"F4", VK_F4},
-    {"F6", VK_F6},       {"F10", VK_F10},       {"F11", VK_F11},    {"Insert", VK_INSERT}, {"Ctrl", VK_CONTROL},
+    {"Space", VK_SPACE},  {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},     {"Back", VK_BACK},
+    {"Left", VK_LEFT},    {"Right", VK_RIGHT},   {"Up", VK_UP},      {"Down", VK_DOWN},   {"Home", VK_HOME},
+    {"End", VK_END},      {"PageDown", VK_NEXT}, {"Apps", VK_APPS},  {"F1", VK_F1},       {"F4", VK_F4},
+    {"F6", VK_F6},        {"F10", VK_F10},       {"F11", VK_F11},    {"Quote", VK_OEM_7}, {"Insert", VK_INSERT},
+    {"Ctrl", VK_CONTROL},
 };
 
 WORD CodeOf(const std::string& key) { return key.size() == 1 ? static_cast<WORD>(key[0]) : NamedKeys.at(key); }

@@ -113,6 +113,10 @@ struct Play {
         if (word == "W" || word == "B") return Played.Press(word == "W" ? White : Black);
         if (word == "pause") return Played.PauseOrResume();
         if (word.starts_with("pause")) return Played.PauseOrResume(word == "pauseW" ? White : Black);
+        if (word.starts_with("key")) return Played.PressOwnKey(word == "keyW" ? White : Black);
+        // "set30,40@2,1": times and move numbers.
+        if (int time[2], moves[2]; std::sscanf(word.c_str(), "set%d,%d@%d,%d", time, time + 1, moves, moves + 1) == 4)
+            return Played.Correct({{time[0], time[1]}, {moves[0], moves[1]}});
         if (word.starts_with("load")) return Played.TakeLoadedGame(Saved(word));
         if (word.starts_with("timer=")) Beside.Handle = std::stoi(word.substr(6));
         if (word == "back") Played.TakeBack();
@@ -198,6 +202,9 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open W e2e4 W e7e5 B => click, show B all, lists W1; CPTm - 00:01:00; 1. e4|2. _ / e5
         W open W => click, show W all, lists; - CPTm 00:01:00;  /
         open W e2e4 W close B => click, show B all; CPTm - 00:01:00
+        A side's own key, which does nothing a second time.
+        keyW => nothing; CP CP S 00:01:00 | keyB => click, show B all; CPTm - 00:01:00 | W keyW => click, show W all; - CPTm 00:01:00
+        W keyW keyW => nothing; - CPTm 00:01:00 | W keyW keyB => click, show B all; CPTm - 00:01:00
         Pause and resume.
         W W p => show all; - Rp 00:01:00 | W W p p => nothing; - Rp 00:01:00 | W W p B => nothing; - Rp 00:01:00
         W W pause timer=0 pause => not resumed; - Rp 00:01:00 | W W pause pauseB => show all; - CPTm 00:01:00
@@ -261,6 +268,14 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open W load0,0 => show W B all, new record; CP CP S 00:10:00; 1. d4 /
         open load0,0 start => click, show B all, lists; CPTm - 00:10:00; 1. d4 /
         open load3,2on yes reset => ask, new record, read, show W B all, lists; CP CP S 00:01:00;  /
+        Corrections of a clock that is paused: the turn follows from the move numbers, and the lists stay.
+        W W pause set30,40@2,1 => show W B all; Rp - 00:00:30 | W W pause set30,40@2,2 => show W B all; - Rp 00:00:30
+        open W e2e4 W pause set1,40@1,1 => show W B all; - Rp 00:00:01; 1. e4 / 1. _
+        W set30,40@2,1 => nothing; CPTm - 00:01:00 | set30,40@2,1 => nothing; CP CP S 00:01:00
+        W pause set0,40@1,0 => nothing; Rp - 00:01:00 | W pause set30,0@1,0 => nothing; Rp - 00:01:00
+        W pause set30,40@0,0 => nothing; Rp - 00:01:00 | W pause set30,40@2,-1 => nothing; Rp - 00:01:00
+        W pause set30,40@3,1 => nothing; Rp - 00:01:00 | W pause set30,40@1,2 => nothing; Rp - 00:01:00
+        W pause set30,40@2,1 pause 1s => show W; CPTm - 00:00:29
         What goes wrong.
         W unload => show all; Rm - 00:01:00 | W no-kill unload => not killed; Rm - 00:01:00
         up great-bonus W 1s => show W all, overflow; Rp - 00:00:00
