@@ -9,6 +9,14 @@ namespace Look {
 inline constexpr uint32_t Card = 0xFAF9F6, Line = 0xCFCBC2;
 inline constexpr uint32_t Ink = 0x1C1B19, QuietInk = 0x6A665E;
 
+// What lies on the ground of the Scorlet, and its board. The last two are the squares of the last move.
+inline constexpr uint32_t Tray = 0xEDEBE6, Sheet = 0xFFFFFF, Chosen = 0xF2D65C;
+inline constexpr uint32_t LightSquare = 0xEFE6D2, DarkSquare = 0xB99B72, LightLast = Chosen, DarkLast = 0xDDBC45;
+inline constexpr uint32_t LastMark = 0x6B4E1E, Picked = 0x1B7F3B;
+// The lines that say which move is expected, that this is a warning, and that an earlier position is shown.
+inline constexpr uint32_t Expected = 0xE8F3EA, Warning = 0xFFDF80, WarningInk = 0x402000;
+inline constexpr uint32_t LookBack = 0xDCE8F7, LookBackInk = 0x12355F;
+
 // The marks of the states of a clock, each with the ink for a word on it. That of the pause is dark, so that it differs
 // from the other marks without any colour.
 inline constexpr uint32_t Running = 0x1B7F3B, RunningInk = 0xFFFFFF;

@@ -78,14 +78,12 @@ void ScorletControls::Draw(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
     if (IsList(id)) return Lists.Draw(item, SideOfList(id));
     if (PromotionPicker::Has(id)) return Picker.Draw(item);
+    if (id == lblWhoseMove) return WhoseMove.Draw(item);
     Board.Draw(item);
 }
 
 HBRUSH ScorletControls::Colours(HDC dc, int id) const {
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
-    const HBRUSH warning = id == lblWhoseMove ? WhoseMove.Colours(dc) : nullptr;
-    return warning ? warning : Painter.BackgroundBrush();
+    return Painter.LabelColours(dc, id == lblPlayer || id == lblPlayer + 1 ? LabelGround::Sheet : LabelGround::Plain);
 }
 
 std::wstring ScorletControls::SpokenName(const Texts& texts, int id) const {

@@ -44,7 +44,7 @@ class ScorletControls {
     TypedMoveField Typing{form};
     ScorletBoard Board{form, recorder, input, Painter};
     SayList Say{form};
-    WhoseMoveLine WhoseMove{form};
+    WhoseMoveLine WhoseMove{form, Painter};
     ScorletLists Lists{form, recorder};
     EntryEditor Editor{form, recorder};
     PromotionPicker Picker{form, recorder, input, Painter};

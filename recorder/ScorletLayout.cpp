@@ -31,10 +31,9 @@ class Arrangement {
         : width(width),
           height(height),
           below(below),
+          dpi(dpi),
           scale(below ? ScaleOf(width, height, dpi, BelowGrows, BelowShrinks)
-                      : ScaleOf(width, height, dpi, BesideGrows, BesideShrinks)),
-          // Half of what they are where the rest is three quarters.
-          picture((36 * std::min(scale, 2 * scale - dpi) + 48) / 96) {
+                      : ScaleOf(width, height, dpi, BesideGrows, BesideShrinks)) {
         layout.Edge = Unit(18);
         layout.Type = Unit(13);
         layout.CoordinateType = Unit(12);
@@ -46,10 +45,12 @@ class Arrangement {
 
   private:
     int Unit(int length) const { return (length * scale + 48) / 96; }
+    // Shrinks twice as fast, to half.
+    int Yielding(int length) const { return (length * std::min(scale, 2 * scale - dpi) + 48) / 96; }
 
     // What the lists and all that belongs to them need at least.
     int ColumnWidth() const { return std::max(Unit(216), width * 30 / 100); }
-    int ListsHeight() const { return field + Unit(32) + 3 * gap + line + Unit(56) + line + picture; }
+    int ListsHeight() const { return field + whoseMove + 3 * gap + leastSheet + line + picture; }
 
     void PlaceBoard() {
         const int roomWidth = width - 2 * margin - layout.Edge - (below ? 0 : ColumnWidth() + margin);
@@ -77,34 +78,34 @@ class Arrangement {
         const int top = below ? layout.CapturedRows[Black].Bottom() + margin : margin, label = Unit(70);
         layout.SayLabel = {left, top, label, field};
         layout.Say = {left + label + gap, top, wide - label - gap, field};
-        layout.WhoseMove = {left, layout.Say.Bottom() + gap, wide, Unit(32)};
+        layout.WhoseMove = {left, layout.Say.Bottom() + gap, wide, whoseMove};
 
-        const int okWidth = Unit(60), half = (wide - margin) / 2;
-        const int promotionLeft = below ? right - half : left, promotionTop = height - margin - picture;
+        const int okWidth = Unit(60), column = (wide - margin) / 2;
+        const int promotionLeft = below ? right - column : left, promotionTop = height - margin - picture;
         for (int i = 0; i < 4; ++i)
             layout.Promotion[static_cast<size_t>(i)] = {promotionLeft + i * (picture + gap), promotionTop, picture,
                                                         picture};
         layout.PromotionTitle = {promotionLeft, promotionTop - line, right - promotionLeft, line};
         const int editTop = below ? height - margin - field : layout.PromotionTitle.Top - gap - field;
-        const int editWidth = below ? half : wide;
+        const int editWidth = below ? column : wide;
         layout.Edit = {left, editTop, editWidth - okWidth - gap, field};
         layout.EditOk = {layout.Edit.Right() + gap, editTop, okWidth, field};
 
-        const int headTop = layout.WhoseMove.Bottom() + gap, listTop = headTop + line;
-        const int listsBottom = std::min(layout.Edit.Top, layout.PromotionTitle.Top) - gap;
-        const int listWidth = (wide - gap) / 2;
+        const int sheetTop = layout.WhoseMove.Bottom() + gap;
+        layout.Sheet = {left, sheetTop, wide, std::min(layout.Edit.Top, layout.PromotionTitle.Top) - gap - sheetTop};
+        const int edge = Unit(1), listTop = sheetTop + edge + line, half = (wide - 3 * edge) / 2;
         for (Side side : BothSides) {
-            const int listLeft = side == White ? left : right - listWidth;
-            layout.ListHeads[side] = {listLeft, headTop, listWidth, line};
-            layout.Lists[side] = {listLeft, listTop, listWidth, listsBottom - listTop};
+            const int listLeft = side == White ? left + edge : right - edge - half;
+            layout.ListHeads[side] = {listLeft + gap, sheetTop + edge, half - gap, line};
+            layout.Lists[side] = {listLeft, listTop, half, layout.Sheet.Bottom() - edge - listTop};
         }
     }
 
     const int width, height;
     const bool below;
-    const int scale;    // dots per inch
-    const int picture;  // side of a choice of the promotion picker
-    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24);
+    const int dpi, scale;  // dots per inch: of the screen, and those that the lengths are drawn for
+    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24), whoseMove = Unit(below ? 34 : 50);
+    const int picture = Yielding(36), leastSheet = line + Yielding(80);
     ScorletLayout layout{};
 };
 

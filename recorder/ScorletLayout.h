@@ -16,7 +16,8 @@ struct ScorletLayout {
     std::array<Box, 2> CapturedRows;  // the captured pieces of each side
     int Slot;                         // side of a captured piece's picture
     Box SayLabel, Say;
-    Box WhoseMove;  // two lines of type
+    Box WhoseMove;  // at least two lines of type
+    Box Sheet;      // what the lists and their heads lie on, with its edge
     std::array<Box, 2> ListHeads, Lists;
     Box Edit, EditOk;
     Box TypedMove, TypedReason;  // over the board

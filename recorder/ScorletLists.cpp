@@ -2,6 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/Colours.h"
+#include "platform/Look.h"
 #include "platform/Painting.h"
 #include "platform/Subclass.h"
 #include "resources/resource.h"
@@ -10,14 +11,17 @@
 
 namespace {
 
-constexpr Colour QuietInk{RGB(0x6A, 0x66, 0x5E), COLOR_WINDOWTEXT};
+constexpr Colour SheetColour{ColourOf(Look::Sheet), COLOR_WINDOW},
+    ChosenColour{ColourOf(Look::Chosen), COLOR_HIGHLIGHT};
+constexpr Colour Ink{ColourOf(Look::Ink), COLOR_WINDOWTEXT}, QuietInk{ColourOf(Look::QuietInk), COLOR_WINDOWTEXT};
+constexpr Colour ChosenInk{ColourOf(Look::Ink), COLOR_HIGHLIGHTTEXT};
 
 }  // namespace
 
 void ScorletLists::Create() {
     for (Side side : BothSides) {
         form.AddControl(WC_LISTBOXW, ControlOf(lstMoves, side),
-                        WS_VISIBLE | WS_TABSTOP | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED |
+                        WS_VISIBLE | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED |
                             LBS_HASSTRINGS | (side == Black ? WS_VSCROLL : 0));
         Subclass<Procedure>(List(side), this);
     }
@@ -94,14 +98,13 @@ void ScorletLists::Draw(const DRAWITEMSTRUCT& item, Side side) const {
     const Buffered buffer(item);
     const RECT area = buffer.Area();
     const bool chosen = item.itemState & ODS_SELECTED;
-    ::Fill(buffer.Dc(), area, GetSysColor(chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    ::Fill(buffer.Dc(), area, chosen ? ChosenColour : SheetColour);
     const auto& entries = recorder.List(side).Entries();
     const auto index = static_cast<size_t>(item.itemID);
     if (index < entries.size()) {
         const Selection font(buffer.Dc(), reinterpret_cast<HGDIOBJ>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0)));
         const auto write = [&](const std::wstring& text, RECT place, UINT alignment, bool quiet) {
-            const COLORREF ink = quiet ? COLORREF{QuietInk} : GetSysColor(COLOR_WINDOWTEXT);
-            SetTextColor(buffer.Dc(), chosen ? GetSysColor(COLOR_HIGHLIGHTTEXT) : ink);
+            SetTextColor(buffer.Dc(), chosen ? ChosenInk : quiet ? QuietInk : Ink);
             DrawTextW(buffer.Dc(), text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | alignment);
         };
         // The moves begin one below the other, whatever the number of digits before them.

@@ -1,20 +1,42 @@
 #include "recorder/ScorletPainter.h"
 
 #include "platform/Colours.h"
+#include "platform/Look.h"
 #include "platform/Painting.h"
 #include "platform/modResource.h"
 
+#include <algorithm>
 #include <string>
 
 namespace {
 
+constexpr Colour Own(uint32_t redGreenBlue, int system) { return {ColourOf(redGreenBlue), system}; }
+
 // With the system's colours the dark squares are hatched, as in print.
-constexpr Colour LightSquare{RGB(0xF0, 0xD9, 0xB5), COLOR_WINDOW}, DarkSquare{RGB(0xB5, 0x88, 0x63), COLOR_WINDOW};
-constexpr Colour LightLast{RGB(0xF4, 0xE4, 0x7A), COLOR_WINDOW}, DarkLast{RGB(0xD2, 0xB0, 0x48), COLOR_WINDOW};
-constexpr Colour PickedColour{RGB(0x1D, 0x5F, 0xD0), COLOR_HIGHLIGHT};
-constexpr Colour LastColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOWTEXT};
-constexpr Colour EdgeColour{RGB(0x5A, 0x40, 0x2E), COLOR_WINDOW}, EdgeInk{RGB(0xF0, 0xE4, 0xD2), COLOR_WINDOWTEXT};
-constexpr Colour TrayColour{RGB(0xDF, 0xD8, 0xCC), COLOR_WINDOW};
+constexpr Colour LightSquare = Own(Look::LightSquare, COLOR_WINDOW), DarkSquare = Own(Look::DarkSquare, COLOR_WINDOW);
+constexpr Colour LightLast = Own(Look::LightLast, COLOR_WINDOW), DarkLast = Own(Look::DarkLast, COLOR_WINDOW);
+constexpr Colour PickedColour = Own(Look::Picked, COLOR_HIGHLIGHT), LastColour = Own(Look::LastMark, COLOR_WINDOWTEXT);
+constexpr Colour TrayColour = Own(Look::Tray, COLOR_WINDOW), SheetColour = Own(Look::Sheet, COLOR_WINDOW);
+constexpr Colour LineColour = Own(Look::Line, COLOR_WINDOWTEXT);
+
+struct LineColours {
+    Colour Ground, Edge, Ink;
+};
+constexpr LineColours ColoursOf(LineLook look) {
+    switch (look) {
+        case LineLook::Warning:
+            return {Own(Look::Warning, COLOR_HIGHLIGHT), Own(Look::Paused, COLOR_HIGHLIGHT),
+                    Own(Look::WarningInk, COLOR_HIGHLIGHTTEXT)};
+        case LineLook::LookBack:
+            return {Own(Look::LookBack, COLOR_HIGHLIGHT), Own(Look::LookBackInk, COLOR_HIGHLIGHT),
+                    Own(Look::LookBackInk, COLOR_HIGHLIGHTTEXT)};
+        default:
+            return {Own(Look::Expected, COLOR_WINDOW), Own(Look::Running, COLOR_WINDOWTEXT),
+                    Own(Look::Ink, COLOR_WINDOWTEXT)};
+    }
+}
+
+RECT RectOf(const Box& box) { return {box.Left, box.Top, box.Right(), box.Bottom()}; }
 
 // A frame inside the edges of a square.
 void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
@@ -54,20 +76,34 @@ void ScorletPainter::LoadPictures() {
 }
 
 void ScorletPainter::SetLayout(const ScorletLayout& layout) {
-    font = MakeFont(layout.Type, false);
-    headFont = MakeFont(layout.Type, true);
-    coordinateFont = MakeFont(layout.CoordinateType, true);
+    type = layout.Type;
+    font = MakeFont(type, false);
+    headFont = MakeFont(type, true);
+    coordinateFont = MakeFont(layout.CoordinateType, false);
 }
 
-void ScorletPainter::DrawTrays(HDC dc, const ScorletLayout& layout) const {
-    for (const Box& row : layout.CapturedRows) Fill(dc, {row.Left, row.Top, row.Right(), row.Bottom()}, TrayColour);
+HBRUSH ScorletPainter::LabelColours(HDC dc, LabelGround label) const {
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, label == LabelGround::Sheet ? inkColour : quietColour);
+    return label == LabelGround::Sheet ? headGround.get() : ground.get();
+}
+
+void ScorletPainter::DrawGround(HDC dc, const RECT& client, const ScorletLayout& layout) const {
+    FillRect(dc, &client, ground.get());
+    for (const Box& row : layout.CapturedRows) Fill(dc, RectOf(row), TrayColour);
+    RECT sheet = RectOf(layout.Sheet), head = sheet;
+    head.bottom = layout.Lists[White].Top;
+    Fill(dc, sheet, SheetColour);
+    FillRect(dc, &head, headGround.get());
+    Frame(dc, sheet, LineColour);
 }
 
 void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const {
     const Buffered buffer(item);
-    Fill(buffer.Dc(), buffer.Area(), EdgeColour);
+    const RECT whole = buffer.Area();
+    FillRect(buffer.Dc(), &whole, ground.get());
     const Selection selection(buffer.Dc(), coordinateFont.get());
-    SetTextColor(buffer.Dc(), EdgeInk);
+    SetTextColor(buffer.Dc(), quietColour);
     const auto write = [&](wchar_t character, RECT area) {
         DrawTextW(buffer.Dc(), &character, 1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     };
@@ -112,9 +148,39 @@ void ScorletPainter::DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool 
 void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, Piece piece, bool waits, bool marked) const {
     const Buffered buffer(item);
     RECT area = buffer.Area();
-    FillRect(buffer.Dc(), &area, BackgroundBrush());
-    if (marked) Fill(buffer.Dc(), area, LightLast);
-    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, static_cast<int>(area.right));
-    if (waits) ThickFrame(buffer.Dc(), area, PickedColour, marked ? 4 : 2);
+    FillRect(buffer.Dc(), &area, ground.get());
+    const int size = static_cast<int>(area.right), line = waits ? marked ? 4 : 2 : 1;
+    FillRounded(buffer.Dc(), area, size / 6, waits ? PickedColour : LineColour);
+    RECT inner = area;
+    InflateRect(&inner, -line, -line);
+    FillRounded(buffer.Dc(), inner, size / 6 - line, marked ? LightLast : TrayColour);
+    pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, size);
     if (item.itemState & ODS_FOCUS) DrawFocusRect(buffer.Dc(), &area);
+}
+
+void ScorletPainter::DrawWhoseMove(const DRAWITEMSTRUCT& item, const std::wstring& text, LineLook look,
+                                   Side side) const {
+    const Buffered buffer(item);
+    const RECT area = buffer.Area();
+    const LineColours colours = ColoursOf(look);
+    const int edge = std::max(type / 12, 1);
+    RECT inner = area;
+    InflateRect(&inner, -edge, -edge);
+    FillRect(buffer.Dc(), &area, ground.get());
+    FillRounded(buffer.Dc(), area, type / 2, colours.Edge);
+    FillRounded(buffer.Dc(), inner, type / 2 - edge, colours.Ground);
+
+    const LONG left = type / 2, size = type, top = (area.bottom - size) / 2;
+    RECT disc{left, top, left + size, top + size};
+    FillRounded(buffer.Dc(), disc, size, colours.Ink);
+    InflateRect(&disc, -edge, -edge);
+    if (side == White) FillRounded(buffer.Dc(), disc, size, RGB(255, 255, 255));
+
+    const Selection selection(buffer.Dc(), look == LineLook::Expected ? headFont.get() : font.get());
+    SetTextColor(buffer.Dc(), colours.Ink);
+    RECT place{2 * type, 0, area.right - type / 2, 0};
+    DrawTextW(buffer.Dc(), text.c_str(), -1, &place, DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);
+    place.right = area.right - type / 2;
+    OffsetRect(&place, 0, (area.bottom - place.bottom) / 2);
+    DrawTextW(buffer.Dc(), text.c_str(), -1, &place, DT_WORDBREAK | DT_NOPREFIX);
 }

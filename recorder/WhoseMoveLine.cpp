@@ -17,16 +17,22 @@ TextId RowOf(WhoseMoveKind kind) {
 
 }  // namespace
 
-void WhoseMoveLine::Create() { form.AddControl(WC_STATICW, lblWhoseMove, WS_VISIBLE | SS_NOPREFIX); }
+void WhoseMoveLine::Create() { form.AddControl(WC_STATICW, lblWhoseMove, WS_VISIBLE | SS_OWNERDRAW); }
 
 void WhoseMoveLine::Show(const Texts& texts, const WhoseMove& next) {
-    warns = next.Kind != WhoseMoveKind::Agrees;
-    form.SetText(lblWhoseMove, texts.Compose(RowOf(next.Kind), texts.SideName(next.Mover), std::to_wstring(next.Number),
-                                             std::to_wstring(next.ClockNumber)));
+    ShowText(texts.Compose(RowOf(next.Kind), texts.SideName(next.Mover), std::to_wstring(next.Number),
+                           std::to_wstring(next.ClockNumber)),
+             next.Kind == WhoseMoveKind::Agrees ? LineLook::Expected : LineLook::Warning, next.Mover);
 }
 
-HBRUSH WhoseMoveLine::Colours(HDC dc) const {
-    if (!warns) return nullptr;
-    SetTextColor(dc, WarningInk);
-    return ground.get();
+void WhoseMoveLine::ShowText(const std::wstring& text, LineLook newLook, Side newSide) {
+    if (text == form.Text(lblWhoseMove) && newLook == look && newSide == side) return;
+    look = newLook;
+    side = newSide;
+    form.SetText(lblWhoseMove, text);
+    InvalidateRect(form.Control(lblWhoseMove), nullptr, FALSE);
+}
+
+void WhoseMoveLine::Draw(const DRAWITEMSTRUCT& item) const {
+    painter.DrawWhoseMove(item, form.Text(lblWhoseMove), look, side);
 }

@@ -153,8 +153,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ERASEBKGND: {
             RECT client{};
             GetClientRect(Window(), &client);
-            FillRect(reinterpret_cast<HDC>(wParam), &client, controls.Painter.BackgroundBrush());
-            controls.Painter.DrawTrays(reinterpret_cast<HDC>(wParam), controls.Layout);
+            controls.Painter.DrawGround(reinterpret_cast<HDC>(wParam), client, controls.Layout);
             return TRUE;
         }
         case WM_SIZE: Arrange(); return 0;

@@ -39,22 +39,6 @@ std::vector<HWND> ControlsOf(HWND form, DWORD style) {
     return controls;
 }
 
-// With so much of the width taken by other things.
-void ExpectFits(HWND control, const std::wstring& text, int taken, bool wraps = false) {
-    if (text.empty()) return;
-    RECT area{};
-    GetClientRect(control, &area);
-    RECT needed{0, 0, area.right, 0};
-    const HDC dc = GetDC(control);
-    {
-        const Selection font(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
-        DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE));
-    }
-    ReleaseDC(control, dc);
-    EXPECT_LE(needed.right + taken, area.right) << GetDlgCtrlID(control) << ": " << Utf8(text);
-    EXPECT_LE(needed.bottom, area.bottom) << GetDlgCtrlID(control) << ": " << Utf8(text);
-}
-
 constexpr std::array<INT, 7> Indexes{COLOR_WINDOW,   COLOR_WINDOWTEXT, COLOR_BTNFACE,      COLOR_BTNTEXT,
                                      COLOR_GRAYTEXT, COLOR_HIGHLIGHT,  COLOR_HIGHLIGHTTEXT};
 constexpr std::array<COLORREF, 7> Strange{RGB(10, 20, 60),   RGB(250, 240, 90), RGB(20, 50, 20), RGB(240, 200, 250),
@@ -111,6 +95,21 @@ bool DrawnOnSystemColours(const RECT& area, Drawing draw) {
 extern "C" {
 extern decltype(&SystemParametersInfoW) const __imp_SystemParametersInfoW;
 decltype(&SystemParametersInfoW) const __imp_SystemParametersInfoW = AnswerParameter;
+}
+
+void ExpectFits(HWND control, const std::wstring& text, int taken, bool wraps) {
+    if (text.empty()) return;
+    RECT area{};
+    GetClientRect(control, &area);
+    RECT needed{0, 0, area.right - taken, 0};
+    const HDC dc = GetDC(control);
+    {
+        const Selection font(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+        DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE));
+    }
+    ReleaseDC(control, dc);
+    EXPECT_LE(needed.right + taken, area.right) << GetDlgCtrlID(control) << ": " << Utf8(text);
+    EXPECT_LE(needed.bottom, area.bottom) << GetDlgCtrlID(control) << ": " << Utf8(text);
 }
 
 void ExpectReadable(HWND form) {

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <vector>
 
 // What every form is held to, in whatever state it is shown.
@@ -16,6 +17,9 @@ void ExpectReadable(HWND form);
 // Every text of every control fits: static texts, buttons, all entries of drop-down lists, and, where the form draws
 // its texts itself in the fonts of their controls, those too.
 void ExpectTextsFit(HWND form, bool drawnTexts);
+
+// A text fits the control that shows it in its font, with so much of the width taken by other things.
+void ExpectFits(HWND control, const std::wstring& text, int taken, bool wraps = false);
 
 // A part of a window's client area as it is on the screen: the brightness of each pixel, 0 to 1, row after row.
 struct GreyPicture {

@@ -26,6 +26,15 @@ TEST(LookTest, TextsStandOutFromTheirGrounds) {
     using namespace Look;
     for (const auto& [ground, ink, least] : {std::tuple{Card, Ink, 4.5},
                                              {Card, QuietInk, 4.5},
+                                             {Tray, Ink, 4.5},
+                                             {Sheet, QuietInk, 4.5},
+                                             {Chosen, Ink, 4.5},
+                                             {Expected, Ink, 4.5},
+                                             {Warning, WarningInk, 4.5},
+                                             {LookBack, LookBackInk, 4.5},
+                                             // The marks of the last move and of a picked piece, on every square.
+                                             {DarkLast, LastMark, 3.0},
+                                             {LightSquare, Picked, 3.0},
                                              {Running, RunningInk, 4.5},
                                              {PausedMark, Paused, 4.5},
                                              {Fallen, FallenInk, 4.5},
