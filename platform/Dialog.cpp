@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int TypeHeight = 13;  // of the 96 dpi design
+constexpr int ScrollStep = 20;  // of the 96 dpi design
 constexpr Colour Ink{RGB(0, 0, 0), COLOR_BTNTEXT};
 
 }  // namespace
@@ -29,36 +29,62 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
         AddControl(item.Kind, item.Id, WS_VISIBLE | item.Style | (button ? 0 : WS_GROUP));
         if (item.Text) SetText(item.Id, captions(*item.Text));
     }
-    Place(owner, width, height);
+    design = {width, height};
+    Place(owner);
 }
 
-// Centres the window on its owner, and keeps it on the screen.
-void Dialog::Place(HWND owner, int width, int height) {
-    const RECT screen = WorkArea(owner);
-    RECT around{}, client{};
-    GetWindowRect(owner, &around);
+// Centres the window on a window, which may be itself, and fits it into that one's screen.
+void Dialog::Place(HWND on) {
+    const RECT screen = WorkArea(on);
+    RECT around{}, window{}, client{};
+    GetWindowRect(on, &around);
     // What the frame adds is known only once the window has a size.
-    const int wide = Scaled(width, Dpi()), high = Scaled(height, Dpi());
-    SetWindowPos(Window(), nullptr, 0, 0, wide, high, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ShowScrollBar(Window(), SB_BOTH, FALSE);
+    SetWindowPos(Window(), nullptr, 0, 0, design.Width, design.Height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    GetWindowRect(Window(), &window);
     GetClientRect(Window(), &client);
-    const LONG fullWidth = 2 * wide - client.right, fullHeight = 2 * high - client.bottom;
-    const LONG left =
-        std::max(std::min((around.left + around.right - fullWidth) / 2, screen.right - fullWidth), screen.left);
-    const LONG top =
-        std::max(std::min((around.top + around.bottom - fullHeight) / 2, screen.bottom - fullHeight), screen.top);
-    SetWindowPos(Window(), nullptr, left, top, fullWidth, fullHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+    const LONG frameWidth = window.right - window.left - client.right;
+    const LONG frameHeight = window.bottom - window.top - client.bottom;
+
+    const int bar = MulDiv(GetSystemMetrics(SM_CXVSCROLL), Dpi(), DpiOf(nullptr));
+    fit = FitDialog(design, Dpi(),
+                    {static_cast<int>(screen.right - screen.left - frameWidth),
+                     static_cast<int>(screen.bottom - screen.top - frameHeight)},
+                    bar);
+    scroll.Set(Window(), {Scaled(design.Width, fit.Dpi), Scaled(design.Height, fit.Dpi)},
+               {fit.Client.Width - (fit.ScrollsDown ? bar : 0), fit.Client.Height - (fit.ScrollsAcross ? bar : 0)},
+               Scaled(ScrollStep, fit.Dpi));
+    const LONG width = fit.Client.Width + frameWidth, height = fit.Client.Height + frameHeight;
+    const LONG left = std::max(std::min((around.left + around.right - width) / 2, screen.right - width), screen.left);
+    const LONG top = std::max(std::min((around.top + around.bottom - height) / 2, screen.bottom - height), screen.top);
+    SetWindowPos(Window(), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    Arrange();
 }
 
 void Dialog::Arrange() {
     UniqueFont previous = std::move(font);
-    font = MakeFont(Scaled(TypeHeight, Dpi()), false);
+    font = MakeFont(Scaled(DialogType, fit.Dpi), false);
+    const POINT origin = scroll.Origin();
     for (const DialogItem& item : items) {
         const Box& box = item.Box;
         SendMessageW(Control(item.Id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
-        SetWindowPos(Control(item.Id), nullptr, Scaled(box.Left, Dpi()), Scaled(box.Top, Dpi()),
-                     Scaled(box.Width, Dpi()), Scaled(box.Height, Dpi()), SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(Control(item.Id), nullptr, origin.x + Scaled(box.Left, fit.Dpi),
+                     origin.y + Scaled(box.Top, fit.Dpi), Scaled(box.Width, fit.Dpi), Scaled(box.Height, fit.Dpi),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// With the label above it.
+void Dialog::BringFocusIntoSight() {
+    const HWND focused = GetFocus();
+    if (!Window() || !IsChild(Window(), focused)) return;
+    RECT area{};
+    GetWindowRect(focused, &area);
+    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&area), 2);
+    const int margin = Scaled(ScrollStep, fit.Dpi);
+    InflateRect(&area, margin, margin);
+    scroll.BringIntoSight(area);
 }
 
 void Dialog::RunModal() {
@@ -73,9 +99,12 @@ void Dialog::RunModal() {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 break;
             }
-            if (IsDialogMessageW(Window(), &message)) continue;
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
+            if (!IsDialogMessageW(Window(), &message)) {
+                TranslateMessage(&message);
+                DispatchMessageW(&message);
+            }
+            // Not after a click, which would then end elsewhere than it began.
+            if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) BringFocusIntoSight();
         }
     }
     // Only after the owner has been enabled again: otherwise the system would activate another program's window.
@@ -119,8 +148,22 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             FillRect(reinterpret_cast<HDC>(wParam), &client, background.get());
             return TRUE;
         }
-        case WM_SIZE: Arrange(); return 0;
+        case WM_VSCROLL:
+        case WM_HSCROLL: scroll.OnScroll(message, LOWORD(wParam)); return 0;
+        case WM_MOUSEWHEEL:
+            if (scroll.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam))) return 0;
+            break;
+        // The screen has become another one.
+        case WM_DPICHANGED:
+        case WM_DISPLAYCHANGE:
+            Form::Handle(message, wParam, lParam);
+            Place(Window());
+            return 0;
+        case WM_SETTINGCHANGE:
+            if (wParam == SPI_SETWORKAREA) Place(Window());
+            break;
         case WM_CLOSE: Close(); return 0;
-        default: return Form::Handle(message, wParam, lParam);
+        default: break;
     }
+    return Form::Handle(message, wParam, lParam);
 }

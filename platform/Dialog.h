@@ -2,8 +2,10 @@
 
 #include "base/Box.h"
 #include "platform/Colours.h"
+#include "platform/DialogFit.h"
 #include "platform/Form.h"
 #include "platform/Handles.h"
+#include "platform/WindowScroll.h"
 
 #include <optional>
 #include <span>
@@ -18,7 +20,8 @@ struct DialogItem {
 };
 
 // Base of the forms that stay over the clock until they are closed. Enter presses the button that has the focus, or
-// else the default button; Esc presses the one with the number IDCANCEL.
+// else the default button; Esc presses the one with the number IDCANCEL. A dialog that is too large for its screen is
+// drawn smaller, and scrolls where that is not enough.
 class Dialog : public Form {
   public:
     // Shows the window, which must have been created, with the other windows of the program disabled, until Close.
@@ -43,13 +46,17 @@ class Dialog : public Form {
     HBRUSH Background() const { return background.get(); }
 
   private:
-    void Place(HWND owner, int width, int height);
+    void Place(HWND on);
     void Arrange();
+    void BringFocusIntoSight();
     int EnterButton() const;
 
     Brush background;
     UniqueFont font;
     std::span<const DialogItem> items;
+    Extent design{};
+    DialogFit fit{96, {}, false, false};
+    WindowScroll scroll;
     HWND focus = nullptr;  // while the window is not active
     bool open = false;
 };

@@ -257,7 +257,10 @@ LRESULT frmSetup::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_HELP: openHelp(Window()); return TRUE;
-        case WM_HSCROLL: OnScroll(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), LOWORD(wParam)); return 0;
+        case WM_HSCROLL:
+            if (!lParam) break;  // of the window's own bar
+            OnScroll(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), LOWORD(wParam));
+            return 0;
         case WM_MOUSEWHEEL:
             if (OnWheel(GET_WHEEL_DELTA_WPARAM(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
             break;
