@@ -1,6 +1,7 @@
 #include "platform/Dialog.h"
 
 #include "platform/Dpi.h"
+#include "platform/GroupBox.h"
 #include "platform/OtherWindowsDisabled.h"
 #include "platform/Painting.h"
 
@@ -11,12 +12,13 @@
 namespace {
 
 constexpr int ScrollStep = 20;  // of the 96 dpi design
-constexpr Colour Ink{RGB(0, 0, 0), COLOR_BTNTEXT};
+
+Colour Own(uint32_t colour) { return {ColourOf(colour), COLOR_BTNFACE}; }
 
 }  // namespace
 
-Dialog::Dialog(const Surroundings& around)
-    : Form(around), background({ColourOf(around.System.Look.BackgroundColour), COLOR_BTNFACE}) {}
+Dialog::Dialog(const Surroundings& around, DialogColours colours)
+    : Form(around), ground(Own(colours.Ground)), card(Own(colours.Card)), cardColour(Own(colours.Card)) {}
 
 void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
                     std::span<const DialogItem> controls) {
@@ -25,8 +27,9 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
                  LoadIconW(GetModuleHandleW(nullptr), icon), owner);
     for (const DialogItem& item : items) {
         // The arrow keys move between consecutive buttons: they form one group.
-        const bool button = lstrcmpW(item.Kind, WC_BUTTONW) == 0 && (item.Style & BS_TYPEMASK) != BS_GROUPBOX;
+        const bool button = item.IsButton() && !item.IsGroup();
         AddControl(item.Kind, item.Id, WS_VISIBLE | item.Style | (button ? 0 : WS_GROUP));
+        if (item.IsGroup()) DrawHeadingOnly(Control(item.Id));
         if (item.Text) SetText(item.Id, captions(*item.Text));
     }
     design = {width, height};
@@ -61,18 +64,44 @@ void Dialog::Place(HWND on) {
     Arrange();
 }
 
-void Dialog::Arrange() {
-    UniqueFont previous = std::move(font);
-    font = MakeFont(Scaled(DialogType, fit.Dpi), false);
+RECT Dialog::PlaceOf(const DialogItem& item) const {
     const POINT origin = scroll.Origin();
+    const LONG left = origin.x + Scaled(item.Box.Left, fit.Dpi), top = origin.y + Scaled(item.Box.Top, fit.Dpi);
+    return {left, top, left + Scaled(item.Box.Width, fit.Dpi), top + Scaled(item.Box.Height, fit.Dpi)};
+}
+
+void Dialog::Arrange() {
+    const auto previous = std::exchange(fonts, {});
     for (const DialogItem& item : items) {
-        const Box& box = item.Box;
+        UniqueFont& font = fonts[{item.Type.Height, item.Type.Bold}];
+        if (!font) font = MakeFont(Scaled(item.Type.Height, fit.Dpi), item.Type.Bold);
         SendMessageW(Control(item.Id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
-        SetWindowPos(Control(item.Id), nullptr, origin.x + Scaled(box.Left, fit.Dpi),
-                     origin.y + Scaled(box.Top, fit.Dpi), Scaled(box.Width, fit.Dpi), Scaled(box.Height, fit.Dpi),
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        const auto [left, top, right, bottom] = PlaceOf(item);
+        SetWindowPos(Control(item.Id), nullptr, left, top, right - left, bottom - top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Dialog::DrawGround(HDC dc) const {
+    RECT client{};
+    GetClientRect(Window(), &client);
+    FillRect(dc, &client, ground.get());
+    for (const DialogItem& item : items) {
+        if (item.IsGroup()) DrawCard(dc, PlaceOf(item), Scaled(Look::CardCorner, fit.Dpi), cardColour);
+    }
+}
+
+// Prepares the writing of a control's text, and returns the brush of what is below it.
+HBRUSH Dialog::DrawOnGround(HDC dc, int id) const {
+    const auto found = std::find_if(items.begin(), items.end(), [=](const DialogItem& item) { return item.Id == id; });
+    SetBkMode(dc, TRANSPARENT);
+    if (found == items.end()) return ground.get();
+    SetTextColor(dc, InkOf(found->Type));
+    const bool onCard = std::any_of(items.begin(), items.end(), [&](const DialogItem& item) {
+        return item.IsGroup() && item.Box.Left <= found->Box.Left && found->Box.Right() <= item.Box.Right() &&
+               item.Box.Top <= found->Box.Top && found->Box.Top < item.Box.Bottom();
+    });
+    return onCard ? card.get() : ground.get();
 }
 
 // With the label above it.
@@ -139,15 +168,9 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORBTN:
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            SetTextColor(reinterpret_cast<HDC>(wParam), Ink);
-            return reinterpret_cast<LRESULT>(background.get());
-        case WM_ERASEBKGND: {
-            RECT client{};
-            GetClientRect(Window(), &client);
-            FillRect(reinterpret_cast<HDC>(wParam), &client, background.get());
-            return TRUE;
-        }
+            return reinterpret_cast<LRESULT>(
+                DrawOnGround(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
+        case WM_ERASEBKGND: DrawGround(reinterpret_cast<HDC>(wParam)); return TRUE;
         case WM_VSCROLL:
         case WM_HSCROLL: scroll.OnScroll(message, LOWORD(wParam)); return 0;
         case WM_MOUSEWHEEL:

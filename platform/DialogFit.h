@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Look.h"
+
 // How a dialog fits the room that a screen has for it.
 
 // A size in pixels.
@@ -13,13 +15,13 @@ struct DialogFit {
     bool ScrollsAcross, ScrollsDown;
 };
 
-// The type of the dialogs, in the 96 dpi design, and what it must not become smaller than.
-inline constexpr int DialogType = 13, LeastDialogType = 9;
+// What the type of the dialogs must not become smaller than, in pixels of the 96 dpi design.
+inline constexpr int LeastDialogType = 9;
 
 // Dialogs that are too large are drawn smaller in steps of this, and at the least at this, in percent. Smaller ones
 // could not be read.
 inline constexpr int FitStep = 5, LeastFit = 80;
-static_assert(DialogType * LeastFit / 100 >= LeastDialogType);
+static_assert(Look::Heading.Height * LeastFit / 100 >= LeastDialogType);
 
 // A length of the 96 dpi design, 0 or more, in pixels.
 constexpr int AtDpi(int length, int dpi) { return (length * dpi + 48) / 96; }
