@@ -17,28 +17,29 @@ constexpr DialogItem Label(int id, Box box, std::optional<TextId> text = std::nu
     return {id, WC_STATICW, SS_NOPREFIX, box, text};
 }
 constexpr DialogItem Button(int id, int top, TextId text, DWORD style = BS_PUSHBUTTON) {
-    return {id, WC_BUTTONW, WS_TABSTOP | style, {400, top, 118, 30}, text};
+    return {id, WC_BUTTONW, WS_TABSTOP | style, {404, top, 112, 30}, text};
 }
 
 // The three actions share a place: the mode shows one of them.
-constexpr int ActionTop = 24;
+constexpr int ActionTop = 26;
 
+// The texts over the field and the list begin with a blank.
 constexpr std::array Items{
-    DialogItem{fraGames, WC_BUTTONW, BS_GROUPBOX, {10, 4, 368, 382}},
-    Label(lblHint, {22, 22, 344, 36}),
-    Label(lblGameName, {22, 66, 344, 18}, TextId::SelectedGame),
-    DialogItem{txtGameName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {22, 86, 344, 23}},
-    Label(lblGames, {22, 120, 344, 18}, TextId::SavedGameList),
+    DialogItem{fraGames, WC_BUTTONW, BS_GROUPBOX, {12, 12, 370, 372}},
+    Label(lblHint, {26, 24, 342, 36}),
+    Label(lblGameName, {22, 66, 346, 18}, TextId::SelectedGame),
+    DialogItem{txtGameName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {26, 86, 342, 23}},
+    Label(lblGames, {22, 122, 346, 18}, TextId::SavedGameList),
     DialogItem{lstGames,
                WC_LISTBOXW,
                WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
-               {22, 140, 344, 234}},
-    DialogItem{fraActions, WC_BUTTONW, BS_GROUPBOX, {388, 4, 142, 382}},
+               {26, 142, 342, 228}},
+    DialogItem{fraActions, WC_BUTTONW, BS_GROUPBOX, {392, 12, 136, 372}},
     Button(cmdLoad, ActionTop, TextId::ButtonLoad, BS_DEFPUSHBUTTON),
     Button(cmdSave, ActionTop, TextId::ButtonSave, BS_DEFPUSHBUTTON),
     Button(cmdDelete, ActionTop, TextId::ButtonDelete, BS_DEFPUSHBUTTON),
-    Button(cmdCancel, 62, TextId::ButtonClose),
-    Button(cmdHelp, 344, TextId::ButtonGamesHelp),
+    Button(cmdCancel, 64, TextId::ButtonClose),
+    Button(cmdHelp, 340, TextId::ButtonGamesHelp),
 };
 
 // What differs between the modes.

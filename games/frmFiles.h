@@ -20,7 +20,11 @@ class frmFiles : public Dialog {
     // `store` and `game` must outlive the dialog. `openHelp` opens the help page of saved games over a window.
     frmFiles(const Surroundings& around, const GameStore& store, Game& game, FilesMode mode,
              std::function<void(HWND)> openHelp)
-        : Dialog(around), store(store), game(game), mode(mode), openHelp(std::move(openHelp)) {}
+        : Dialog(around, {around.System.Look.BackgroundColour, around.System.Look.BackgroundColour}),
+          store(store),
+          game(game),
+          mode(mode),
+          openHelp(std::move(openHelp)) {}
 
     // Throws SystemError.
     void Open(HWND owner);

@@ -1,6 +1,7 @@
 #include "platform/Dialog.h"
 
 #include "platform/Dpi.h"
+#include "platform/GroupBox.h"
 #include "platform/OtherWindowsDisabled.h"
 #include "platform/Painting.h"
 
@@ -10,13 +11,14 @@
 
 namespace {
 
-constexpr int TypeHeight = 13;  // of the 96 dpi design
-constexpr Colour Ink{RGB(0, 0, 0), COLOR_BTNTEXT};
+constexpr int ScrollStep = 20;  // of the 96 dpi design
+
+Colour Own(uint32_t colour) { return {ColourOf(colour), COLOR_BTNFACE}; }
 
 }  // namespace
 
-Dialog::Dialog(const Surroundings& around)
-    : Form(around), background({ColourOf(around.System.Look.BackgroundColour), COLOR_BTNFACE}) {}
+Dialog::Dialog(const Surroundings& around, DialogColours colours)
+    : Form(around), ground(Own(colours.Ground)), card(Own(colours.Card)), cardColour(Own(colours.Card)) {}
 
 void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
                     std::span<const DialogItem> controls) {
@@ -25,40 +27,93 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
                  LoadIconW(GetModuleHandleW(nullptr), icon), owner);
     for (const DialogItem& item : items) {
         // The arrow keys move between consecutive buttons: they form one group.
-        const bool button = lstrcmpW(item.Kind, WC_BUTTONW) == 0 && (item.Style & BS_TYPEMASK) != BS_GROUPBOX;
+        const bool button = item.IsButton() && !item.IsGroup();
         AddControl(item.Kind, item.Id, WS_VISIBLE | item.Style | (button ? 0 : WS_GROUP));
+        if (item.IsGroup()) DrawHeadingOnly(Control(item.Id));
         if (item.Text) SetText(item.Id, captions(*item.Text));
     }
-    Place(owner, width, height);
+    design = {width, height};
+    Place(owner);
 }
 
-// Centres the window on its owner, and keeps it on the screen.
-void Dialog::Place(HWND owner, int width, int height) {
-    const RECT screen = WorkArea(owner);
-    RECT around{}, client{};
-    GetWindowRect(owner, &around);
+// Centres the window on a window, which may be itself, and fits it into that one's screen.
+void Dialog::Place(HWND on) {
+    const RECT screen = WorkArea(on);
+    RECT around{}, window{}, client{};
+    GetWindowRect(on, &around);
     // What the frame adds is known only once the window has a size.
-    const int wide = Scaled(width, Dpi()), high = Scaled(height, Dpi());
-    SetWindowPos(Window(), nullptr, 0, 0, wide, high, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ShowScrollBar(Window(), SB_BOTH, FALSE);
+    SetWindowPos(Window(), nullptr, 0, 0, design.Width, design.Height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    GetWindowRect(Window(), &window);
     GetClientRect(Window(), &client);
-    const LONG fullWidth = 2 * wide - client.right, fullHeight = 2 * high - client.bottom;
-    const LONG left =
-        std::max(std::min((around.left + around.right - fullWidth) / 2, screen.right - fullWidth), screen.left);
-    const LONG top =
-        std::max(std::min((around.top + around.bottom - fullHeight) / 2, screen.bottom - fullHeight), screen.top);
-    SetWindowPos(Window(), nullptr, left, top, fullWidth, fullHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+    const LONG frameWidth = window.right - window.left - client.right;
+    const LONG frameHeight = window.bottom - window.top - client.bottom;
+
+    const int bar = MulDiv(GetSystemMetrics(SM_CXVSCROLL), Dpi(), DpiOf(nullptr));
+    fit = FitDialog(design, Dpi(),
+                    {static_cast<int>(screen.right - screen.left - frameWidth),
+                     static_cast<int>(screen.bottom - screen.top - frameHeight)},
+                    bar);
+    scroll.Set(Window(), {Scaled(design.Width, fit.Dpi), Scaled(design.Height, fit.Dpi)},
+               {fit.Client.Width - (fit.ScrollsDown ? bar : 0), fit.Client.Height - (fit.ScrollsAcross ? bar : 0)},
+               Scaled(ScrollStep, fit.Dpi));
+    const LONG width = fit.Client.Width + frameWidth, height = fit.Client.Height + frameHeight;
+    const LONG left = std::max(std::min((around.left + around.right - width) / 2, screen.right - width), screen.left);
+    const LONG top = std::max(std::min((around.top + around.bottom - height) / 2, screen.bottom - height), screen.top);
+    SetWindowPos(Window(), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    Arrange();
+}
+
+RECT Dialog::PlaceOf(const DialogItem& item) const {
+    const POINT origin = scroll.Origin();
+    const LONG left = origin.x + Scaled(item.Box.Left, fit.Dpi), top = origin.y + Scaled(item.Box.Top, fit.Dpi);
+    return {left, top, left + Scaled(item.Box.Width, fit.Dpi), top + Scaled(item.Box.Height, fit.Dpi)};
 }
 
 void Dialog::Arrange() {
-    UniqueFont previous = std::move(font);
-    font = MakeFont(Scaled(TypeHeight, Dpi()), false);
+    const auto previous = std::exchange(fonts, {});
     for (const DialogItem& item : items) {
-        const Box& box = item.Box;
+        UniqueFont& font = fonts[{item.Type.Height, item.Type.Bold}];
+        if (!font) font = MakeFont(Scaled(item.Type.Height, fit.Dpi), item.Type.Bold);
         SendMessageW(Control(item.Id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
-        SetWindowPos(Control(item.Id), nullptr, Scaled(box.Left, Dpi()), Scaled(box.Top, Dpi()),
-                     Scaled(box.Width, Dpi()), Scaled(box.Height, Dpi()), SWP_NOZORDER | SWP_NOACTIVATE);
+        const auto [left, top, right, bottom] = PlaceOf(item);
+        SetWindowPos(Control(item.Id), nullptr, left, top, right - left, bottom - top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Dialog::DrawGround(HDC dc) const {
+    RECT client{};
+    GetClientRect(Window(), &client);
+    FillRect(dc, &client, ground.get());
+    for (const DialogItem& item : items) {
+        if (item.IsGroup()) DrawCard(dc, PlaceOf(item), Scaled(Look::CardCorner, fit.Dpi), cardColour);
+    }
+}
+
+// Prepares the writing of a control's text, and returns the brush of what is below it.
+HBRUSH Dialog::DrawOnGround(HDC dc, int id) const {
+    const auto found = std::find_if(items.begin(), items.end(), [=](const DialogItem& item) { return item.Id == id; });
+    SetBkMode(dc, TRANSPARENT);
+    if (found == items.end()) return ground.get();
+    SetTextColor(dc, InkOf(found->Type));
+    const bool onCard = std::any_of(items.begin(), items.end(), [&](const DialogItem& item) {
+        return item.IsGroup() && item.Box.Left <= found->Box.Left && found->Box.Right() <= item.Box.Right() &&
+               item.Box.Top <= found->Box.Top && found->Box.Top < item.Box.Bottom();
+    });
+    return onCard ? card.get() : ground.get();
+}
+
+// With the label above it.
+void Dialog::BringFocusIntoSight() {
+    const HWND focused = GetFocus();
+    if (!Window() || !IsChild(Window(), focused)) return;
+    RECT area{};
+    GetWindowRect(focused, &area);
+    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&area), 2);
+    const int margin = Scaled(ScrollStep, fit.Dpi);
+    InflateRect(&area, margin, margin);
+    scroll.BringIntoSight(area);
 }
 
 void Dialog::RunModal() {
@@ -73,9 +128,12 @@ void Dialog::RunModal() {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 break;
             }
-            if (IsDialogMessageW(Window(), &message)) continue;
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
+            if (!IsDialogMessageW(Window(), &message)) {
+                TranslateMessage(&message);
+                DispatchMessageW(&message);
+            }
+            // Not after a click, which would then end elsewhere than it began.
+            if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) BringFocusIntoSight();
         }
     }
     // Only after the owner has been enabled again: otherwise the system would activate another program's window.
@@ -110,17 +168,25 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORBTN:
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            SetTextColor(reinterpret_cast<HDC>(wParam), Ink);
-            return reinterpret_cast<LRESULT>(background.get());
-        case WM_ERASEBKGND: {
-            RECT client{};
-            GetClientRect(Window(), &client);
-            FillRect(reinterpret_cast<HDC>(wParam), &client, background.get());
-            return TRUE;
-        }
-        case WM_SIZE: Arrange(); return 0;
+            return reinterpret_cast<LRESULT>(
+                DrawOnGround(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
+        case WM_ERASEBKGND: DrawGround(reinterpret_cast<HDC>(wParam)); return TRUE;
+        case WM_VSCROLL:
+        case WM_HSCROLL: scroll.OnScroll(message, LOWORD(wParam)); return 0;
+        case WM_MOUSEWHEEL:
+            if (scroll.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam))) return 0;
+            break;
+        // The screen has become another one.
+        case WM_DPICHANGED:
+        case WM_DISPLAYCHANGE:
+            Form::Handle(message, wParam, lParam);
+            Place(Window());
+            return 0;
+        case WM_SETTINGCHANGE:
+            if (wParam == SPI_SETWORKAREA) Place(Window());
+            break;
         case WM_CLOSE: Close(); return 0;
-        default: return Form::Handle(message, wParam, lParam);
+        default: break;
     }
+    return Form::Handle(message, wParam, lParam);
 }

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// The palette that all windows share, as 0xRRGGBB, and the sizes that give them one style. Text keeps a contrast of at
+// The palette that all windows share, as 0xRRGGBB, and the type scale of the dialogs. Text keeps a contrast of at
 // least 4.5 : 1 with its ground, and 3 : 1 on a face that is dimmed on purpose.
 namespace Look {
 
@@ -36,5 +36,18 @@ inline constexpr FaceShades FullFaces[] = {{0xFFFFFF, 0x141312}, {0x141312, 0xFF
 inline constexpr FaceShades DimmedFaces[] = {{0xBDBAB3, 0x625F59}, {0x3A3937, 0x888580}};
 inline constexpr FaceShades PausedFaces[] = {{0xBDBAB3, 0x141312}, {0x4B4A47, 0xFFFFFF}};
 inline constexpr FaceShades FallenFaces[] = {{Fallen, 0xFFFFFF}, {0xFFFFFF, Fallen}};
+
+// The type of the dialogs: its height in pixels of the 96 dpi design.
+struct TypeStyle {
+    int Height;
+    bool Bold;
+    uint32_t Ink;
+};
+inline constexpr TypeStyle Text{13, false, Ink}, QuietText{13, false, QuietInk};
+inline constexpr TypeStyle Heading{12, true, QuietInk}, Value{15, true, Ink}, Title{20, true, Ink};
+
+// The edge of a card in a dialog, and the radius of its corners, in the same pixels.
+inline constexpr uint32_t CardEdge = 0xA19D95;
+inline constexpr int CardCorner = 6;
 
 }  // namespace Look

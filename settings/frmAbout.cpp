@@ -12,16 +12,17 @@ namespace {
 constexpr std::array KnightNames{"WN", "BN", "BNR", "WNR"};
 
 // The knights of both columns face the texts.
-constexpr int Width = 690, Height = 250, Knight = 96, Row = 44;
+constexpr int Width = 726, Height = 250, Knight = 96, Row = 44;
 
 constexpr DialogItem KnightAt(int index, int left, int top) {
     return {imgKnight + index, WC_STATICW, SS_OWNERDRAW, {left, top, Knight, Knight}};
 }
 constexpr DialogItem CaptionAt(int row, TextId text) {
-    return {lblAboutCaption + row, WC_STATICW, SS_NOPREFIX | SS_RIGHT, {124, 40 + Row * row, 130, 36}, text};
+    return {lblAboutCaption + row,          WC_STATICW, SS_NOPREFIX | SS_RIGHT,
+            {124, 44 + Row * row, 130, 36}, text,       Look::QuietText};
 }
-constexpr DialogItem ValueAt(int row) {
-    return {lblAboutValue + row, WC_STATICW, SS_NOPREFIX, {266, 40 + Row * row, 302, 36}};
+constexpr DialogItem ValueAt(int row, Look::TypeStyle type = Look::Text) {
+    return {lblAboutValue + row, WC_STATICW, SS_NOPREFIX, {266, 44 + Row * row, 338, 36}, std::nullopt, type};
 }
 
 constexpr std::array Items{
@@ -30,7 +31,7 @@ constexpr std::array Items{
     CaptionAt(0, TextId::CopyrightNotice),
     ValueAt(0),
     CaptionAt(1, TextId::ProgramName),
-    ValueAt(1),
+    ValueAt(1, Look::Value),
     CaptionAt(2, TextId::Version),
     ValueAt(2),
     CaptionAt(3, TextId::LegalTrademarks),

@@ -8,7 +8,7 @@
 // The about box: four knights and what the version resource says. A click anywhere, Esc or Enter closes it.
 class frmAbout : public Dialog {
   public:
-    explicit frmAbout(const Surroundings& around) : Dialog(around) {}
+    explicit frmAbout(const Surroundings& around) : Dialog(around, {Look::Card, Look::Card}) {}
 
     // Throws SystemError.
     void Open(HWND owner);

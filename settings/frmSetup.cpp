@@ -14,13 +14,29 @@
 
 namespace {
 
-constexpr int Width = 720, Height = 472;
+constexpr int Width = 752, Height = 524;
 constexpr int LineHeight = 18, OpenListHeight = 240;
 
-constexpr DialogItem Group(int id, Box box, TextId text) { return {id, WC_BUTTONW, BS_GROUPBOX, box, text}; }
-constexpr DialogItem Label(int id, Box box, TextId text) { return {id, WC_STATICW, SS_LEFT, box, text}; }
-constexpr DialogItem CheckBox(int id, int left, int top, TextId text) {
-    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTOCHECKBOX, {left, top, 262, 20}, text};
+// Two columns of cards, what they hold, and the row of buttons.
+constexpr int Left = 12, LeftWidth = 416, Right = 438, RightWidth = 302;
+constexpr int InLeft = Left + 16, InLeftWidth = LeftWidth - 32, InRight = Right + 16, InRightWidth = RightWidth - 32;
+constexpr int ButtonRow = 482;
+// The columns of the two sides.
+constexpr int SideWidth = 184, WhiteLeft = InLeft, BlackLeft = InLeft + InLeftWidth - SideWidth;
+
+constexpr DialogItem Group(int id, Box box, TextId text) {
+    return {id, WC_BUTTONW, BS_GROUPBOX, box, text, Look::Heading};
+}
+constexpr DialogItem Label(int id, int left, int top, int width, TextId text) {
+    return {id, WC_STATICW, SS_LEFT, {left, top, width, LineHeight}, text};
+}
+// A text that begins with a blank, which is no wider than this.
+constexpr int Blank = 4;
+constexpr DialogItem BlankLabel(int id, int left, int top, int width, TextId text) {
+    return Label(id, left - Blank, top, width + Blank, text);
+}
+constexpr DialogItem CheckBox(int id, int top, TextId text) {
+    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTOCHECKBOX, {InRight, top, InRightWidth, 20}, text};
 }
 constexpr DialogItem List(int id, int left, int top, int width) {
     return {id, WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, {left, top, width, OpenListHeight}};
@@ -30,71 +46,74 @@ constexpr DialogItem Button(int id, Box box, TextId text, bool first = false) {
     return {id, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON | (first ? DWORD{WS_GROUP} : 0), box, text};
 }
 constexpr DialogItem Name(int id, int left, int top) {
-    return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, 180, 23}};
+    return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, SideWidth, 23}};
 }
 // A caption over the scroll bars of both sides; what it says, and whether there is anything, depends on the clock type.
-constexpr DialogItem TimeCaption(int id, int top) { return {id, WC_STATICW, SS_NOPREFIX, {22, top, 290, LineHeight}}; }
+constexpr DialogItem TimeCaption(int id, int top) {
+    return {id, WC_STATICW, SS_NOPREFIX, {InLeft, top, InLeftWidth - 84, LineHeight}};
+}
 constexpr DialogItem Unit(int id, int top, TextId text) {
-    return {id, WC_STATICW, SS_RIGHT | SS_NOTIFY, {312, top, 84, LineHeight}, text};
+    return {id,   WC_STATICW,     SS_RIGHT | SS_NOTIFY, {InLeft + InLeftWidth - 84, top, 84, LineHeight},
+            text, Look::QuietText};
 }
 constexpr DialogItem Bar(int id, int left, int top) {
-    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 96, 20}};
+    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 100, 20}};
 }
+// As wide as the longest time that a settings file can hold.
 constexpr DialogItem Value(int id, int left, int top) {
-    // As wide as the longest time that a settings file can hold.
-    return {id, WC_STATICW, SS_RIGHT, {left, top + 2, 80, LineHeight}};
+    return {id, WC_STATICW, SS_RIGHT, {left + 104, top, SideWidth - 104, 20}, std::nullopt, Look::Value};
 }
 
 constexpr std::array Items{
-    Group(fraClockType, {10, 8, 400, 80}, TextId::ClockTypeGroup),
-    Label(lblClockType, {22, 30, 376, LineHeight}, TextId::SelectClockType),
-    List(cmbClockType, 22, 52, 376),
-    Group(fraPlayers, {10, 96, 400, 322}, TextId::PlayersGroup),
-    Label(lblName, {22, 118, 180, LineHeight}, TextId::WhiteName),
-    Name(txtName, 22, 138),
-    Label(lblName + 1, {216, 118, 180, LineHeight}, TextId::BlackName),
-    Name(txtName + 1, 216, 138),
-    TimeCaption(lblFirstCaption, 184),
-    Unit(lblFirstUnit, 184, TextId::HoursMinutes),
-    Bar(hsbFirstPeriod, 22, 207),
-    Value(lblFirstPeriod, 122, 207),
-    Bar(hsbFirstPeriod + 1, 216, 207),
-    Value(lblFirstPeriod + 1, 316, 207),
-    TimeCaption(lblSecondCaption, 262),
-    Unit(lblSecondUnit, 262, TextId::HoursMinutes),
-    Bar(hsbSecondPeriod, 22, 285),
-    Value(lblSecondPeriod, 122, 285),
-    Bar(hsbSecondPeriod + 1, 216, 285),
-    Value(lblSecondPeriod + 1, 316, 285),
-    TimeCaption(lblBonusCaption, 340),
-    Unit(lblBonusUnit, 340, TextId::MinutesSeconds),
-    Bar(hsbBonus, 22, 363),
-    Value(lblBonusValue, 122, 363),
-    Bar(hsbBonus + 1, 216, 363),
-    Value(lblBonusValue + 1, 316, 363),
-    Group(frameLanguage, {420, 8, 290, 58}, TextId::LanguageGroup),
-    List(cmbLanguage, 432, 30, 266),
-    Group(fraScorlet, {420, 74, 290, 124}, TextId::ScorletGroup),
-    CheckBox(chkOpenScorlet, 432, 96, TextId::OpenScorlet),
-    CheckBox(chkPGN, 432, 120, TextId::SavePgn),
-    Label(lblMoveAmount, {432, 146, 266, LineHeight}, TextId::MoveAmount),
-    List(cmbMoveAmount, 432, 166, 100),
-    Group(fraSound, {420, 206, 290, 116}, TextId::SoundGroup),
-    Label(lblButtonSound, {432, 228, 266, LineHeight}, TextId::ButtonSound),
-    List(cmbButtonSound, 432, 246, 170),
-    Button(cmdPreviewButton, {610, 245, 88, 25}, TextId::Preview, true),
-    Label(lblFlagSound, {432, 275, 266, LineHeight}, TextId::FlagSound),
-    List(cmbFlagSound, 432, 293, 170),
-    Button(cmdPreviewFlag, {610, 292, 88, 25}, TextId::Preview, true),
-    Group(fraMiscellaneous, {420, 330, 290, 88}, TextId::MiscellaneousGroup),
-    CheckBox(chkShowMoveNumber, 432, 348, TextId::ShowMoveNumber),
-    CheckBox(chkTurnClock, 432, 370, TextId::TurnClock),
-    CheckBox(chkCountTimeDown, 432, 392, TextId::CountTimeDown),
-    Button(cmdDefault, {10, 430, 116, 30}, TextId::ButtonDefault, true),
-    Button(cmdBlitz, {134, 430, 116, 30}, TextId::ButtonBlitz),
-    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {382, 430, 104, 30}, TextId::ButtonSetupOk},
-    Button(cmdCancel, {494, 430, 104, 30}, TextId::ButtonCancel),
-    Button(cmdHelp, {606, 430, 104, 30}, TextId::ButtonHelp),
+    Group(fraClockType, {Left, 12, LeftWidth, 92}, TextId::ClockTypeGroup),
+    BlankLabel(lblClockType, InLeft, 42, InLeftWidth, TextId::SelectClockType),
+    List(cmbClockType, InLeft, 62, InLeftWidth),
+    Group(fraPlayers, {Left, 114, LeftWidth, 356}, TextId::PlayersGroup),
+    BlankLabel(lblName, WhiteLeft, 144, SideWidth, TextId::WhiteName),
+    Name(txtName, WhiteLeft, 164),
+    BlankLabel(lblName + 1, BlackLeft, 144, SideWidth, TextId::BlackName),
+    Name(txtName + 1, BlackLeft, 164),
+    TimeCaption(lblFirstCaption, 216),
+    Unit(lblFirstUnit, 216, TextId::HoursMinutes),
+    Bar(hsbFirstPeriod, WhiteLeft, 238),
+    Value(lblFirstPeriod, WhiteLeft, 238),
+    Bar(hsbFirstPeriod + 1, BlackLeft, 238),
+    Value(lblFirstPeriod + 1, BlackLeft, 238),
+    TimeCaption(lblSecondCaption, 296),
+    Unit(lblSecondUnit, 296, TextId::HoursMinutes),
+    Bar(hsbSecondPeriod, WhiteLeft, 318),
+    Value(lblSecondPeriod, WhiteLeft, 318),
+    Bar(hsbSecondPeriod + 1, BlackLeft, 318),
+    Value(lblSecondPeriod + 1, BlackLeft, 318),
+    TimeCaption(lblBonusCaption, 376),
+    Unit(lblBonusUnit, 376, TextId::MinutesSeconds),
+    Bar(hsbBonus, WhiteLeft, 398),
+    Value(lblBonusValue, WhiteLeft, 398),
+    Bar(hsbBonus + 1, BlackLeft, 398),
+    Value(lblBonusValue + 1, BlackLeft, 398),
+    Group(frameLanguage, {Right, 12, RightWidth, 68}, TextId::LanguageGroup),
+    List(cmbLanguage, InRight, 42, InRightWidth),
+    Group(fraScorlet, {Right, 90, RightWidth, 132}, TextId::ScorletGroup),
+    CheckBox(chkOpenScorlet, 118, TextId::OpenScorlet),
+    CheckBox(chkPGN, 141, TextId::SavePgn),
+    Label(lblMoveAmount, InRight, 167, InRightWidth, TextId::MoveAmount),
+    List(cmbMoveAmount, InRight, 186, 100),
+    Group(fraSound, {Right, 232, RightWidth, 128}, TextId::SoundGroup),
+    Label(lblButtonSound, InRight, 260, InRightWidth, TextId::ButtonSound),
+    List(cmbButtonSound, InRight, 279, 170),
+    Button(cmdPreviewButton, {InRight + InRightWidth - 92, 278, 92, 24}, TextId::Preview, true),
+    Label(lblFlagSound, InRight, 307, InRightWidth, TextId::FlagSound),
+    List(cmbFlagSound, InRight, 326, 170),
+    Button(cmdPreviewFlag, {InRight + InRightWidth - 92, 325, 92, 24}, TextId::Preview, true),
+    Group(fraMiscellaneous, {Right, 370, RightWidth, 100}, TextId::MiscellaneousGroup),
+    CheckBox(chkShowMoveNumber, 396, TextId::ShowMoveNumber),
+    CheckBox(chkTurnClock, 419, TextId::TurnClock),
+    CheckBox(chkCountTimeDown, 442, TextId::CountTimeDown),
+    Button(cmdDefault, {Left, ButtonRow, 116, 30}, TextId::ButtonDefault, true),
+    Button(cmdBlitz, {Left + 126, ButtonRow, 116, 30}, TextId::ButtonBlitz),
+    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {408, ButtonRow, 104, 30}, TextId::ButtonSetupOk},
+    Button(cmdCancel, {522, ButtonRow, 104, 30}, TextId::ButtonCancel),
+    Button(cmdHelp, {636, ButtonRow, 104, 30}, TextId::ButtonHelp),
 };
 
 constexpr std::array Times{
@@ -128,7 +147,11 @@ constexpr int32_t ClockTypes = 4;
 
 frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Settings& settings,
                    std::function<void(HWND)> openHelp)
-    : Dialog(around), file(file), settings(settings), draft(settings), openHelp(std::move(openHelp)) {
+    : Dialog(around, {around.System.Look.BackgroundColour, Look::Card}),
+      file(file),
+      settings(settings),
+      draft(settings),
+      openHelp(std::move(openHelp)) {
     DropFractions(draft);
 }
 
@@ -257,7 +280,10 @@ LRESULT frmSetup::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_HELP: openHelp(Window()); return TRUE;
-        case WM_HSCROLL: OnScroll(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), LOWORD(wParam)); return 0;
+        case WM_HSCROLL:
+            if (!lParam) break;  // of the window's own bar
+            OnScroll(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), LOWORD(wParam));
+            return 0;
         case WM_MOUSEWHEEL:
             if (OnWheel(GET_WHEEL_DELTA_WPARAM(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return 0;
             break;
