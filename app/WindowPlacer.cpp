@@ -16,7 +16,7 @@ Box BoxOf(const RECT& area) {
             static_cast<int>(area.bottom - area.top)};
 }
 
-FrameSize FrameFor(bool menu, int dpi) {
+Extent FrameFor(bool menu, int dpi) {
     const RECT frame = FrameOf(WS_OVERLAPPEDWINDOW, menu, dpi);
     return {static_cast<int>(frame.right - frame.left), static_cast<int>(frame.bottom - frame.top)};
 }
@@ -152,6 +152,6 @@ void WindowPlacer::Keep(HWND clock, HWND scorlet) {
 }
 
 void WindowPlacer::LimitClock(HWND clock, MINMAXINFO& info) {
-    const FrameSize least = LeastClock(ScreenOf(clock));
+    const Extent least = LeastClock(ScreenOf(clock));
     info.ptMinTrackSize = {least.Width, least.Height};
 }

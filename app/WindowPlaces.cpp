@@ -7,7 +7,7 @@
 
 namespace {
 
-FrameSize WindowOf(const Screen& screen, int width, int height, const FrameSize& frame) {
+Extent WindowOf(const Screen& screen, int width, int height, const Extent& frame) {
     const auto scaled = [&](int length) { return (length * screen.Dpi + 48) / 96; };
     return {std::min(scaled(width) + frame.Width, screen.WorkArea.Width),
             std::min(scaled(height) + frame.Height, screen.WorkArea.Height)};
@@ -19,9 +19,9 @@ bool Inside(const Box& box, const Box& area) {
 
 }  // namespace
 
-FrameSize LeastClock(const Screen& screen) { return WindowOf(screen, LeastWidth, LeastHeight, screen.ClockFrame); }
+Extent LeastClock(const Screen& screen) { return WindowOf(screen, LeastWidth, LeastHeight, screen.ClockFrame); }
 
-FrameSize LeastScorlet(const Screen& screen) {
+Extent LeastScorlet(const Screen& screen) {
     return WindowOf(screen, ScorletLeastWidth, ScorletLeastHeight, screen.ScorletFrame);
 }
 
@@ -40,15 +40,15 @@ bool BothInSight(const WindowPlaces& places, const Box& workArea) {
 
 Box PlaceClock(const Screen& screen) {
     const Box& area = screen.WorkArea;
-    const FrameSize size = WindowOf(screen, DesignWidth, DesignHeight, screen.ClockFrame);
+    const Extent size = WindowOf(screen, DesignWidth, DesignHeight, screen.ClockFrame);
     return {area.Left + (area.Width - size.Width) / 2, area.Top + (area.Height - size.Height) / 2, size.Width,
             size.Height};
 }
 
 WindowPlaces PlaceBoth(const Screen& screen, const Box& clock) {
     const Box& area = screen.WorkArea;
-    const FrameSize wanted = WindowOf(screen, ScorletWidth, ScorletHeight, screen.ScorletFrame);
-    const FrameSize least = LeastScorlet(screen);
+    const Extent wanted = WindowOf(screen, ScorletWidth, ScorletHeight, screen.ScorletFrame);
+    const Extent least = LeastScorlet(screen);
     WindowPlaces places{BroughtInto(clock, area), {0, 0, wanted.Width, wanted.Height}};
     if (places.Clock.Width + wanted.Width > area.Width) {
         const int narrowed = std::max(LeastClock(screen).Width, area.Width - wanted.Width);

@@ -8,16 +8,11 @@
 
 // Where the clock window and the Scorlet are: whole windows with their frames, in pixels.
 
-// What frame, title and menu add to a client area.
-struct FrameSize {
-    int Width, Height;
-};
-
 // The screen that the windows are on.
 struct Screen {
     Box WorkArea;  // what the task bar leaves free
     int Dpi;
-    FrameSize ClockFrame, ScorletFrame;
+    Extent ClockFrame, ScorletFrame;  // what frame, title and menu add to a client area
 };
 
 struct WindowPlaces {
@@ -26,8 +21,8 @@ struct WindowPlaces {
 
 // The smallest size of a window whose client area has the least size of the design. A work area that is smaller still
 // is filled.
-FrameSize LeastClock(const Screen& screen);
-FrameSize LeastScorlet(const Screen& screen);
+Extent LeastClock(const Screen& screen);
+Extent LeastScorlet(const Screen& screen);
 
 // Moved, and cut where it is too large, to lie in an area.
 Box BroughtInto(const Box& box, const Box& area);

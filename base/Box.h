@@ -1,5 +1,10 @@
 #pragma once
 
+// A size in pixels.
+struct Extent {
+    int Width, Height;
+};
+
 // A rectangle in pixels.
 struct Box {
     int Left = 0, Top = 0, Width = 0, Height = 0;

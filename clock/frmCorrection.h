@@ -12,7 +12,7 @@ class frmCorrection : public Dialog {
     // `names` are those of the panels. The state must outlive the dialog.
     frmCorrection(const Surroundings& around, const modClock::ClockState& state,
                   const std::array<std::wstring, 2>& names)
-        : Dialog(around), state(state), names(names) {}
+        : Dialog(around, {Look::Card, Look::Card}), state(state), names(names) {}
 
     // Throws SystemError.
     void Open(HWND owner);

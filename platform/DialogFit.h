@@ -1,13 +1,9 @@
 #pragma once
 
+#include "base/Box.h"
 #include "platform/Look.h"
 
 // How a dialog fits the room that a screen has for it.
-
-// A size in pixels.
-struct Extent {
-    int Width, Height;
-};
 
 struct DialogFit {
     int Dpi;        // that its controls and their type are laid out for
