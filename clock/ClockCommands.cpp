@@ -2,6 +2,12 @@
 
 #include "base/RunTimeError.h"
 
+namespace {
+
+constexpr int TicksOfPeriodMark = 5;
+
+}  // namespace
+
 Phase ClockCommands::CurrentPhase() const {
     if (clock.State().TimerRunning) return Phase::Running;
     if (fallenSide) return Phase::Fallen;
@@ -15,6 +21,23 @@ PanelLook ClockCommands::LookOf(Side side) const {
         case Phase::Fallen: return FlagFallen(side) ? PanelLook::Fallen : PanelLook::Resting;
         default: return PanelLook::Resting;
     }
+}
+
+bool ClockCommands::TimeLow(Side side) const {
+    const Phase phase = CurrentPhase();
+    const bool underWay = phase == Phase::Running || phase == Phase::Paused;
+    return underWay && lowTime > 0 && clock.State().TimeLeft(side) <= lowTime;
+}
+
+FaceMark ClockCommands::MarkOf(Side side) const {
+    if (periodMarkLeft[side] > 0) return FaceMark::PeriodBegan;
+    return TimeLow(side) ? FaceMark::TimeLow : FaceMark::None;
+}
+
+// The players have been warned of what is low already.
+void ClockCommands::ForgetMarks() {
+    for (Side side : BothSides) warned[side] = TimeLow(side);
+    periodMarkLeft = {};
 }
 
 bool ClockCommands::ClockButtonEnabled(Side side) const {
@@ -36,6 +59,7 @@ void ClockCommands::Initialise(const TimeControl& control) {
     clock.InitialiseClock(control);
     fallenSide.reset();
     blinkText = BlinkMark::ToMove;
+    ForgetMarks();
 }
 
 ClockEvent ClockCommands::Press(Side button) {
@@ -76,17 +100,29 @@ ClockEvent ClockCommands::PressKeyP() { return clock.State().TimerHandle > 1 ? P
 ClockEvent ClockCommands::PauseIfRunning() { return CurrentPhase() == Phase::Running ? Pause() : ClockEvent::Ignored; }
 
 ClockEvent ClockCommands::Tick() {
+    const Side side = clock.TurnSide();
     try {
         switch (clock.ClockTick()) {
             case modClock::TickOutcome::OutOfStep: return ClockEvent::Ignored;
-            case modClock::TickOutcome::Counted: return ClockEvent::Ticked;
-            case modClock::TickOutcome::FlagFell: break;
+            case modClock::TickOutcome::Counted: break;
+            case modClock::TickOutcome::PeriodBegan:
+                periodMarkLeft[side] = TicksOfPeriodMark;
+                warned[side] = TimeLow(side);
+                return ClockEvent::PeriodBegan;
+            case modClock::TickOutcome::FlagFell:
+                fallenSide = clock.State().ActiveSide;
+                periodMarkLeft = {};
+                return ClockEvent::FlagFell;
         }
     } catch (const RunTimeError&) {
         return PauseOnOverflow();
     }
-    fallenSide = clock.State().ActiveSide;
-    return ClockEvent::FlagFell;
+    const bool markEnded = periodMarkLeft[side] > 0 && --periodMarkLeft[side] == 0;
+    if (TimeLow(side) && !warned[side]) {
+        warned[side] = true;
+        return ClockEvent::TimeLow;
+    }
+    return markEnded ? ClockEvent::MarkEnded : ClockEvent::Ticked;
 }
 
 ClockEvent ClockCommands::Correct(const Correction& correction) {
@@ -94,6 +130,7 @@ ClockEvent ClockCommands::Correct(const Correction& correction) {
     modClock::ClockState state = clock.State();
     Apply(correction, state);
     clock.Correct(state);
+    ForgetMarks();
     return ClockEvent::Changed;
 }
 
@@ -104,6 +141,7 @@ void ClockCommands::TakeLoadedGame(const modClock::ClockState& loaded) {
     const bool fallen = !loaded.GameStarted && loaded.MoveCount[White] > 0;
     fallenSide = fallen ? std::optional(loaded.SideByCounts()) : std::nullopt;
     blinkText = CurrentPhase() == Phase::Paused ? BlinkMark::Paused : BlinkMark::ToMove;
+    ForgetMarks();
 }
 
 ClockEvent ClockCommands::Pause() {

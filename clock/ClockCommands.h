@@ -17,6 +17,10 @@ enum class ClockEvent {
     Ticked,    // a second of the running side
     Changed,   // phase, turn or counts
     FlagFell,  // of the side whose turn it was
+    // Seconds of the running side that are marked on its face.
+    PeriodBegan,  // the first of its second period
+    TimeLow,      // its time has become low
+    MarkEnded,    // the beginning of its second period is no longer marked
     // The players are to be told of these; only an overflow has changed anything, it pauses a running clock.
     TimerNotCreated,
     TimerNotResumed,
@@ -30,6 +34,9 @@ enum class ClockEvent {
 constexpr Side ButtonOfMouse(bool rightButton, bool turnClock) { return rightButton != turnClock ? Black : White; }
 
 enum class BlinkMark { ToMove, Paused };
+
+// What a face is marked with.
+enum class FaceMark { None, PeriodBegan, TimeLow };
 
 // The state of a side, as its panel shows it.
 enum class PanelLook {
@@ -56,11 +63,15 @@ class ClockCommands {
     bool TurnMarksVisible(Side side) const { return LookOf(side) == PanelLook::Running; }
     bool FlagFallen(Side side) const { return fallenSide == side; }
     PanelLook LookOf(Side side) const;
+    FaceMark MarkOf(Side side) const;
     bool SetupEnabled() const { return CurrentPhase() == Phase::Idle; }
 
     // The side whose blinking mark blinks, and what the mark shows when it is on.
     std::optional<Side> BlinkingSide() const;
     BlinkMark BlinkText() const { return blinkText; }
+
+    // Time is low from so many seconds left on; 0: never.
+    void WarnAt(int32_t seconds) { lowTime = seconds; }
 
     // An idle clock with a time control, whatever was before.
     void Initialise(const TimeControl& control);
@@ -86,8 +97,13 @@ class ClockCommands {
   private:
     ClockEvent Pause();
     ClockEvent PauseOnOverflow();
+    bool TimeLow(Side side) const;
+    void ForgetMarks();
 
     modClock::Clock clock;
     std::optional<Side> fallenSide;
     BlinkMark blinkText = BlinkMark::ToMove;
+    int32_t lowTime = 0;
+    std::array<bool, 2> warned{};         // of time that is low, in the present period
+    std::array<int, 2> periodMarkLeft{};  // ticks
 };

@@ -14,6 +14,16 @@ bool ClockState::CountsOutOfStep() const {
     return lead != 0 && lead != 1;
 }
 
+bool ClockState::InSecondPeriod(Side side) const {
+    const bool used = GameStarted && !SecondPeriodArmed[side] && !SecondPeriodDue[side];
+    return Control.SecondPeriodEnabled && (used || MoveCount[side] > Control.MovesFirstPeriod);
+}
+
+int64_t ClockState::TimeLeft(Side side) const {
+    if (Control.CountTimeDown) return PlayerTime[side];
+    return int64_t{Control.PeriodLimit[side]} - Control.MoveBonus[side] - PlayerTime[side];
+}
+
 std::string Clock::Face(Side side) const {
     return state.TimeHoursText[side] + ":" + state.TimeMinutesText[side] + ":" + state.TimeSecondsText[side];
 }
@@ -56,25 +66,25 @@ TickOutcome Clock::ClockTick() {
     if (state.CountsOutOfStep()) return TickOutcome::OutOfStep;
 
     const Side side = state.ActiveSide;
-    const bool timeLeft = state.Control.CountTimeDown ? CountDown(side) : CountUp(side);
+    const TickOutcome outcome = state.Control.CountTimeDown ? CountDown(side) : CountUp(side);
     ShowClock(side);
-    if (timeLeft) return TickOutcome::Counted;
-    FlagFall();
-    return TickOutcome::FlagFell;
+    if (outcome == TickOutcome::FlagFell) FlagFall();
+    return outcome;
 }
 
-bool Clock::CountDown(Side side) {
+TickOutcome Clock::CountDown(Side side) {
     int32_t& time = state.PlayerTime[side];
     time = CheckedAdd(time, -1);
-    if (time == 0 && state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled) {
+    const bool granted = time == 0 && state.SecondPeriodDue[side] && state.Control.SecondPeriodEnabled;
+    if (granted) {
         time = state.Control.SecondPeriodTime[side];
         state.SecondPeriodDue[side] = false;
     }
     // A second period of no time is none: the time must not run on below zero.
-    return time != 0;
+    return time == 0 ? TickOutcome::FlagFell : granted ? TickOutcome::PeriodBegan : TickOutcome::Counted;
 }
 
-bool Clock::CountUp(Side side) {
+TickOutcome Clock::CountUp(Side side) {
     int32_t& limit = state.Control.PeriodLimit[side];
     const int32_t used = CheckedAdd(state.PlayerTime[side], 1);
     // The bonus counts as time used, deliberately.
@@ -87,7 +97,7 @@ bool Clock::CountUp(Side side) {
         state.SecondPeriodDue[side] = false;
     }
     state.PlayerTime[side] = used;
-    return !passed || granted;
+    return granted ? TickOutcome::PeriodBegan : passed ? TickOutcome::FlagFell : TickOutcome::Counted;
 }
 
 PressOutcome Clock::PressClock(Side button) {

@@ -32,6 +32,11 @@ struct ClockState {
     // True when side 0 has neither as many moves as side 1 nor one more: presses and ticks then change nothing.
     bool CountsOutOfStep() const;
 
+    // Whether the side has used up its first period, or made the moves of it.
+    bool InSecondPeriod(Side side) const;
+    // Seconds until the side's flag falls or its second period begins.
+    int64_t TimeLeft(Side side) const;
+
     // The side to move according to the counts, which a fallen flag does not change.
     Side SideByCounts() const { return MoveCount[White] > MoveCount[Black] ? White : Black; }
 };
@@ -47,7 +52,7 @@ class Timer {
 };
 
 enum class PressOutcome { Counted, TimerNotCreated };
-enum class TickOutcome { OutOfStep, Counted, FlagFell };
+enum class TickOutcome { OutOfStep, Counted, PeriodBegan, FlagFell };
 
 class Clock {
   public:
@@ -90,9 +95,9 @@ class Clock {
 
   private:
     void ShowClock(Side side);
-    // A second of the side's time; false when that was the last one.
-    bool CountDown(Side side);
-    bool CountUp(Side side);
+    // A second of the side's time.
+    TickOutcome CountDown(Side side);
+    TickOutcome CountUp(Side side);
     bool EarnsSecondPeriod(Side side, int32_t moves, int32_t divisor) const;
     void FlagFall();
 

@@ -91,6 +91,7 @@ void Game::Reset() {
 }
 
 void Game::TakeSettings() {
+    clock.WarnAt(settings.LowTime);
     clock.Initialise(settings.Control);
     timesAtPresses = {};
     ShowWhole();
@@ -168,9 +169,11 @@ GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDa
 
 void Game::TakeLoadedGame(const SavedGame& saved) {
     LeaveGame();
-    const bool turned = settings.BoardTurned;
+    // What is no part of a game stays.
+    const Settings own = settings;
     settings = saved.Options;
-    settings.BoardTurned = turned;
+    settings.BoardTurned = own.BoardTurned;
+    settings.LowTime = own.LowTime;
     clock.TakeLoadedGame(saved.Clock);
     timesAtPresses = {};
     ShowWhole();
@@ -184,7 +187,13 @@ void Game::TakeLoadedGame(const SavedGame& saved) {
 void Game::Show(ClockEvent event, ClockChange change) {
     switch (event) {
         case ClockEvent::Ignored: return;
-        case ClockEvent::Ticked: return clockView->ClockChanged(change);
+        case ClockEvent::Ticked:
+        case ClockEvent::MarkEnded: return clockView->ClockChanged(change);
+        case ClockEvent::PeriodBegan:
+        case ClockEvent::TimeLow:
+            clockView->ClockChanged(change);
+            Changed();
+            return clockView->PlaySound(event == ClockEvent::TimeLow ? ClockSound::TimeLow : ClockSound::PeriodBegan);
         case ClockEvent::Changed: clockView->ClockChanged(change); return Changed();
         case ClockEvent::FlagFell:
             if (record) {

@@ -15,7 +15,7 @@ struct ClockChange {
     bool Phase = false;           // buttons, marks, flags, captions and move numbers
 };
 
-enum class ClockSound { Button, Flag };
+enum class ClockSound { Button, Flag, PeriodBegan, TimeLow };
 
 // The clock's window, as the game needs it.
 class ClockView {

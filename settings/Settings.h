@@ -24,6 +24,7 @@ struct Settings {
     const char* FlagSoundName = FlagSounds[0];
     bool WritePgn = false;
     bool BoardTurned = false;  // the Scorlet's board, with Black's side below; no part of a game
+    int32_t LowTime = 0;       // seconds left from which on a face is marked, or 0; no part of a game
     int32_t LanguageIndex = English;
 
     // The DEFAULT preset, no names, English.

@@ -9,6 +9,7 @@ namespace {
 constexpr int32_t LanguageSlot = 300;
 constexpr int32_t PgnSlot = 301;
 constexpr int32_t BoardSlot = 302;
+constexpr int32_t LowTimeSlot = 303;  // seconds
 
 }  // namespace
 
@@ -46,6 +47,7 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
         reader.At(LanguageSlot);
         settings.WritePgn = reader.At(PgnSlot) != 0;
         settings.BoardTurned = reader.At(BoardSlot) != 0;
+        settings.LowTime = reader.At(LowTimeSlot);
     } catch (const BadSlot& bad) {
         return bad.Error;
     }
@@ -82,5 +84,6 @@ SlotRecord EncodeSettings(const Settings& settings) {
     record[LanguageSlot] = settings.LanguageIndex;
     if (settings.WritePgn) record[PgnSlot] = int32_t{1};
     WriteBoardTurned(settings.BoardTurned, record);
+    if (settings.LowTime > 0) record[LowTimeSlot] = settings.LowTime;
     return record;
 }

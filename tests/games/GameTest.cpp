@@ -39,7 +39,7 @@ struct Around final : modClock::Timer, ClockView, RecordView {
         Say(what + (change.Phase ? " all" : ""));
     }
     void PlaySound(ClockSound sound) override {
-        Say(sound == ClockSound::Button ? "click" : "gong");
+        Say(std::array{"click", "gong", "chime", "warn"}.at(static_cast<size_t>(sound)));
         if (const auto then = std::exchange(DuringSound, nullptr)) then();
     }
     void Inform(ClockEvent event) override {
@@ -128,6 +128,10 @@ struct Play {
         if (word == "great-bonus") control.MoveBonus.fill(std::numeric_limits<int32_t>::max()), Played.Reset();
         if (word == "up") control.CountTimeDown = false;
         if (word == "up") control.PeriodLimit.fill(std::numeric_limits<int32_t>::max()), Played.Reset();
+        if (word == "bonus") control.MoveBonus.fill(20), Played.Reset();
+        if (word.starts_with("low=")) Beside.Own.LowTime = std::stoi(word.substr(4)), Played.Reset();
+        if (word == "second") control.SecondPeriodEnabled = true, control.SecondPeriodTime.fill(30), Played.Reset();
+        if (word == "up60") control.CountTimeDown = false, Played.Reset();
         if (word == "setup") Beside.Options.Control.PeriodLimit[White] += 60, Played.TakeSettings();
         if (word == "open") Record = &Played.OpenRecord(Beside);
         if (word.size() == 4 && isdigit(word[1]) && isdigit(word[3])) Do(*Record, word), Played.RecordEdited();
@@ -143,8 +147,9 @@ struct Play {
 };
 
 // What the last word of a script made the windows do; for each side C where the clock button can be pressed, P where
-// the pause button can, R where it reads "Resume", T for the turn marks, F for the fallen flag, and the blinking mark
-// as m (to move) or p (paused); S where Setup can be opened; White's face; the lists, where there are any.
+// the pause button can, R where it reads "Resume", T for the turn marks, F for the fallen flag, 2 for a second period
+// that begins, L for low time, and the blinking mark as m (to move) or p (paused); S where Setup can be opened; White's
+// face; the lists, where there are any.
 std::string Played(const std::string& script) {
     Play play;
     play.SayAll(script);
@@ -156,6 +161,8 @@ std::string Played(const std::string& script) {
             {clock.PauseButtonEnabled(side), clock.ReadsResume(side) ? "R" : "P"},
             {clock.TurnMarksVisible(side), "T"},
             {clock.FlagFallen(side), "F"},
+            {clock.MarkOf(side) == FaceMark::PeriodBegan, "2"},
+            {clock.MarkOf(side) == FaceMark::TimeLow, "L"},
             {clock.BlinkingSide() == side, clock.BlinkText() == BlinkMark::Paused ? "p" : "m"}};
         std::string letters;
         for (const auto& [set, letter] : marks) letters += set ? letter : "";
@@ -220,6 +227,19 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open load1,0 draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2] | W 60s W => how to restart; F - 00:00:00
         W 60s space => how to restart; F - 00:00:00 | W 60s pauseB => how to restart; F - 00:00:00
         W 60s p => nothing; F - 00:00:00
+        A second period is marked for five seconds when it begins, and time that is low for as long as it is.
+        second W 59s => show W; CPTm - 00:00:01 | second W 60s => show W all, chime; CPT2m - 00:00:30
+        second W 64s => show W; CPT2m - 00:00:26 | second W 65s => show W all; CPTm - 00:00:25
+        second W W 60s B 1s => show W; CPTm 2 00:00:59 | second W 60s W 1s yes reset => ask, read, show W B all; CP CP S 00:01:00
+        second W 90s => show W all, gong; F - 00:00:00 | second up60 W 31s W B 30s => show W all, chime; CPT2m - 00:01:01
+        low=10 W 49s => show W; CPTm - 00:00:11 | low=10 W 50s => show W all, warn; CPTLm - 00:00:10
+        low=10 W 51s => show W; CPTLm - 00:00:09 | low=10 W 50s pause => show all; RLp - 00:00:10
+        low=10 W 60s => show W all, gong; F - 00:00:00 | low=10 up60 W 50s => show W all, warn; CPTLm - 00:00:50
+        low=10 bonus W 52s W B => click, show B all; CPTm - 00:00:28 | low=10 bonus W 52s W B 20s => show W; CPTLm - 00:00:08
+        low=10 bonus up60 W 30s => show W all, warn; CPTLm - 00:00:30 | bonus up60 W 40s => show W; CPTm - 00:00:40
+        low=40 second W 60s => show W all, chime; CPT2m - 00:00:30 | low=40 second W 65s => show W all; CPTLm - 00:00:25
+        low=40 load3,2on => show W B all; Rp L 00:00:45 | low=50 load3,2on pause 1s => show W; CPTLm L 00:00:44
+        low=10 W pause set5,40@1,0 => show W B all; RLp - 00:00:05 | low=10 W pause set5,40@1,0 pause 1s => show W; CPTLm - 00:00:04
         Declarations: a result pauses the clock, and fills the lists where it ends the game at once.
         open W e2e4 check => lists; CPTm - 00:01:00; 1. e4+ /
         open W e2e4 mate => lists, show all; Rp - 00:01:00; 1. e4#|[1-0] /
