@@ -203,6 +203,8 @@ Section /o "un.$(GamesAndSettings)" GamesAndSettings
   ${If} $0 <> 1
     Delete "$INSTDIR\Data\TORVANIX.set"
     Delete "$INSTDIR\Data\TORVANIX.set.new"
+    Delete "$INSTDIR\Data\TimeControls.txt"
+    Delete "$INSTDIR\Data\TimeControls.txt.new"
     Delete "$INSTDIR\Data\Game*.kept*"
     Delete "$INSTDIR\Data\Game*.last*"
   ${EndIf}

@@ -6,9 +6,11 @@
 #include "resources/resource.h"
 #include "settings/SettingsFile.h"
 #include "settings/SetupRules.h"
+#include "settings/TimeControls.h"
 
 #include <array>
 #include <functional>
+#include <optional>
 
 // A time's caption with what it is measured in, and its scroll bars, one for each side, with the labels of their
 // values.
@@ -40,11 +42,13 @@ class frmSetup : public Dialog {
     std::wstring SpokenName(int id) const override;
 
     void FillLists();
+    void FillTimeControls();
     void SetToolTips();
 
     // Show the draft in the controls.
     void ShowDraft();
     void ShowClockType();
+    void ShowTimeControl();
     void ShowTimeRow(const TimeBars& bars, bool has);
     void ShowTime(const TimeBars& bars, Side side);
     std::wstring CaptionOf(const TimeBars& bars) const;
@@ -54,6 +58,10 @@ class frmSetup : public Dialog {
     void OnChoice(int list, int position);
     void OnScroll(int bar, int request);
     bool OnWheel(short delta, POINT screenPoint);
+    void ChooseTimeControl(int position);
+    void OnKeepAs();
+    void OnRemoveTimes();
+    void ChangeTimeControls(const std::function<void()>& change);
     void OnOk();
 
     void AddEntry(int list, const std::wstring& text) const;
@@ -66,6 +74,9 @@ class frmSetup : public Dialog {
     const SettingsFile& file;
     Settings& settings;
     Settings draft;  // with times that its type lacks, see WithoutWhatTypeLacks
+    TimeControls timeControls;
+    std::optional<size_t> chosenTimes;  // of the time controls
+    int32_t unlistedMoves = 0;          // a move amount that the list does not reach
     std::function<void(HWND)> openHelp;
     ToolTips toolTips{*this};
     std::array<FilteredEdit, 2> names{

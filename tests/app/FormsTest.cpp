@@ -3,6 +3,7 @@
 #include "platform/Dpi.h"
 #include "recorder/frmScorlet.h"
 #include "settings/frmAbout.h"
+#include "settings/frmKeepAs.h"
 #include "settings/frmSetup.h"
 #include "tests/app/FormChecks.h"
 #include "tests/desktop/Desktop.h"
@@ -67,16 +68,18 @@ struct Maker {
     std::unique_ptr<Form> Files(FilesMode mode) {
         return Open(new frmFiles(Around, Games, Played, mode, [](HWND) {}), HWND{});
     }
+    std::unique_ptr<Form> KeepAs() { return Open(new frmKeepAs(Around), HWND{}, std::wstring()); }
     std::unique_ptr<Form> About() { return Open(new frmAbout(Around), HWND{}); }
 };
 
-constexpr std::array Names{"clock",  "scorlet", "setup0", "setup1", "setup2",
-                           "setup3", "load",    "save",   "delete", "about"};
+constexpr std::array Names{"clock", "scorlet", "setup0", "setup1", "setup2", "setup3",
+                           "load",  "save",    "delete", "about",  "keep as"};
 
 std::unique_ptr<Form> Make(Maker& maker, const std::string& name) {
     if (name == "clock") return maker.Clock();
     if (name == "scorlet") return maker.Scorlet();
     if (name.starts_with("setup")) return maker.Setup(name.back() - '0');
+    if (name == "keep as") return maker.KeepAs();
     if (name == "about") return maker.About();
     return maker.Files(name == "load" ? FilesMode::Load : name == "save" ? FilesMode::Save : FilesMode::Delete);
 }
