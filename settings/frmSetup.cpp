@@ -61,6 +61,7 @@ void frmSetup::Open(HWND owner) {
            SetupItems::Items);
     if (const std::wstring problem = timeControls.Load(); !problem.empty()) messageBoxes.Inform(owner, problem);
     for (int list : Lists) Subclass<ListProcedure>(Control(list), Window());
+    for (int bar = hsbFirstPeriod; bar <= hsbBonus + 1; ++bar) Subclass<BarProcedure>(Control(bar), this);
     FillLists();
     SetToolTips();
     ShowDraft();
@@ -89,6 +90,8 @@ void frmSetup::SetToolTips() {
     toolTips.Create();
     for (int unit : {lblFirstUnit, lblSecondUnit}) toolTips.Set(unit, captions(TextId::TipHoursMinutes));
     toolTips.Set(lblBonusUnit, captions(TextId::TipMinutesSeconds));
+    for (int bar = hsbFirstPeriod; bar <= hsbBonus + 1; ++bar)
+        toolTips.Set(bar, captions(bar < hsbBonus ? TextId::TipTypedTime : TextId::TipTypedBonus));
     for (int button : {cmdPreviewButton, cmdPreviewFlag}) toolTips.Set(button, captions(TextId::Preview));
 }
 
@@ -346,8 +349,7 @@ void frmSetup::OnScroll(int bar, int request) {
     for (const TimeBars& bars : Times) {
         const int side = bar - bars.Bar;
         if (side != White && side != Black) continue;
-        int32_t& seconds = (draft.Control.*bars.Time)[static_cast<size_t>(side)];
-        int32_t value = seconds / bars.Unit;
+        int32_t value = (draft.Control.*bars.Time)[static_cast<size_t>(side)] / bars.Unit;
         switch (request) {
             case SB_LINELEFT: value -= bars.Scale.SmallStep; break;
             case SB_LINERIGHT: value += bars.Scale.SmallStep; break;
@@ -366,11 +368,39 @@ void frmSetup::OnScroll(int bar, int request) {
             }
             default: return;
         }
-        seconds = std::clamp(value, bars.Scale.Least, bars.Scale.Most) * bars.Unit;
-        ShowTime(bars, static_cast<Side>(side));
-        ShowTimeControl();
-        return TellSpokenName(bar);
+        return SetTime(bars, static_cast<Side>(side), std::clamp(value, bars.Scale.Least, bars.Scale.Most));
     }
+}
+
+void frmSetup::OnCharacter(int bar, wchar_t character) {
+    for (const TimeBars& bars : Times) {
+        const int side = bar - bars.Bar;
+        if (side != White && side != Black) continue;
+        const int32_t shown = (draft.Control.*bars.Time)[static_cast<size_t>(side)] / bars.Unit;
+        const auto value = typed.Type(character, bars.Scale, shown);
+        if (!value) return void(MessageBeep(MB_OK));
+        return SetTime(bars, static_cast<Side>(side), *value);
+    }
+}
+
+void frmSetup::SetTime(const TimeBars& bars, Side side, int32_t value) {
+    (draft.Control.*bars.Time)[side] = value * bars.Unit;
+    ShowTime(bars, side);
+    ShowTimeControl();
+    TellSpokenName(ControlOf(bars.Bar, side));
+}
+
+// A scroll bar takes the keys that type its time.
+LRESULT CALLBACK frmSetup::BarProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                        DWORD_PTR self) {
+    auto& form = *reinterpret_cast<frmSetup*>(self);
+    switch (message) {
+        case WM_GETDLGCODE: return DefSubclassProc(bar, message, wParam, lParam) | DLGC_WANTCHARS;
+        case WM_CHAR: form.OnCharacter(GetDlgCtrlID(bar), static_cast<wchar_t>(wParam)); return 0;
+        case WM_KILLFOCUS: form.typed.End(); break;
+        default: break;
+    }
+    return DefSubclassProc(bar, message, wParam, lParam);
 }
 
 // Turns the scroll bar under the mouse, else the one with the focus: a notch is a small step, forwards is more.

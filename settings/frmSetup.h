@@ -7,6 +7,7 @@
 #include "settings/SettingsFile.h"
 #include "settings/SetupRules.h"
 #include "settings/TimeControls.h"
+#include "settings/TypedTime.h"
 
 #include <array>
 #include <functional>
@@ -57,6 +58,8 @@ class frmSetup : public Dialog {
     void OnListNotification(int id, int notification);
     void OnChoice(int list, int position);
     void OnScroll(int bar, int request);
+    void SetTime(const TimeBars& bars, Side side, int32_t value);
+    void OnCharacter(int bar, wchar_t character);
     bool OnWheel(short delta, POINT screenPoint);
     void ChooseTimeControl(int position);
     void OnKeepAs();
@@ -68,6 +71,8 @@ class frmSetup : public Dialog {
     int PositionOf(int list) const;
     std::wstring TakeName(Side side, const std::wstring& text);  // what the field then shall hold
 
+    static LRESULT CALLBACK BarProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                         DWORD_PTR form);
     static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                           DWORD_PTR form);
 
@@ -82,6 +87,7 @@ class frmSetup : public Dialog {
     std::array<FilteredEdit, 2> names{
         FilteredEdit(*this, txtName, [this](const std::wstring& text) { return TakeName(White, text); }),
         FilteredEdit(*this, txtName + 1, [this](const std::wstring& text) { return TakeName(Black, text); })};
+    TypedTime typed;    // on the bar that has the focus
     int wheelRest = 0;  // of a notch
     bool accepted = false;
 };
