@@ -205,6 +205,8 @@ Section /o "un.$(GamesAndSettings)" GamesAndSettings
     Delete "$INSTDIR\Data\TORVANIX.set.new"
     Delete "$INSTDIR\Data\Places.txt"
     Delete "$INSTDIR\Data\Places.txt.new"
+    Delete "$INSTDIR\Data\TimeControls.txt"
+    Delete "$INSTDIR\Data\TimeControls.txt.new"
     Delete "$INSTDIR\Data\Game*.kept*"
     Delete "$INSTDIR\Data\Game*.last*"
   ${EndIf}

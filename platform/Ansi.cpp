@@ -2,14 +2,6 @@
 
 #include <windows.h>
 
-std::wstring FromAnsi(std::string_view text) {
-    const int length = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0');
-    const int written = MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), length);
-    wide.resize(static_cast<size_t>(written));
-    return wide;
-}
-
 namespace {
 
 std::string InCodePage(UINT page, std::wstring_view text) {
@@ -20,7 +12,19 @@ std::string InCodePage(UINT page, std::wstring_view text) {
     return narrow;
 }
 
+std::wstring OfCodePage(UINT page, std::string_view text) {
+    const int length = static_cast<int>(text.size());
+    std::wstring wide(text.size(), L'\0');
+    const int written = MultiByteToWideChar(page, 0, text.data(), length, wide.data(), length);
+    wide.resize(static_cast<size_t>(written));
+    return wide;
+}
+
 }  // namespace
+
+std::wstring FromAnsi(std::string_view text) { return OfCodePage(CP_ACP, text); }
+
+std::wstring FromUtf8(std::string_view text) { return OfCodePage(CP_UTF8, text); }
 
 std::string ToAnsi(std::wstring_view text) { return InCodePage(CP_ACP, text); }
 

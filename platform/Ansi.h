@@ -14,5 +14,8 @@ std::string ToAnsi(std::wstring_view text);
 // No value if the code page cannot give every character back.
 std::optional<std::string> ToAnsiExactly(std::wstring_view text);
 
-// For the files of other programs, which are in UTF-8.
+// For the files that other programs read too, which are in UTF-8.
 std::string ToUtf8(std::wstring_view text);
+
+// Bytes that are no UTF-8 become replacement characters.
+std::wstring FromUtf8(std::string_view text);

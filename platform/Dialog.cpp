@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr int ScrollStep = 20;  // of the 96 dpi design
+// Of the 96 dpi design.
+constexpr int ScrollStep = 20;
+constexpr int ListLine = 18;  // what a shut list shows
 
 Colour Own(uint32_t colour) { return {ColourOf(colour), COLOR_BTNFACE}; }
 
@@ -77,6 +79,8 @@ void Dialog::Arrange() {
         if (!font) font = MakeFont(Scaled(item.Type.Height, fit.Dpi), item.Type.Bold);
         SendMessageW(Control(item.Id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
         const auto [left, top, right, bottom] = PlaceOf(item);
+        if (std::wstring_view(item.Kind) == WC_COMBOBOXW)
+            SendMessageW(Control(item.Id), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), Scaled(ListLine, fit.Dpi));
         SetWindowPos(Control(item.Id), nullptr, left, top, right - left, bottom - top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);

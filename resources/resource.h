@@ -131,6 +131,17 @@ enum SetupControl : int {
     chkCountTimeDown,
     cmdDefault,
     cmdBlitz,
+    fraTimes,
+    cmbTimes,
+    cmdKeepAs,
+    cmdRemoveTimes,
+};
+
+// The dialog that asks for the name of a time control.
+enum KeepAsControl : int {
+    fraTimesName = 2350,
+    lblTimesName,
+    txtTimesName,
 };
 
 // The correction of the clock.

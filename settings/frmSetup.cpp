@@ -5,6 +5,8 @@
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
+#include "settings/SetupItems.h"
+#include "settings/frmKeepAs.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -13,108 +15,6 @@
 #include <array>
 
 namespace {
-
-constexpr int Width = 752, Height = 524;
-constexpr int LineHeight = 18, OpenListHeight = 240;
-
-// Two columns of cards, what they hold, and the row of buttons.
-constexpr int Left = 12, LeftWidth = 416, Right = 438, RightWidth = 302;
-constexpr int InLeft = Left + 16, InLeftWidth = LeftWidth - 32, InRight = Right + 16, InRightWidth = RightWidth - 32;
-constexpr int ButtonRow = 482;
-// The columns of the two sides.
-constexpr int SideWidth = 184, WhiteLeft = InLeft, BlackLeft = InLeft + InLeftWidth - SideWidth;
-
-constexpr DialogItem Group(int id, Box box, TextId text) {
-    return {id, WC_BUTTONW, BS_GROUPBOX, box, text, Look::Heading};
-}
-constexpr DialogItem Label(int id, int left, int top, int width, TextId text) {
-    return {id, WC_STATICW, SS_LEFT, {left, top, width, LineHeight}, text};
-}
-// A text that begins with a blank, which is no wider than this.
-constexpr int Blank = 4;
-constexpr DialogItem BlankLabel(int id, int left, int top, int width, TextId text) {
-    return Label(id, left - Blank, top, width + Blank, text);
-}
-constexpr DialogItem CheckBox(int id, int top, TextId text) {
-    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTOCHECKBOX, {InRight, top, InRightWidth, 20}, text};
-}
-constexpr DialogItem List(int id, int left, int top, int width) {
-    return {id, WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, {left, top, width, OpenListHeight}};
-}
-// `first` of those that the arrow keys go between.
-constexpr DialogItem Button(int id, Box box, TextId text, bool first = false) {
-    return {id, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON | (first ? DWORD{WS_GROUP} : 0), box, text};
-}
-constexpr DialogItem Name(int id, int left, int top) {
-    return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, SideWidth, 23}};
-}
-// A caption over the scroll bars of both sides; what it says, and whether there is anything, depends on the clock type.
-constexpr DialogItem TimeCaption(int id, int top) {
-    return {id, WC_STATICW, SS_NOPREFIX, {InLeft, top, InLeftWidth - 84, LineHeight}};
-}
-constexpr DialogItem Unit(int id, int top, TextId text) {
-    return {id,   WC_STATICW,     SS_RIGHT | SS_NOTIFY, {InLeft + InLeftWidth - 84, top, 84, LineHeight},
-            text, Look::QuietText};
-}
-constexpr DialogItem Bar(int id, int left, int top) {
-    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 100, 20}};
-}
-// As wide as the longest time that a settings file can hold.
-constexpr DialogItem Value(int id, int left, int top) {
-    return {id, WC_STATICW, SS_RIGHT, {left + 104, top, SideWidth - 104, 20}, std::nullopt, Look::Value};
-}
-
-constexpr std::array Items{
-    Group(fraClockType, {Left, 12, LeftWidth, 92}, TextId::ClockTypeGroup),
-    BlankLabel(lblClockType, InLeft, 42, InLeftWidth, TextId::SelectClockType),
-    List(cmbClockType, InLeft, 62, InLeftWidth),
-    Group(fraPlayers, {Left, 114, LeftWidth, 356}, TextId::PlayersGroup),
-    BlankLabel(lblName, WhiteLeft, 144, SideWidth, TextId::WhiteName),
-    Name(txtName, WhiteLeft, 164),
-    BlankLabel(lblName + 1, BlackLeft, 144, SideWidth, TextId::BlackName),
-    Name(txtName + 1, BlackLeft, 164),
-    TimeCaption(lblFirstCaption, 216),
-    Unit(lblFirstUnit, 216, TextId::HoursMinutes),
-    Bar(hsbFirstPeriod, WhiteLeft, 238),
-    Value(lblFirstPeriod, WhiteLeft, 238),
-    Bar(hsbFirstPeriod + 1, BlackLeft, 238),
-    Value(lblFirstPeriod + 1, BlackLeft, 238),
-    TimeCaption(lblSecondCaption, 296),
-    Unit(lblSecondUnit, 296, TextId::HoursMinutes),
-    Bar(hsbSecondPeriod, WhiteLeft, 318),
-    Value(lblSecondPeriod, WhiteLeft, 318),
-    Bar(hsbSecondPeriod + 1, BlackLeft, 318),
-    Value(lblSecondPeriod + 1, BlackLeft, 318),
-    TimeCaption(lblBonusCaption, 376),
-    Unit(lblBonusUnit, 376, TextId::MinutesSeconds),
-    Bar(hsbBonus, WhiteLeft, 398),
-    Value(lblBonusValue, WhiteLeft, 398),
-    Bar(hsbBonus + 1, BlackLeft, 398),
-    Value(lblBonusValue + 1, BlackLeft, 398),
-    Group(frameLanguage, {Right, 12, RightWidth, 68}, TextId::LanguageGroup),
-    List(cmbLanguage, InRight, 42, InRightWidth),
-    Group(fraScorlet, {Right, 90, RightWidth, 132}, TextId::ScorletGroup),
-    CheckBox(chkOpenScorlet, 118, TextId::OpenScorlet),
-    CheckBox(chkPGN, 141, TextId::SavePgn),
-    Label(lblMoveAmount, InRight, 167, InRightWidth, TextId::MoveAmount),
-    List(cmbMoveAmount, InRight, 186, 100),
-    Group(fraSound, {Right, 232, RightWidth, 128}, TextId::SoundGroup),
-    Label(lblButtonSound, InRight, 260, InRightWidth, TextId::ButtonSound),
-    List(cmbButtonSound, InRight, 279, 170),
-    Button(cmdPreviewButton, {InRight + InRightWidth - 92, 278, 92, 24}, TextId::Preview, true),
-    Label(lblFlagSound, InRight, 307, InRightWidth, TextId::FlagSound),
-    List(cmbFlagSound, InRight, 326, 170),
-    Button(cmdPreviewFlag, {InRight + InRightWidth - 92, 325, 92, 24}, TextId::Preview, true),
-    Group(fraMiscellaneous, {Right, 370, RightWidth, 100}, TextId::MiscellaneousGroup),
-    CheckBox(chkShowMoveNumber, 396, TextId::ShowMoveNumber),
-    CheckBox(chkTurnClock, 419, TextId::TurnClock),
-    CheckBox(chkCountTimeDown, 442, TextId::CountTimeDown),
-    Button(cmdDefault, {Left, ButtonRow, 116, 30}, TextId::ButtonDefault, true),
-    Button(cmdBlitz, {Left + 126, ButtonRow, 116, 30}, TextId::ButtonBlitz),
-    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {408, ButtonRow, 104, 30}, TextId::ButtonSetupOk},
-    Button(cmdCancel, {522, ButtonRow, 104, 30}, TextId::ButtonCancel),
-    Button(cmdHelp, {636, ButtonRow, 104, 30}, TextId::ButtonHelp),
-};
 
 constexpr std::array Times{
     TimeBars{lblFirstCaption, lblFirstUnit, hsbFirstPeriod, lblFirstPeriod, FirstPeriodScale, 60,
@@ -136,7 +36,7 @@ bool& CheckedBy(int box, Settings& settings) {
     }
 }
 
-constexpr std::array Lists{cmbClockType, cmbLanguage, cmbMoveAmount, cmbButtonSound, cmbFlagSound};
+constexpr std::array Lists{cmbClockType, cmbTimes, cmbLanguage, cmbMoveAmount, cmbButtonSound, cmbFlagSound};
 
 // In the order of the list.
 constexpr std::array<int32_t, 3> Languages{English, French, Turkish};
@@ -151,13 +51,17 @@ frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Setting
       file(file),
       settings(settings),
       draft(settings),
+      timeControls(around.System.DataFolder, captions),
       openHelp(std::move(openHelp)) {
     DropFractions(draft);
 }
 
 void frmSetup::Open(HWND owner) {
-    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", Width, Height, Items);
+    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", SetupItems::Width, SetupItems::Height,
+           SetupItems::Items);
+    if (const std::wstring problem = timeControls.Load(); !problem.empty()) messageBoxes.Inform(owner, problem);
     for (int list : Lists) Subclass<ListProcedure>(Control(list), Window());
+    for (int bar = hsbFirstPeriod; bar <= hsbBonus + 1; ++bar) Subclass<BarProcedure>(Control(bar), this);
     FillLists();
     SetToolTips();
     ShowDraft();
@@ -169,22 +73,34 @@ void frmSetup::FillLists() {
     for (int32_t language : Languages)
         AddEntry(cmbLanguage, captions.LookUp(TextIdentifier(TextId::LanguageNames, language)));
     for (int32_t moves = 1; moves <= MostMovesListed; ++moves) AddEntry(cmbMoveAmount, std::to_wstring(moves));
-    if (draft.Control.MovesFirstPeriod > MostMovesListed)
-        AddEntry(cmbMoveAmount, std::to_wstring(draft.Control.MovesFirstPeriod));
+    FillTimeControls();
     for (size_t i = 0; i < ButtonSounds.size(); ++i)
         AddEntry(cmbButtonSound, captions(RowAfter(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
     for (size_t i = 0; i < FlagSounds.size(); ++i)
         AddEntry(cmbFlagSound, captions(RowAfter(TextId::FlagSoundNames, static_cast<int32_t>(i))));
 }
 
+void frmSetup::FillTimeControls() {
+    SendMessageW(Control(cmbTimes), CB_RESETCONTENT, 0, 0);
+    AddEntry(cmbTimes, captions(TextId::OtherTimes));
+    for (const TimeControls::Entry& entry : timeControls.All()) AddEntry(cmbTimes, entry.Name);
+}
+
 void frmSetup::SetToolTips() {
     toolTips.Create();
     for (int unit : {lblFirstUnit, lblSecondUnit}) toolTips.Set(unit, captions(TextId::TipHoursMinutes));
     toolTips.Set(lblBonusUnit, captions(TextId::TipMinutesSeconds));
+    for (int bar = hsbFirstPeriod; bar <= hsbBonus + 1; ++bar)
+        toolTips.Set(bar, captions(bar < hsbBonus ? TextId::TipTypedTime : TextId::TipTypedBonus));
     for (int button : {cmdPreviewButton, cmdPreviewFlag}) toolTips.Set(button, captions(TextId::Preview));
 }
 
 void frmSetup::ShowDraft() {
+    if (draft.Control.MovesFirstPeriod > MostMovesListed) {
+        unlistedMoves = draft.Control.MovesFirstPeriod;
+        SendMessageW(Control(cmbMoveAmount), CB_DELETESTRING, MostMovesListed, 0);
+        AddEntry(cmbMoveAmount, std::to_wstring(unlistedMoves));
+    }
     for (int list : Lists) SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(PositionOf(list)), 0);
     for (const int box : Checks)
         SendMessageW(Control(box), BM_SETCHECK, CheckedBy(box, draft) ? BST_CHECKED : BST_UNCHECKED, 0);
@@ -199,6 +115,10 @@ void frmSetup::ShowDraft() {
 int frmSetup::PositionOf(int list) const {
     switch (list) {
         case cmbClockType: return draft.ClockType;
+        case cmbTimes: {
+            const auto matching = timeControls.Matching(TimesOf(draft), chosenTimes);
+            return matching ? static_cast<int>(*matching) + 1 : 0;
+        }
         case cmbLanguage: {
             const auto language = std::find(Languages.begin(), Languages.end(), settings.LanguageIndex);
             return language == Languages.end() ? -1 : static_cast<int>(language - Languages.begin());
@@ -209,6 +129,15 @@ int frmSetup::PositionOf(int list) const {
     }
 }
 
+// Which of the named ones the draft has.
+void frmSetup::ShowTimeControl() {
+    const int position = PositionOf(cmbTimes);
+    if (SendMessageW(Control(cmbTimes), CB_GETCURSEL, 0, 0) != position)
+        SendMessageW(Control(cmbTimes), CB_SETCURSEL, static_cast<WPARAM>(position), 0);
+    SetEnabled(cmdKeepAs, draft.ClockType >= 0 && draft.ClockType < ClockTypes);
+    SetEnabled(cmdRemoveTimes, position > 0 && timeControls.All()[static_cast<size_t>(position) - 1].Own);
+}
+
 void frmSetup::ShowClockType() {
     const TypeRules rules = RulesOf(draft.ClockType);
     ShowTimeRow(Times[0], true);
@@ -216,6 +145,7 @@ void frmSetup::ShowClockType() {
     ShowTimeRow(Times[2], rules.Bonus);
     SetEnabled(lblMoveAmount, rules.MoveAmount);
     SetEnabled(cmbMoveAmount, rules.MoveAmount);
+    ShowTimeControl();
 }
 
 void frmSetup::ShowTimeRow(const TimeBars& bars, bool has) {
@@ -256,7 +186,9 @@ std::wstring frmSetup::SpokenName(int id) const {
         case lblFirstUnit:
         case lblSecondUnit: return captions(TextId::TipHoursMinutes);
         case lblBonusUnit: return captions(TextId::TipMinutesSeconds);
-        case cmbLanguage: return captions(TextId::LanguageGroup);  // that has no label
+        // These have no label.
+        case cmbLanguage: return captions(TextId::LanguageGroup);
+        case cmbTimes: return captions(TextId::TimeControlGroup);
         case cmdPreviewButton: return captions(TextId::ButtonSound) + L" " + captions(TextId::Preview);
         case cmdPreviewFlag: return captions(TextId::FlagSound) + L" " + captions(TextId::Preview);
         default: return {};
@@ -301,6 +233,7 @@ void frmSetup::OnCommand(int id, int notification) {
             if (notification == EN_CHANGE) names[static_cast<size_t>(id - txtName)].OnChange();
             return;
         case cmbClockType:
+        case cmbTimes:
         case cmbLanguage:
         case cmbMoveAmount:
         case cmbButtonSound:
@@ -309,6 +242,8 @@ void frmSetup::OnCommand(int id, int notification) {
         case cmdPreviewFlag: return modSound::Play(draft.FlagSoundName);
         case cmdDefault: ApplyPreset(DefaultPreset, draft); return ShowDraft();
         case cmdBlitz: ApplyPreset(BlitzPreset, draft); return ShowDraft();
+        case cmdKeepAs: return OnKeepAs();
+        case cmdRemoveTimes: return OnRemoveTimes();
         case cmdOK: return OnOk();
         case cmdCancel: return Close();
         case cmdHelp: return openHelp(Window());
@@ -317,6 +252,7 @@ void frmSetup::OnCommand(int id, int notification) {
     for (const int box : Checks) {
         if (box == id) CheckedBy(box, draft) = SendMessageW(Control(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
+    if (id == chkCountTimeDown) ShowTimeControl();
 }
 
 // What is passed over in an open list has not been chosen.
@@ -332,15 +268,60 @@ void frmSetup::OnListNotification(int id, int notification) {
 void frmSetup::OnChoice(int list, int position) {
     switch (list) {
         case cmbClockType: ChooseClockType(draft, position); return ShowDraft();
+        case cmbTimes: return ChooseTimeControl(position);
         case cmbLanguage: settings.LanguageIndex = Languages[static_cast<size_t>(position)]; return;
         case cmbMoveAmount:
-            // The last entry is a stored amount that the others do not reach.
-            draft.Control.MovesFirstPeriod =
-                position < MostMovesListed ? position + 1 : settings.Control.MovesFirstPeriod;
+            // The last entry is an amount that the others do not reach.
+            draft.Control.MovesFirstPeriod = position < MostMovesListed ? position + 1 : unlistedMoves;
             return ShowClockType();
         case cmbButtonSound: return draft.SetButtonSound(position);
         default: return draft.SetFlagSound(position);
     }
+}
+
+void frmSetup::ChooseTimeControl(int position) {
+    // "Other times" says what is there, and sets none.
+    if (position == 0) return ShowTimeControl();
+    chosenTimes = static_cast<size_t>(position) - 1;
+    TakeTimes(timeControls.All()[*chosenTimes].Times, draft);
+    ShowDraft();
+}
+
+void frmSetup::OnKeepAs() {
+    const GameTimes times = TimesOf(draft);
+    const auto matching = timeControls.Matching(times, chosenTimes);
+    const bool own = matching && timeControls.All()[*matching].Own;
+    frmKeepAs dialog(around);
+    dialog.Open(Window(), own ? timeControls.All()[*matching].Name : L"");
+    dialog.RunModal();
+    const std::wstring& name = dialog.Name();
+    if (name.empty()) return;
+    const auto old = timeControls.OwnNamed(name);
+    const bool replaces = old && timeControls.All()[*old].Times != times;
+    if (replaces && !messageBoxes.Ask(Window(), texts.Compose(TextId::ReplaceTimes, name), false)) return;
+    ChangeTimeControls([&] { timeControls.Keep(name, times); });
+    chosenTimes = timeControls.OwnNamed(name);
+    ShowTimeControl();
+}
+
+void frmSetup::OnRemoveTimes() {
+    const std::wstring name = timeControls.All()[static_cast<size_t>(PositionOf(cmbTimes)) - 1].Name;
+    if (!messageBoxes.Ask(Window(), texts.Compose(TextId::RemoveTimesQuestion, name), false)) return;
+    ChangeTimeControls([&] { timeControls.Remove(name); });
+    chosenTimes.reset();
+    ShowTimeControl();
+    // The button has become disabled.
+    SetFocus(Control(cmbTimes));
+}
+
+void frmSetup::ChangeTimeControls(const std::function<void()>& change) {
+    try {
+        change();
+    } catch (const SystemError& error) {
+        messageBoxes.Inform(Window(),
+                            texts.Compose(TextId::TimeControlsNotSaved, error.Thing(), texts.Reason(error.Code())));
+    }
+    FillTimeControls();
 }
 
 // A closed list leaves the wheel to the dialog: it would choose another entry under a mouse that is elsewhere.
@@ -368,8 +349,7 @@ void frmSetup::OnScroll(int bar, int request) {
     for (const TimeBars& bars : Times) {
         const int side = bar - bars.Bar;
         if (side != White && side != Black) continue;
-        int32_t& seconds = (draft.Control.*bars.Time)[static_cast<size_t>(side)];
-        int32_t value = seconds / bars.Unit;
+        int32_t value = (draft.Control.*bars.Time)[static_cast<size_t>(side)] / bars.Unit;
         switch (request) {
             case SB_LINELEFT: value -= bars.Scale.SmallStep; break;
             case SB_LINERIGHT: value += bars.Scale.SmallStep; break;
@@ -388,10 +368,39 @@ void frmSetup::OnScroll(int bar, int request) {
             }
             default: return;
         }
-        seconds = std::clamp(value, bars.Scale.Least, bars.Scale.Most) * bars.Unit;
-        ShowTime(bars, static_cast<Side>(side));
-        return TellSpokenName(bar);
+        return SetTime(bars, static_cast<Side>(side), std::clamp(value, bars.Scale.Least, bars.Scale.Most));
     }
+}
+
+void frmSetup::OnCharacter(int bar, wchar_t character) {
+    for (const TimeBars& bars : Times) {
+        const int side = bar - bars.Bar;
+        if (side != White && side != Black) continue;
+        const int32_t shown = (draft.Control.*bars.Time)[static_cast<size_t>(side)] / bars.Unit;
+        const auto value = typed.Type(character, bars.Scale, shown);
+        if (!value) return void(MessageBeep(MB_OK));
+        return SetTime(bars, static_cast<Side>(side), *value);
+    }
+}
+
+void frmSetup::SetTime(const TimeBars& bars, Side side, int32_t value) {
+    (draft.Control.*bars.Time)[side] = value * bars.Unit;
+    ShowTime(bars, side);
+    ShowTimeControl();
+    TellSpokenName(ControlOf(bars.Bar, side));
+}
+
+// A scroll bar takes the keys that type its time.
+LRESULT CALLBACK frmSetup::BarProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                        DWORD_PTR self) {
+    auto& form = *reinterpret_cast<frmSetup*>(self);
+    switch (message) {
+        case WM_GETDLGCODE: return DefSubclassProc(bar, message, wParam, lParam) | DLGC_WANTCHARS;
+        case WM_CHAR: form.OnCharacter(GetDlgCtrlID(bar), static_cast<wchar_t>(wParam)); return 0;
+        case WM_KILLFOCUS: form.typed.End(); break;
+        default: break;
+    }
+    return DefSubclassProc(bar, message, wParam, lParam);
 }
 
 // Turns the scroll bar under the mouse, else the one with the focus: a notch is a small step, forwards is more.

@@ -6,9 +6,12 @@
 #include "resources/resource.h"
 #include "settings/SettingsFile.h"
 #include "settings/SetupRules.h"
+#include "settings/TimeControls.h"
+#include "settings/TypedTime.h"
 
 #include <array>
 #include <functional>
+#include <optional>
 
 // A time's caption with what it is measured in, and its scroll bars, one for each side, with the labels of their
 // values.
@@ -40,11 +43,13 @@ class frmSetup : public Dialog {
     std::wstring SpokenName(int id) const override;
 
     void FillLists();
+    void FillTimeControls();
     void SetToolTips();
 
     // Show the draft in the controls.
     void ShowDraft();
     void ShowClockType();
+    void ShowTimeControl();
     void ShowTimeRow(const TimeBars& bars, bool has);
     void ShowTime(const TimeBars& bars, Side side);
     std::wstring CaptionOf(const TimeBars& bars) const;
@@ -53,24 +58,36 @@ class frmSetup : public Dialog {
     void OnListNotification(int id, int notification);
     void OnChoice(int list, int position);
     void OnScroll(int bar, int request);
+    void SetTime(const TimeBars& bars, Side side, int32_t value);
+    void OnCharacter(int bar, wchar_t character);
     bool OnWheel(short delta, POINT screenPoint);
+    void ChooseTimeControl(int position);
+    void OnKeepAs();
+    void OnRemoveTimes();
+    void ChangeTimeControls(const std::function<void()>& change);
     void OnOk();
 
     void AddEntry(int list, const std::wstring& text) const;
     int PositionOf(int list) const;
     std::wstring TakeName(Side side, const std::wstring& text);  // what the field then shall hold
 
+    static LRESULT CALLBACK BarProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                         DWORD_PTR form);
     static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                           DWORD_PTR form);
 
     const SettingsFile& file;
     Settings& settings;
     Settings draft;  // with times that its type lacks, see WithoutWhatTypeLacks
+    TimeControls timeControls;
+    std::optional<size_t> chosenTimes;  // of the time controls
+    int32_t unlistedMoves = 0;          // a move amount that the list does not reach
     std::function<void(HWND)> openHelp;
     ToolTips toolTips{*this};
     std::array<FilteredEdit, 2> names{
         FilteredEdit(*this, txtName, [this](const std::wstring& text) { return TakeName(White, text); }),
         FilteredEdit(*this, txtName + 1, [this](const std::wstring& text) { return TakeName(Black, text); })};
+    TypedTime typed;    // on the bar that has the focus
     int wheelRest = 0;  // of a notch
     bool accepted = false;
 };

@@ -4,6 +4,7 @@
 #include "platform/Dpi.h"
 #include "recorder/frmScorlet.h"
 #include "settings/frmAbout.h"
+#include "settings/frmKeepAs.h"
 #include "settings/frmSetup.h"
 #include "tests/app/FormChecks.h"
 #include "tests/desktop/Desktop.h"
@@ -73,17 +74,19 @@ struct Maker {
     std::unique_ptr<Form> Correction() {
         return Open(new frmCorrection(Around, Played.Clock().Clock().State(), {L"WHITE", L"BLACK"}), HWND{});
     }
+    std::unique_ptr<Form> KeepAs() { return Open(new frmKeepAs(Around), HWND{}, std::wstring()); }
     std::unique_ptr<Form> About() { return Open(new frmAbout(Around), HWND{}); }
 };
 
-constexpr std::array Names{"clock", "scorlet", "setup0", "setup1", "setup2",    "setup3",
-                           "load",  "save",    "delete", "about",  "correction"};
+constexpr std::array Names{"clock", "scorlet", "setup0", "setup1", "setup2",     "setup3",
+                           "load",  "save",    "delete", "about",  "correction", "keep as"};
 
 std::unique_ptr<Form> Make(Maker& maker, const std::string& name) {
     if (name == "clock") return maker.Clock();
     if (name == "scorlet") return maker.Scorlet();
     if (name.starts_with("setup")) return maker.Setup(name.back() - '0');
     if (name == "correction") return maker.Correction();
+    if (name == "keep as") return maker.KeepAs();
     if (name == "about") return maker.About();
     return maker.Files(name == "load" ? FilesMode::Load : name == "save" ? FilesMode::Save : FilesMode::Delete);
 }
