@@ -11,7 +11,7 @@ int32_t SettingsFile::LoadLanguage() const {
     } catch (const SystemError&) {
         // Load, which is called next, reports it.
     }
-    return English;
+    return LanguageOfSystem(GetUserDefaultUILanguage());
 }
 
 std::wstring SettingsFile::Load(Settings& settings, const Texts& texts) const {
@@ -39,7 +39,9 @@ void SettingsFile::Save(const Settings& settings) const {
 std::wstring SettingsFile::SaveBoardTurned(bool turned, const Texts& texts) const {
     try {
         const auto bytes = ReadFileBytes(path, LongestRecord);
-        DecodedRecord record = bytes ? DecodeRecord(*bytes) : DecodedRecord{EncodeSettings(Settings()), std::nullopt};
+        Settings fresh;
+        fresh.LanguageIndex = LoadLanguage();
+        DecodedRecord record = bytes ? DecodeRecord(*bytes) : DecodedRecord{EncodeSettings(fresh), std::nullopt};
         if (record.Error)
             return texts.Compose(TextId::SettingsDamaged, path, texts.Reason(record.Error->What, record.Error->Slot));
         WriteBoardTurned(turned, record.Slots);

@@ -14,7 +14,8 @@ class SettingsFile {
     // `folder` with its trailing backslash.
     explicit SettingsFile(const std::wstring& folder) : folder(folder), path(folder + L"TORVANIX.set") {}
 
-    // The language alone, which the first window needs. English if there is no file or it cannot be read.
+    // The language alone, which the first window needs. That of the system, or else English, if there is no file or it
+    // cannot be read.
     int32_t LoadLanguage() const;
 
     // Reads the file into the settings, except for the language. Without a file they become the DEFAULT preset, without
@@ -28,8 +29,8 @@ class SettingsFile {
     void Save(const Settings& settings) const;
 
     // Writes down in the file whether the board is turned, and leaves all else in it as it is: the settings in use may
-    // be those of a loaded game. Without a file it makes one of the DEFAULT preset. The text says why it could not; it
-    // is empty on success.
+    // be those of a loaded game. Without a file it makes one of the DEFAULT preset, in the language of LoadLanguage.
+    // The text says why it could not; it is empty on success.
     std::wstring SaveBoardTurned(bool turned, const Texts& texts) const;
 
   private:

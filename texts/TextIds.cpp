@@ -1,5 +1,14 @@
 #include "texts/TextIds.h"
 
+Language LanguageOfSystem(uint16_t identifier) {
+    // The rest tells countries apart.
+    switch (identifier & 0x3FF) {
+        case 0x0C: return French;
+        case 0x1F: return Turkish;
+        default: return English;
+    }
+}
+
 TextId OrdinalRow(int32_t number, int32_t language) {
     if (language == French) return number == 1 ? TextId::OrdinalSt : TextId::OrdinalTh;
     const int32_t tens = number / 10 % 10;

@@ -14,6 +14,9 @@ enum class TextId : int32_t {
 
 enum Language : int32_t { Turkish = 1, English = 2, French = 3 };
 
+// The language of the program for a language identifier of the system: English for those that it does not speak.
+Language LanguageOfSystem(uint16_t identifier);
+
 // The row that is `steps` rows after `first` in a list, whose identifiers are ten apart.
 constexpr TextId RowAfter(TextId first, int32_t steps) { return TextId{static_cast<int32_t>(first) + 10 * steps}; }
 

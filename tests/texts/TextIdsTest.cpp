@@ -78,6 +78,16 @@ TEST(TextIdsTest, AccessKeysAreTakenOnceInEachMenu) {
     }
 }
 
+TEST(TextIdsTest, SystemsOfEveryCountryGetTheirLanguage) {
+    for (const auto& [identifier, language] : {std::pair<uint16_t, Language>{0x041F, Turkish},
+                                               {0x040C, French},
+                                               {0x0C0C, French},
+                                               {0x0409, English},
+                                               {0x0407, English},
+                                               {0, English}})
+        EXPECT_EQ(LanguageOfSystem(identifier), language) << identifier;
+}
+
 TEST(TextIdsTest, OrdinalsAndCountsOfEachLanguage) {
     // The English and the French ordinal, and whether both count it as one.
     const auto rows = [](const std::string& text) {
