@@ -57,6 +57,7 @@ void ClockPanels::Create() {
         add(WC_STATICW, lblMoveNumber, text);
         add(WC_STATICW, lblMoveCount, text);
         for (int pair : {lblPeriod, lblPeriodTime, lblBonus, lblBonusTime}) add(WC_STATICW, pair, text | SS_RIGHT);
+        add(WC_STATICW, lblStage, text);
         addMark(2);
     }
     toolTips.Create();
@@ -131,6 +132,7 @@ void ClockPanels::ArrangePanel(Side side) {
     place(lblPeriodTime, panel.PeriodTime, painter.TextFont());
     place(lblBonus, panel.Bonus, painter.TextFont());
     place(lblBonusTime, panel.BonusTime, painter.TextFont());
+    place(lblStage, panel.Stage, painter.TextFont());
     for (int mark = 0; mark < TurnMarksPerSide; ++mark)
         move(TurnMark(side, mark), panel.TurnMarks()[static_cast<size_t>(mark)]);
 
@@ -166,6 +168,7 @@ void ClockPanels::ShowSettings() {
         form.SetText(ControlOf(lblPeriodTime, side), FromAnsi(HoursMinutesText(PeriodTime(side)) + rest));
         form.SetText(ControlOf(lblBonusTime, side), FromAnsi(MinutesSecondsText(bonus)));
         for (int pair : {lblBonus, lblBonusTime}) form.SetVisible(ControlOf(pair, side), bonus > 0);
+        form.SetVisible(ControlOf(lblStage, side), HasSecondPeriod(side));
         for (int pair : {lblMoveNumber, lblMoveCount}) form.SetVisible(ControlOf(pair, side), settings.ShowMoveNumber);
     }
     // The type of a name depends on its length.
@@ -196,11 +199,13 @@ void ClockPanels::ShowPhase() {
         SetDrawnText(form.Control(ControlOf(lblBlink, side)), L"");
         const int32_t moves = commands.Clock().State().MoveCount[side];
         form.SetText(ControlOf(lblMoveCount, side), std::to_wstring(moves) + L".");
+        form.SetText(ControlOf(lblStage, side), Stage(side));
         // What says nothing should not be there for a screen reader.
         form.SetVisible(ControlOf(lblBlink, side), commands.BlinkingSide() == side);
     }
     Blink();
     for (Side side : BothSides) {
+        ShowMark(side);
         if (std::exchange(shown[side], commands.LookOf(side)) == commands.LookOf(side)) continue;
         const Box& panel = layout.Panels[side].Panel;
         const RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
@@ -208,6 +213,21 @@ void ClockPanels::ShowPhase() {
     }
     // At once: what follows may take time, the flag's sound for example.
     RedrawWindow(form.Window(), nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void ClockPanels::ShowMark(Side side) {
+    const FaceMark mark = commands.MarkOf(side);
+    if (std::exchange(shownMarks[side], mark) == mark) return;
+    const HWND face = form.Control(ControlOf(lblFace, side));
+    InvalidateRect(face, nullptr, FALSE);
+    if (mark != FaceMark::None) NotifyWinEvent(EVENT_SYSTEM_ALERT, face, OBJID_CLIENT, CHILDID_SELF);
+}
+
+std::wstring ClockPanels::Stage(Side side) const {
+    const modClock::ClockState& state = commands.Clock().State();
+    if (state.InSecondPeriod(side)) return texts(TextId::SecondStage);
+    const int32_t made = std::max(state.MoveCount[side] - 1, 0);
+    return texts.Compose(TextId::FirstStage, std::to_wstring(state.Control.MovesFirstPeriod - made));
 }
 
 void ClockPanels::Blink() {
@@ -231,7 +251,12 @@ std::wstring ClockPanels::SpokenName(int id) const {
             const modClock::ClockState& state = commands.Clock().State();
             const int32_t minutes = state.TimeHours[side] * 60 + state.TimeMinutes[side];
             const std::wstring time = of(texts.Duration(minutes * 60 + state.TimeSeconds[side]));
-            return fallen ? time + L", " + texts(TextId::FlagFallen) : time;
+            if (fallen) return time + L", " + texts(TextId::FlagFallen);
+            switch (commands.MarkOf(side)) {
+                case FaceMark::PeriodBegan: return time + L", " + texts(TextId::SecondStageBegins);
+                case FaceMark::TimeLow: return time + L", " + texts(TextId::LowTime);
+                default: return time;
+            }
         }
         case lblBlink: return of(texts(BlinkRow()));  // while the mark is off too
         case shpTurn: return of(texts(TextId::ToMove));
@@ -272,7 +297,7 @@ void ClockPanels::Draw(const DRAWITEMSTRUCT& item) {
     const PanelLook look = commands.LookOf(side);
     const std::wstring text = DrawnText(item.hwndItem);
     switch (pair) {
-        case lblFace: return painter.DrawFace(item, side, look, text);
+        case lblFace: return painter.DrawFace(item, side, look, commands.MarkOf(side), text);
         case lblBlink: return painter.DrawMarkWord(item, look, text.empty() ? MarkWord(side) : text);
         case shpTurn: return painter.DrawTurnMark(item, side, static_cast<size_t>(id - TurnMark(side, 0)));
         case imgFlagUp: return painter.DrawFlag(item, flagUp, false);

@@ -66,6 +66,8 @@ class ClockPanels {
 
   private:
     void ArrangePanel(Side side);
+    void ShowMark(Side side);
+    std::wstring Stage(Side side) const;
     bool HasSecondPeriod(Side side) const;
     int32_t PeriodTime(Side side) const;  // that is shown under the face
     TextId BlinkRow() const;
@@ -79,7 +81,8 @@ class ClockPanels {
     ClockPainter painter;
     ClockLayout layout{};
     std::array<PanelLook, 2> shown{};  // by the panels
-    RECT arranged{};                   // the client area that the layout is for
+    std::array<FaceMark, 2> shownMarks{};
+    RECT arranged{};  // the client area that the layout is for
     Picture flagUp, flagDown, hand;
     UniqueCursor handHit, handPointBlue;
     ToolTips toolTips;

@@ -222,7 +222,17 @@ void frmClock::Tick() {
 
 void frmClock::PlaySound(ClockSound sound) {
     if (sound == ClockSound::Flag && GetForegroundWindow() != Window()) ClockTitle::Flash(Window());
-    modSound::Play(sound == ClockSound::Button ? settings.ButtonSoundName : settings.FlagSoundName);
+    switch (sound) {
+        case ClockSound::Button: return modSound::Play(settings.ButtonSoundName);
+        case ClockSound::Flag: return modSound::Play(settings.FlagSoundName);
+        case ClockSound::PeriodBegan: return PlayNotice("PERIODBEGINS");
+        case ClockSound::TimeLow: return PlayNotice("TIMELOW");
+    }
+}
+
+// Beside the clock, which goes on. Players who have chosen silence for the flag want none of these either.
+void frmClock::PlayNotice(const char* name) const {
+    if (settings.FlagSoundIndex != 0) modSound::PlayBeside(name);
 }
 
 void frmClock::Inform(ClockEvent event) { messageBoxes.Inform(Window(), NoticeOf(event, texts)); }

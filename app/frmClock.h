@@ -46,6 +46,7 @@ class frmClock : public Form, private ClockView {
     void LosingGame() override { kept.PutAside(); }
 
     void LoadPictures();
+    void PlayNotice(const char* name) const;
     void ShowSetup();
     void ShowAbout();
     void ShowCorrection();

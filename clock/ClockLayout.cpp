@@ -32,7 +32,9 @@ int LayOutTexts(PanelLayout& layout, const Insides& in, int bottom, int type, bo
     const int fieldLeft = in.Right - field;
     layout.Period = {captionLeft, periodTop, fieldLeft - captionLeft, row};
     layout.PeriodTime = {fieldLeft, periodTop, field, row};
-    layout.Bonus = {in.Left, bonusTop, fieldLeft - in.Left, row};
+    layout.Bonus = {captionLeft, bonusTop, fieldLeft - captionLeft, row};
+    const int stageLeft = inTwoRows ? in.Left : layout.MoveCount.Right();
+    layout.Stage = {stageLeft, inTwoRows ? bonusTop : top, (inTwoRows ? captionLeft : in.Right) - stageLeft, row};
     layout.BonusTime = {fieldLeft, bonusTop, field, row};
     return top;
 }

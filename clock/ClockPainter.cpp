@@ -58,6 +58,8 @@ constexpr KeyColours PlainKey{Own(Look::PlainKey, COLOR_BTNFACE), Own(Look::Plai
                               Own(Look::KeyInk, COLOR_BTNTEXT)};
 constexpr KeyColours DeadKey{Own(Look::DeadKey, COLOR_BTNFACE), Own(Look::DeadKeyEdge, COLOR_GRAYTEXT),
                              Own(Look::DeadKeyInk, COLOR_GRAYTEXT)};
+// The line around a face: for a second period that begins, and for time that is low.
+constexpr std::array MarkColours{Own(Look::PeriodLine, COLOR_HIGHLIGHT), Own(Look::LowTimeLine, COLOR_HIGHLIGHT)};
 constexpr BYTE DeadPicture = 120;  // the strength of the hand on a key that cannot be pressed
 
 RECT RectOf(const Box& box) { return {box.Left, box.Top, box.Right(), box.Bottom()}; }
@@ -205,7 +207,8 @@ RECT ClockPainter::ChangedPart(const std::wstring& before, const std::wstring& a
     return changed;
 }
 
-void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook look, const std::wstring& text) {
+void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook look, FaceMark mark,
+                            const std::wstring& text) {
     const auto [ground, ink] = FaceOf(look, side);
     const std::vector<RECT> cells = Cells(text);
     const FaceType& type = TypeFor(text);
@@ -235,9 +238,14 @@ void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook loo
     Fill(buffer.Dc(), buffer.Area(), CardColour);
     // A line around a face keeps one that is as bright as the card apart from it.
     RECT area = buffer.Area();
-    const bool fallen = look == PanelLook::Fallen;
-    const int line = fallen ? std::max(static_cast<int>(area.bottom) / 30, 2) : 1;
-    FillRounded(buffer.Dc(), area, layout.FaceCorner, fallen ? FallenColours.Frame : LineColour);
+    const bool fallen = look == PanelLook::Fallen, marked = mark != FaceMark::None;
+    const int line = marked   ? std::max(static_cast<int>(area.bottom) / 16, 3)
+                     : fallen ? std::max(static_cast<int>(area.bottom) / 30, 2)
+                              : 1;
+    FillRounded(buffer.Dc(), area, layout.FaceCorner,
+                marked   ? MarkColours[mark == FaceMark::TimeLow]
+                : fallen ? FallenColours.Frame
+                         : LineColour);
     InflateRect(&area, -line, -line);
     FillRounded(buffer.Dc(), area, layout.FaceCorner - line / 2, ground);
     write(buffer.Dc());

@@ -43,7 +43,7 @@ class ClockPainter {
     void DrawPanel(HDC dc, Side side, PanelLook look, const std::wstring& word) const;
 
     // These draw the controls. A face draws no more of itself than has to be.
-    void DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook look, const std::wstring& text);
+    void DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook look, FaceMark mark, const std::wstring& text);
     void DrawTurnMark(const DRAWITEMSTRUCT& item, Side side, size_t mark) const;
     void DrawMarkWord(const DRAWITEMSTRUCT& item, PanelLook look, const std::wstring& word) const;
     void DrawFlag(const DRAWITEMSTRUCT& item, const Picture& flag, bool fallen) const;

@@ -23,6 +23,9 @@ inline constexpr uint32_t Running = 0x1B7F3B, RunningInk = 0xFFFFFF;
 inline constexpr uint32_t Paused = 0xE0A11B, PausedMark = 0x2A1E00;
 inline constexpr uint32_t Fallen = 0xB3261E, FallenInk = 0xFFFFFF;
 
+// The line around a face that is marked: a second period that begins, and time that is low.
+inline constexpr uint32_t PeriodLine = Running, LowTimeLine = Paused;
+
 // Keys, their lower edges and what is written on them.
 inline constexpr uint32_t Key = 0xE3AE3C, KeyEdge = 0xA87414, KeyInk = 0x2A1E00;
 inline constexpr uint32_t PlainKey = 0xFFFFFF, PlainKeyEdge = Line;

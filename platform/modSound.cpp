@@ -29,3 +29,5 @@ void modSound::Play(const char* resourceName, UINT flags) {
     if (IsSilent({wave, SizeofResource(nullptr, resource)})) return;
     sndPlaySoundA(reinterpret_cast<LPCSTR>(wave), flags | SND_MEMORY);
 }
+
+void modSound::PlayBeside(const char* resourceName) { Play(resourceName, DefaultFlags | SND_ASYNC); }

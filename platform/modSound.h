@@ -12,4 +12,7 @@ inline constexpr UINT DefaultFlags = 6;
 // no such resource or no device to play on. `flags` are those of sndPlaySound; the memory flag is always added.
 void Play(const char* resourceName, UINT flags = DefaultFlags);
 
+// Plays it and returns at once.
+void PlayBeside(const char* resourceName);
+
 }  // namespace modSound

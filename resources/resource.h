@@ -28,6 +28,7 @@ enum ClockControl : int {
     imgHand = 1024,
     lblBlink = 1026,
     shpTurn = 1028,  // three marks for each side: those of side 0, then those of side 1
+    lblStage = 1034,
 
     mnuStart = 1100,
     mnuLoad,
@@ -129,6 +130,8 @@ enum SetupControl : int {
     chkShowMoveNumber,
     chkTurnClock,
     chkCountTimeDown,
+    lblLowTime,
+    cmbLowTime,
     cmdDefault,
     cmdBlitz,
     fraTimes,

@@ -8,13 +8,13 @@
 // The controls of the setup dialog and where they are.
 namespace SetupItems {
 
-constexpr int Width = 752, Height = 524;
+constexpr int Width = 752, Height = 552;
 constexpr int LineHeight = 18, OpenListHeight = 240;
 
 // Two columns of cards, what they hold, and the row of buttons.
 constexpr int Left = 12, LeftWidth = 416, Right = 438, RightWidth = 302;
 constexpr int InLeft = Left + 16, InLeftWidth = LeftWidth - 32, InRight = Right + 16, InRightWidth = RightWidth - 32;
-constexpr int ButtonRow = 482;
+constexpr int ButtonRow = 510;
 // The columns of the two sides.
 constexpr int SideWidth = 184, WhiteLeft = InLeft, BlackLeft = InLeft + InLeftWidth - SideWidth;
 
@@ -62,33 +62,33 @@ constexpr std::array Items{
     Group(fraClockType, {Left, 12, LeftWidth, 92}, TextId::ClockTypeGroup),
     BlankLabel(lblClockType, InLeft, 42, InLeftWidth, TextId::SelectClockType),
     List(cmbClockType, InLeft, 62, InLeftWidth),
-    Group(fraPlayers, {Left, 114, LeftWidth, 274}, TextId::PlayersGroup),
+    Group(fraPlayers, {Left, 114, LeftWidth, 302}, TextId::PlayersGroup),
     BlankLabel(lblName, WhiteLeft, 142, SideWidth, TextId::WhiteName),
     Name(txtName, WhiteLeft, 162),
     BlankLabel(lblName + 1, BlackLeft, 142, SideWidth, TextId::BlackName),
     Name(txtName + 1, BlackLeft, 162),
-    TimeCaption(lblFirstCaption, 206),
-    Unit(lblFirstUnit, 206, TextId::HoursMinutes),
-    Bar(hsbFirstPeriod, WhiteLeft, 228),
-    Value(lblFirstPeriod, WhiteLeft, 228),
-    Bar(hsbFirstPeriod + 1, BlackLeft, 228),
-    Value(lblFirstPeriod + 1, BlackLeft, 228),
-    TimeCaption(lblSecondCaption, 265),
-    Unit(lblSecondUnit, 265, TextId::HoursMinutes),
-    Bar(hsbSecondPeriod, WhiteLeft, 287),
-    Value(lblSecondPeriod, WhiteLeft, 287),
-    Bar(hsbSecondPeriod + 1, BlackLeft, 287),
-    Value(lblSecondPeriod + 1, BlackLeft, 287),
-    TimeCaption(lblBonusCaption, 324),
-    Unit(lblBonusUnit, 324, TextId::MinutesSeconds),
-    Bar(hsbBonus, WhiteLeft, 346),
-    Value(lblBonusValue, WhiteLeft, 346),
-    Bar(hsbBonus + 1, BlackLeft, 346),
-    Value(lblBonusValue + 1, BlackLeft, 346),
-    Group(fraTimes, {Left, 398, LeftWidth, 72}, TextId::TimeControlGroup),
-    List(cmbTimes, InLeft, 427, 184),
-    Button(cmdKeepAs, {InLeft + 192, 426, 108, 24}, TextId::KeepAs, true),
-    Button(cmdRemoveTimes, {InLeft + 308, 426, 76, 24}, TextId::RemoveTimes),
+    TimeCaption(lblFirstCaption, 208),
+    Unit(lblFirstUnit, 208, TextId::HoursMinutes),
+    Bar(hsbFirstPeriod, WhiteLeft, 230),
+    Value(lblFirstPeriod, WhiteLeft, 230),
+    Bar(hsbFirstPeriod + 1, BlackLeft, 230),
+    Value(lblFirstPeriod + 1, BlackLeft, 230),
+    TimeCaption(lblSecondCaption, 276),
+    Unit(lblSecondUnit, 276, TextId::HoursMinutes),
+    Bar(hsbSecondPeriod, WhiteLeft, 298),
+    Value(lblSecondPeriod, WhiteLeft, 298),
+    Bar(hsbSecondPeriod + 1, BlackLeft, 298),
+    Value(lblSecondPeriod + 1, BlackLeft, 298),
+    TimeCaption(lblBonusCaption, 344),
+    Unit(lblBonusUnit, 344, TextId::MinutesSeconds),
+    Bar(hsbBonus, WhiteLeft, 366),
+    Value(lblBonusValue, WhiteLeft, 366),
+    Bar(hsbBonus + 1, BlackLeft, 366),
+    Value(lblBonusValue + 1, BlackLeft, 366),
+    Group(fraTimes, {Left, 426, LeftWidth, 72}, TextId::TimeControlGroup),
+    List(cmbTimes, InLeft, 455, 184),
+    Button(cmdKeepAs, {InLeft + 192, 454, 108, 24}, TextId::KeepAs, true),
+    Button(cmdRemoveTimes, {InLeft + 308, 454, 76, 24}, TextId::RemoveTimes),
     Group(frameLanguage, {Right, 12, RightWidth, 68}, TextId::LanguageGroup),
     List(cmbLanguage, InRight, 42, InRightWidth),
     Group(fraScorlet, {Right, 90, RightWidth, 132}, TextId::ScorletGroup),
@@ -103,10 +103,12 @@ constexpr std::array Items{
     Label(lblFlagSound, InRight, 307, InRightWidth, TextId::FlagSound),
     List(cmbFlagSound, InRight, 326, 170),
     Button(cmdPreviewFlag, {InRight + InRightWidth - 92, 325, 92, 24}, TextId::Preview, true),
-    Group(fraMiscellaneous, {Right, 370, RightWidth, 100}, TextId::MiscellaneousGroup),
+    Group(fraMiscellaneous, {Right, 370, RightWidth, 128}, TextId::MiscellaneousGroup),
     CheckBox(chkShowMoveNumber, 396, TextId::ShowMoveNumber),
     CheckBox(chkTurnClock, 419, TextId::TurnClock),
     CheckBox(chkCountTimeDown, 442, TextId::CountTimeDown),
+    Label(lblLowTime, InRight, 470, InRightWidth - 112, TextId::LowTimeWarning),
+    List(cmbLowTime, InRight + InRightWidth - 104, 466, 104),
     Button(cmdDefault, {Left, ButtonRow, 116, 30}, TextId::ButtonDefault, true),
     Button(cmdBlitz, {Left + 126, ButtonRow, 116, 30}, TextId::ButtonBlitz),
     DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {408, ButtonRow, 104, 30}, TextId::ButtonSetupOk},

@@ -36,10 +36,13 @@ bool& CheckedBy(int box, Settings& settings) {
     }
 }
 
-constexpr std::array Lists{cmbClockType, cmbTimes, cmbLanguage, cmbMoveAmount, cmbButtonSound, cmbFlagSound};
+constexpr std::array Lists{cmbClockType,   cmbTimes,     cmbLanguage, cmbMoveAmount,
+                           cmbButtonSound, cmbFlagSound, cmbLowTime};
 
-// In the order of the list.
+// In the order of the lists.
 constexpr std::array<int32_t, 3> Languages{English, French, Turkish};
+
+constexpr std::array<int32_t, 5> LowTimes{0, 10, 30, 60, 300};  // seconds
 
 constexpr int32_t ClockTypes = 4;
 
@@ -78,6 +81,8 @@ void frmSetup::FillLists() {
         AddEntry(cmbButtonSound, captions(RowAfter(TextId::ButtonSoundNames, static_cast<int32_t>(i))));
     for (size_t i = 0; i < FlagSounds.size(); ++i)
         AddEntry(cmbFlagSound, captions(RowAfter(TextId::FlagSoundNames, static_cast<int32_t>(i))));
+    for (size_t i = 0; i < LowTimes.size(); ++i)
+        AddEntry(cmbLowTime, captions(RowAfter(TextId::LowTimeNames, static_cast<int32_t>(i))));
 }
 
 void frmSetup::FillTimeControls() {
@@ -125,6 +130,10 @@ int frmSetup::PositionOf(int list) const {
         }
         case cmbMoveAmount: return std::min(draft.Control.MovesFirstPeriod - 1, MostMovesListed);
         case cmbButtonSound: return draft.ButtonSoundIndex;
+        case cmbLowTime: {
+            const auto low = std::find(LowTimes.begin(), LowTimes.end(), draft.LowTime);
+            return low == LowTimes.end() ? -1 : static_cast<int>(low - LowTimes.begin());
+        }
         default: return draft.FlagSoundIndex;
     }
 }
@@ -237,7 +246,8 @@ void frmSetup::OnCommand(int id, int notification) {
         case cmbLanguage:
         case cmbMoveAmount:
         case cmbButtonSound:
-        case cmbFlagSound: return OnListNotification(id, notification);
+        case cmbFlagSound:
+        case cmbLowTime: return OnListNotification(id, notification);
         case cmdPreviewButton: return modSound::Play(draft.ButtonSoundName);
         case cmdPreviewFlag: return modSound::Play(draft.FlagSoundName);
         case cmdDefault: ApplyPreset(DefaultPreset, draft); return ShowDraft();
@@ -275,6 +285,7 @@ void frmSetup::OnChoice(int list, int position) {
             draft.Control.MovesFirstPeriod = position < MostMovesListed ? position + 1 : unlistedMoves;
             return ShowClockType();
         case cmbButtonSound: return draft.SetButtonSound(position);
+        case cmbLowTime: draft.LowTime = LowTimes[static_cast<size_t>(position)]; return;
         default: return draft.SetFlagSound(position);
     }
 }

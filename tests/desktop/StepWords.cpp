@@ -64,6 +64,7 @@ void Set(Settings& settings, const std::string& assigned) {
         {"Scorlet", [&] { settings.OpenScorletAtStart = number; }},
         {"Pgn", [&] { settings.WritePgn = number; }},
         {"Language", [&] { settings.LanguageIndex = number; }},
+        {"LowTime", [&] { settings.LowTime = number; }},
         {"ButtonSound", [&] { settings.SetButtonSound(number); }},
         {"FlagSound", [&] { settings.SetFlagSound(number); }},
     };

@@ -38,19 +38,20 @@ TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
         bonus1=nan => OutOfRange 11 3599,0 | moves=-1 => OutOfRange 17 2:40 | moves=2147483646 => OutOfRange 17 2:40
         button=5 => OutOfRange 18 BUTTONPUSHED | button=-1 => OutOfRange 18 BUTTONPUSHED | 300=nan => OutOfRange 300 2
         flag=6 => OutOfRange 19 PIECEMOVED | 300=inf => Overflow 300 2 | 300=99999999999. => Overflow 300 2
-        301=99999999999. => Overflow 301 | 302=99999999999. => Overflow 302 | cut 18 => ShortFile 18 BUTTONPUSHED | cut 900 => ShortFile 900
+        301=99999999999. => Overflow 301 | 302=99999999999. => Overflow 302 | 303=99999999999. => Overflow 303 | cut 18 => ShortFile 18 BUTTONPUSHED | cut 900 => ShortFile 900
     )");
     EXPECT_EQ(EncodeSettings(Unusual()),
               Changed({},
                       "0=3 1=65 2=110 3=110 4=1 5=66 6=1 7=180 8=0 9=10 10=3599 11=7 12=0 13=1 14=0 15=2 16=0 "
                       "17=0 18=4 19=5 300=3 301=1",
                       0));
-    for (const size_t slot : {301, 302}) EXPECT_EQ(EncodeSettings(Settings())[slot], SlotValue()) << slot;
+    for (const size_t slot : {301, 302, 303}) EXPECT_EQ(EncodeSettings(Settings())[slot], SlotValue()) << slot;
 }
 
 TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
     Settings settings, read;
     settings.BoardTurned = true;
+    settings.LowTime = 30;
     settings.PlayerNames = {std::string(200, 'a'), std::string(84, '\xFF')};
     EXPECT_FALSE(DecodeSettings({EncodeSettings(settings), {}}, read));
     EXPECT_EQ(SettingsText(read), SettingsText(settings));

@@ -34,6 +34,7 @@ inline std::string SettingsText(const Settings& settings) {
     for (const auto& [on, name] : options) text << (on ? name : "");
     text << ' ' << settings.ClockType << ':' << control.MovesFirstPeriod << ' ' << settings.ButtonSoundName << ' '
          << settings.FlagSoundName << ' ' << settings.LanguageIndex << (settings.BoardTurned ? " turned" : "");
+    if (settings.LowTime != 0) text << " low " << settings.LowTime;
     return text.str();
 }
 
