@@ -90,6 +90,22 @@ ChosenLines ScorletLists::Chosen() const {
     return lines;
 }
 
+std::optional<Side> ScorletLists::Step(bool forward) const {
+    const Side from = GetFocus() == List(White) ? White : Black, to = Other(from);
+    const auto chosen = Chosen(from);
+    if (!chosen) return std::nullopt;
+    size_t index = *chosen;
+    if (forward) {
+        index += from == Black ? 1 : 0;
+    } else if (from == White && index-- == 0) {
+        return std::nullopt;
+    }
+    if (index >= recorder.List(to).Entries().size()) return std::nullopt;
+    Choose({to, index});
+    SetFocus(List(to));
+    return to;
+}
+
 void ScorletLists::OnChoice(Side side) const {
     if (!Chosen(side)) Choose({side, recorder.List(side).Entries().size() - 1});
 }
@@ -138,7 +154,10 @@ LRESULT CALLBACK ScorletLists::Procedure(HWND list, UINT message, WPARAM wParam,
     // The one bar of both is that of Black's list, and not every system turns the wheel of a list without one.
     if (message == WM_MOUSEWHEEL && list == lists.List(White))
         return SendMessageW(lists.List(Black), message, wParam, lParam);
+    if (message == WM_KEYDOWN && (wParam == VK_LEFT || wParam == VK_RIGHT))
+        return SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
     const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+    if (message == WM_KEYDOWN && wParam == VK_END) SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
     switch (message) {
         // What can scroll a list: the bar, the wheel, keys, the mouse, which may be dragged past the edge, and
         // programs.
