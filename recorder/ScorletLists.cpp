@@ -16,6 +16,13 @@ constexpr Colour SheetColour{ColourOf(Look::Sheet), COLOR_WINDOW},
 constexpr Colour Ink{ColourOf(Look::Ink), COLOR_WINDOWTEXT}, QuietInk{ColourOf(Look::QuietInk), COLOR_WINDOWTEXT};
 constexpr Colour ChosenInk{ColourOf(Look::Ink), COLOR_HIGHLIGHTTEXT};
 
+// Whether a message of a list is the choice of a row.
+bool ChoosesRow(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_LBUTTONUP) return HIWORD(SendMessageW(list, LB_ITEMFROMPOINT, 0, lParam)) == 0;
+    if (message != WM_KEYDOWN) return false;
+    return wParam == VK_UP || wParam == VK_DOWN || wParam == VK_HOME || wParam == VK_PRIOR || wParam == VK_NEXT;
+}
+
 }  // namespace
 
 void ScorletLists::Create() {
@@ -157,7 +164,13 @@ LRESULT CALLBACK ScorletLists::Procedure(HWND list, UINT message, WPARAM wParam,
     if (message == WM_KEYDOWN && (wParam == VK_LEFT || wParam == VK_RIGHT))
         return SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
     const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
-    if (message == WM_KEYDOWN && wParam == VK_END) SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
+    if (message == WM_KEYDOWN && wParam == VK_END) {
+        SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
+    } else if (ChoosesRow(list, message, wParam, lParam)) {
+        // Not every system tells it of a row that was chosen before.
+        SendMessageW(lists.form.Window(), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(list));
+    }
     switch (message) {
         // What can scroll a list: the bar, the wheel, keys, the mouse, which may be dragged past the edge, and
         // programs.

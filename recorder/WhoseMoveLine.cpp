@@ -17,10 +17,6 @@ TextId RowOf(WhoseMoveKind kind) {
     }
 }
 
-std::wstring ClockText(int32_t seconds) {
-    return FromAnsi(HoursMinutesText(seconds) + ":" + TwoDigitText(seconds % 60));
-}
-
 }  // namespace
 
 void WhoseMoveLine::Create() { form.AddControl(WC_STATICW, lblWhoseMove, WS_VISIBLE | SS_OWNERDRAW); }
@@ -36,7 +32,8 @@ void WhoseMoveLine::ShowLookBack(const Texts& texts, const LookBack& lookBack) {
     const auto& [white, black] = lookBack.Times;
     std::wstring text = texts.Compose(lookBack.Known ? TextId::LookBack : TextId::PositionNotKnown, entry);
     if (lookBack.Known && white && black)
-        text = texts.Compose(TextId::LookBackWithTimes, entry, ClockText(*white), ClockText(*black));
+        text =
+            texts.Compose(TextId::LookBackWithTimes, entry, FromAnsi(ClockText(*white)), FromAnsi(ClockText(*black)));
     ShowText(text, LineLook::LookBack, lookBack.List);
 }
 
