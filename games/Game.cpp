@@ -221,6 +221,17 @@ void Game::RememberTime(Side side) {
     if (!times.empty()) times.back() = state.PlayerTime[side];
 }
 
+std::array<std::optional<int32_t>, 2> Game::TimesAfter(const ChosenLine& line) const {
+    std::array<std::optional<int32_t>, 2> shown;
+    for (const Side side : BothSides) {
+        // Before White's move, Black's last press was one move earlier.
+        const size_t moves = line.Index + (side == Black && line.List == White ? 0 : 1);
+        const auto& times = timesAtPresses[side];
+        if (moves > 0 && moves <= times.size()) shown[side] = times[moves - 1];
+    }
+    return shown;
+}
+
 WhoseMove Game::NextMove() const {
     const Phase phase = clock.CurrentPhase();
     if (phase != Phase::Running && phase != Phase::Paused) return WhoseMoveOf(*record, std::nullopt);

@@ -93,6 +93,10 @@ class Game final : public ScorletGame {
     void Redo() override;
     bool CanTakeBack() const override { return record && history.CanTakeBack(); }
     bool CanRedo() const override { return record && history.CanRedo(); }
+    std::optional<EarlierPosition> PositionAfter(const ChosenLine& line) const override {
+        return history.PositionAfter(line);
+    }
+    std::array<std::optional<int32_t>, 2> TimesAfter(const ChosenLine& line) const override;
     WhoseMove NextMove() const override;
     // A record that is behind a clock under way goes on at the clock's move; otherwise nothing happens.
     void GoOnAtClocksMove();

@@ -101,14 +101,18 @@ void BoardInput::MoveCursor(int right, int up) {
     cursor = SquareAt(std::clamp(FileOf(cursor) + way * right, 1, 8), std::clamp(RankOf(cursor) + way * up, 1, 8));
 }
 
+bool BoardInput::OfLastMove(Square square) const {
+    const std::optional<Move>& last = earlier ? earlier->LastMove : recorder.LastMove();
+    return last && (last->Origin == square || last->Destination == square);
+}
+
 CellLook BoardInput::LookOf(Square square) const {
-    const auto& last = recorder.LastMove();
     return {
-        .Shown = recorder.Position().At(square),
+        .Shown = Shown().At(square),
         .Origin = origin == square,
         .Lifted = lifted && origin == square,
         .Target = lifted && target == square,
-        .LastMove = last && (last->Origin == square || last->Destination == square),
+        .LastMove = OfLastMove(square),
         .Cursor = cursor == square,
     };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recorder/EarlierPosition.h"
 #include "recorder/Recorder.h"
 
 #include <optional>
@@ -32,6 +33,15 @@ class BoardInput {
 
     const std::optional<TraySlot>& Captured() const { return captured; }
     CellLook LookOf(Square square) const;
+
+    // Has an earlier position shown in place of the game's, and no value the game's again. What is entered is entered
+    // in the game all the same.
+    void ShowEarlier(const std::optional<EarlierPosition>& position) { earlier = position; }
+    // What the board shows.
+    const Board& Shown() const { return earlier ? earlier->Pieces : recorder.Position(); }
+    bool ShowsEarlier() const { return earlier.has_value(); }
+    // Whether the move before that began or ended there.
+    bool OfLastMove(Square square) const;
 
     // A click on a square, or Enter on the cursor's square. Returns the written line if that has made a move.
     std::optional<ChosenLine> Click(Square square);
@@ -71,6 +81,7 @@ class BoardInput {
     void EndDrag();
 
     Recorder& recorder;
+    std::optional<EarlierPosition> earlier;
     std::optional<Square> origin;
     std::optional<TraySlot> captured;
     std::optional<Square> clicked;  // where the last click picked a piece, or let it go

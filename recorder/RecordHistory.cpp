@@ -1,5 +1,7 @@
 #include "recorder/RecordHistory.h"
 
+#include "recorder/GameReading.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -69,4 +71,43 @@ ChosenLines RecordHistory::Go(Steps& from, Steps& to, Recorder& record, const Ch
     to.emplace_back(present, record, chosen);
     present = record;
     return step.Chosen;
+}
+
+namespace {
+
+bool Written(const Recorder& record, const ChosenLine& line) {
+    const auto& entries = record.List(line.List).Entries();
+    return line.Index < entries.size() && entries[line.Index].IsWritten();
+}
+
+// What the lists of a record tell of the position after an entry.
+std::optional<EarlierPosition> Read(const Recorder& record, const ChosenLine& line) {
+    const GameReading game = ReadGame(record.Lists(), record.Position());
+    const size_t moves = line.Index * 2 + static_cast<size_t>(line.List) + 1;
+    const size_t clear = game.Finding == GameFinding::SeveralWays ? game.HalfMove : game.Moves.size();
+    if (moves > clear) return std::nullopt;
+    LegalPosition position;
+    for (size_t i = 0; i + 1 < moves; ++i) Carry(position, game.Moves[i]);
+    const LegalMove& last = game.Moves[moves - 1];
+    const Move move = position.Pieces.Classify(last.Origin, last.Destination);
+    Carry(position, last);
+    position.Pieces.ShowMissingAsCaptured();
+    return EarlierPosition{position.Pieces, move};
+}
+
+}  // namespace
+
+std::optional<EarlierPosition> RecordHistory::PositionAfter(const ChosenLine& line) const {
+    Recorder state = present;
+    auto step = past.rbegin();
+    // Before the entry was written for the last time, its line may have held another move.
+    while (Written(state, line)) {
+        if (state.LastLine() == line) return EarlierPosition{state.Position(), state.LastMove()};
+        if (step == past.rend()) break;
+        state = (step++)->RecordBeside(state);
+    }
+    auto read = Read(present, line);
+    // A game that was loaded may have gone on with moves that are not legal.
+    if (!read && step == past.rend()) read = Read(state, line);
+    return read;
 }

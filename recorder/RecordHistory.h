@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recorder/EarlierPosition.h"
 #include "recorder/Recorder.h"
 
 // The earlier states of a record, for Take Back, and those that have been taken back, for Redo. Of each state it keeps
@@ -23,6 +24,11 @@ class RecordHistory {
     // `chosen` are the lines that are chosen now. They return those that were chosen in that state.
     ChosenLines TakeBack(Recorder& record, const ChosenLines& chosen) { return Go(past, future, record, chosen); }
     ChosenLines Redo(Recorder& record, const ChosenLines& chosen) { return Go(future, past, record, chosen); }
+
+    // The position after a written entry of the present state. It is that of the last state on the way here in which
+    // the entry's move was the last one. Where the history does not go back so far, the legal game that the lists tell
+    // is looked for; no value where there is none, or more than one.
+    std::optional<EarlierPosition> PositionAfter(const ChosenLine& line) const;
 
   private:
     // A sequence without what another one begins with too.

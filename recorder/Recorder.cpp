@@ -33,21 +33,23 @@ void Recorder::Restore(const Board& position, const MoveLists& moves, Side toMov
         runningText = *text;
         pendingText.clear();
     }
-    AwaitPromotionAgain();
+    FindLastMove();
 }
 
-// The last move may have left a pawn on its last rank, or a piece that was chosen for it and can be chosen again.
-void Recorder::AwaitPromotionAgain() {
+// The last move, of which nothing but its entry is known, may have left a pawn on its last rank, or a piece that was
+// chosen for it and can be chosen again.
+void Recorder::FindLastMove() {
     const Side mover = Other(sideToMove);
     const auto last = lists[mover].LastWritten();
     if (!last) return;
+    lastLine = ChosenLine{mover, *last};
     const std::string_view text = lists[mover].Entries()[*last].Text;
     for (size_t at = 0; at < text.size(); ++at) {
         const Square square = SquareNamed(text.substr(at, 2));
         Piece piece = board.At(square);
         const bool chosen = piece != Piece::Empty && text.substr(at + 2).starts_with('=');
         if (chosen) piece = PieceOf(SideOf(piece), PieceKind::Pawn);
-        if (Board::ReachesLastRank(piece, square)) promotion = Promotion{square, ChosenLine{mover, *last}};
+        if (Board::ReachesLastRank(piece, square)) promotion = Promotion{square, lastLine};
     }
 }
 
@@ -70,6 +72,7 @@ ChosenLine Recorder::Play(Square origin, Square destination) {
     otherColourMoved = SideOf(move.Moving) != line.List;
     sideToMove = Other(sideToMove);
     lastMove = move;
+    lastLine = line;
     lastMoveLongForm = WriteLongForm(move).View();
     return line;
 }
@@ -211,9 +214,9 @@ void Recorder::DeleteLast(Side side) {
     MoveList& list = lists[side];
     if (list.Empty()) return;
     list.RemoveLast();
-    if (promotion && promotion->Line && promotion->Line->List == side &&
-        promotion->Line->Index >= list.Entries().size())
-        promotion->Line.reset();
+    const ChosenLine deleted{side, list.Entries().size()};
+    if (promotion && promotion->Line == deleted) promotion->Line.reset();
+    if (lastLine == deleted) lastLine.reset();
     RebuildText();
 }
 

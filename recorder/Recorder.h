@@ -37,6 +37,8 @@ class Recorder {
     Side SideToMove() const { return sideToMove; }
     // The move last carried out, so that it can be shown.
     const std::optional<Move>& LastMove() const { return lastMove; }
+    // The line that it was written into, or the last one of a game that was restored; none once that line is deleted.
+    const std::optional<ChosenLine>& LastLine() const { return lastLine; }
     // That move in long form, "e2-e4"; empty without one.
     const std::string& LastMoveLongForm() const { return lastMoveLongForm; }
     // Whether the piece of the last move was of the side that was not to move.
@@ -116,7 +118,7 @@ class Recorder {
         bool operator==(const Promotion&) const = default;
     };
 
-    void AwaitPromotionAgain();
+    void FindLastMove();
     std::optional<size_t> AddLines(Side side, size_t wanted);
     void AddResult(Side list, std::string_view result);
     void TakeResultAway();
@@ -134,6 +136,7 @@ class Recorder {
     std::string pendingText;
     std::optional<Promotion> promotion;
     std::optional<Move> lastMove;
+    std::optional<ChosenLine> lastLine;
     std::string lastMoveLongForm;
     bool otherColourMoved = false;
     std::array<size_t, 2> passed{};  // how many lines of each list GoOn has passed over

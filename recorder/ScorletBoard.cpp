@@ -59,6 +59,9 @@ void ScorletBoard::Show() {
         InvalidateRect(form.Control(CellOf(square)), nullptr, FALSE);
     });
     ShowCaptured();
+    if (shownEarlier == input.ShowsEarlier()) return;
+    shownEarlier = !shownEarlier;
+    InvalidateRect(form.Control(picBoard), nullptr, FALSE);
 }
 
 // The pieces of a side lie side by side from the left, without room for those that are not captured.
@@ -67,7 +70,7 @@ void ScorletBoard::ShowCaptured() {
     for (int i = 0; i < 2 * CapturedSlots; ++i) {
         const auto [piece, slot] = SlotOf(i);
         std::optional<SlotLook> look;
-        if (recorder.Position().CapturedShown(piece, slot)) {
+        if (input.Shown().CapturedShown(piece, slot)) {
             const bool picked = input.IsPicked(piece, slot);
             look = SlotLook{layout.Captured(SideOf(piece), places[SideOf(piece)]++), picked, picked && input.Lifted()};
         }
@@ -85,7 +88,7 @@ void ScorletBoard::ShowCaptured() {
 void ScorletBoard::Draw(const DRAWITEMSTRUCT& item) const {
     const int id = static_cast<int>(item.CtlID);
     if (id == picBoard) {
-        painter.DrawBoardEdge(item, layout);
+        painter.DrawBoardEdge(item, layout, input.ShowsEarlier());
     } else if (IsCaptured(id)) {
         const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
         const bool picked = input.IsPicked(piece, slot);

@@ -18,8 +18,8 @@ constexpr bool IsCaptured(int id) { return id >= imgCapturedWQ && id < imgCaptur
 class ScorletBoard {
   public:
     // All must outlive the board.
-    ScorletBoard(Form& form, const Recorder& recorder, const BoardInput& input, const ScorletPainter& painter)
-        : form(form), recorder(recorder), input(input), painter(painter) {}
+    ScorletBoard(Form& form, const BoardInput& input, const ScorletPainter& painter)
+        : form(form), input(input), painter(painter) {}
 
     // The squares and what is around them, then the captured pieces.
     void Create();
@@ -44,10 +44,10 @@ class ScorletBoard {
                                       DWORD_PTR self);
 
     Form& form;
-    const Recorder& recorder;
     const BoardInput& input;
     const ScorletPainter& painter;
     ScorletLayout layout{};
+    bool shownEarlier = false;
     std::array<std::optional<CellLook>, SquareIndexes> shownCells{};
     std::array<std::optional<SlotLook>, 2 * CapturedSlots> shownSlots{};  // none: hidden
 };

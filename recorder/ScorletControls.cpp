@@ -87,8 +87,8 @@ HBRUSH ScorletControls::Colours(HDC dc, int id) const {
 }
 
 std::wstring ScorletControls::SpokenName(const Texts& texts, int id) const {
-    if (id == picBoard) return Picker.TakesKeys() ? Picker.SpokenText(texts) : SpokenBoard(texts, recorder, input);
-    if (IsCell(id)) return SpokenSquare(texts, recorder, input, static_cast<Square>(id - picBoard));
+    if (id == picBoard) return Picker.TakesKeys() ? Picker.SpokenText(texts) : SpokenBoard(texts, input);
+    if (IsCell(id)) return SpokenSquare(texts, input, static_cast<Square>(id - picBoard));
     if (IsCaptured(id)) {
         const auto [piece, slot] = SlotOf(id - imgCapturedWQ);
         return SpokenCaptured(texts, input, piece, slot);

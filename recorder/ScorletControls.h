@@ -42,7 +42,7 @@ class ScorletControls {
     ScorletLayout Layout{};
     ScorletPainter Painter;
     TypedMoveField Typing{form};
-    ScorletBoard Board{form, recorder, input, Painter};
+    ScorletBoard Board{form, input, Painter};
     SayList Say{form};
     WhoseMoveLine WhoseMove{form, Painter};
     ScorletLists Lists{form, recorder};

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "recorder/EarlierPosition.h"
 #include "recorder/WhoseMove.h"
+
+#include <optional>
 
 // A window that shows the record.
 class RecordView {
@@ -40,6 +43,10 @@ class ScorletGame {
     virtual void Redo() = 0;
     virtual bool CanTakeBack() const = 0;
     virtual bool CanRedo() const = 0;
+    // The position after a written entry; no value where it is not known.
+    virtual std::optional<EarlierPosition> PositionAfter(const ChosenLine& line) const = 0;
+    // What the face of each side showed then, in seconds, by side.
+    virtual std::array<std::optional<int32_t>, 2> TimesAfter(const ChosenLine& line) const = 0;
     virtual WhoseMove NextMove() const = 0;  // there must be a record
     virtual void Declare(Declaration declaration) = 0;
     virtual void PressEnabledButton() = 0;  // the clock button that can be pressed

@@ -16,6 +16,13 @@ constexpr Colour SheetColour{ColourOf(Look::Sheet), COLOR_WINDOW},
 constexpr Colour Ink{ColourOf(Look::Ink), COLOR_WINDOWTEXT}, QuietInk{ColourOf(Look::QuietInk), COLOR_WINDOWTEXT};
 constexpr Colour ChosenInk{ColourOf(Look::Ink), COLOR_HIGHLIGHTTEXT};
 
+// Whether a message of a list is the choice of a row.
+bool ChoosesRow(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_LBUTTONUP) return HIWORD(SendMessageW(list, LB_ITEMFROMPOINT, 0, lParam)) == 0;
+    if (message != WM_KEYDOWN) return false;
+    return wParam == VK_UP || wParam == VK_DOWN || wParam == VK_HOME || wParam == VK_PRIOR || wParam == VK_NEXT;
+}
+
 }  // namespace
 
 void ScorletLists::Create() {
@@ -90,6 +97,22 @@ ChosenLines ScorletLists::Chosen() const {
     return lines;
 }
 
+std::optional<Side> ScorletLists::Step(bool forward) const {
+    const Side from = GetFocus() == List(White) ? White : Black, to = Other(from);
+    const auto chosen = Chosen(from);
+    if (!chosen) return std::nullopt;
+    size_t index = *chosen;
+    if (forward) {
+        index += from == Black ? 1 : 0;
+    } else if (from == White && index-- == 0) {
+        return std::nullopt;
+    }
+    if (index >= recorder.List(to).Entries().size()) return std::nullopt;
+    Choose({to, index});
+    SetFocus(List(to));
+    return to;
+}
+
 void ScorletLists::OnChoice(Side side) const {
     if (!Chosen(side)) Choose({side, recorder.List(side).Entries().size() - 1});
 }
@@ -138,7 +161,16 @@ LRESULT CALLBACK ScorletLists::Procedure(HWND list, UINT message, WPARAM wParam,
     // The one bar of both is that of Black's list, and not every system turns the wheel of a list without one.
     if (message == WM_MOUSEWHEEL && list == lists.List(White))
         return SendMessageW(lists.List(Black), message, wParam, lParam);
+    if (message == WM_KEYDOWN && (wParam == VK_LEFT || wParam == VK_RIGHT))
+        return SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
     const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+    if (message == WM_KEYDOWN && wParam == VK_END) {
+        SendMessageW(lists.form.Window(), WM_LISTKEY, wParam, 0);
+    } else if (ChoosesRow(list, message, wParam, lParam)) {
+        // Not every system tells it of a row that was chosen before.
+        SendMessageW(lists.form.Window(), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(list));
+    }
     switch (message) {
         // What can scroll a list: the bar, the wheel, keys, the mouse, which may be dragged past the edge, and
         // programs.

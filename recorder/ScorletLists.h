@@ -25,6 +25,9 @@ class ScorletLists {
     std::optional<size_t> Chosen(Side side) const;
     // Those of both lists as they show them, which may have been before the last change of the record.
     ChosenLines Chosen() const;
+    // Goes from the chosen line of the list that has the focus to the half-move after it, or with false before it: it
+    // is chosen, and its list has the focus. Returns its list; no value where there is none.
+    std::optional<Side> Step(bool forward) const;
     // The players have chosen a row: of the empty ones, that is the last entry.
     void OnChoice(Side side) const;
     // Draws a row: a line as its list has it, and in Black's list the number of the row before it.

@@ -98,12 +98,14 @@ void ScorletPainter::DrawGround(HDC dc, const RECT& client, const ScorletLayout&
     Frame(dc, sheet, LineColour);
 }
 
-void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const {
+void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout, bool earlier) const {
     const Buffered buffer(item);
     const RECT whole = buffer.Area();
+    const LineColours look = ColoursOf(LineLook::LookBack);
     FillRect(buffer.Dc(), &whole, ground.get());
+    if (earlier) Fill(buffer.Dc(), whole, look.Ground);
     const Selection selection(buffer.Dc(), coordinateFont.get());
-    SetTextColor(buffer.Dc(), quietColour);
+    SetTextColor(buffer.Dc(), earlier ? look.Ink : quietColour);
     const auto write = [&](wchar_t character, RECT area) {
         DrawTextW(buffer.Dc(), &character, 1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     };

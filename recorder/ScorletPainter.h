@@ -34,7 +34,8 @@ class ScorletPainter {
 
     // What everything lies on: the ground, the trays of the captured pieces and the sheet of the lists.
     void DrawGround(HDC dc, const RECT& client, const ScorletLayout& layout) const;
-    void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout) const;
+    // In another colour while an earlier position is shown.
+    void DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayout& layout, bool earlier) const;
     void DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const;
     // With Piece::Empty the place of one that is dragged.
     void DrawCaptured(const DRAWITEMSTRUCT& item, Piece piece, bool picked) const;

@@ -4,12 +4,11 @@ std::wstring SpokenPiece(const Texts& texts, Piece piece) {
     return texts(RowAfter(TextId::EmptySquare, static_cast<int32_t>(piece)));
 }
 
-std::wstring SpokenSquare(const Texts& texts, const Recorder& recorder, const BoardInput& input, Square square) {
+std::wstring SpokenSquare(const Texts& texts, const BoardInput& input, Square square) {
     std::wstring text{static_cast<wchar_t>(FileLetter(square)), static_cast<wchar_t>(RankDigit(square))};
-    text += L", " + SpokenPiece(texts, recorder.Position().At(square));
+    text += L", " + SpokenPiece(texts, input.Shown().At(square));
     if (input.Origin() == square) text += L", " + texts(TextId::PickedPiece);
-    const auto& last = recorder.LastMove();
-    if (last && (last->Origin == square || last->Destination == square)) text += L", " + texts(TextId::LastMove);
+    if (input.OfLastMove(square)) text += L", " + texts(TextId::LastMove);
     return text;
 }
 
@@ -18,9 +17,9 @@ std::wstring SpokenCaptured(const Texts& texts, const BoardInput& input, Piece p
     return input.IsPicked(piece, slot) ? name + L", " + texts(TextId::PickedPiece) : name;
 }
 
-std::wstring SpokenBoard(const Texts& texts, const Recorder& recorder, const BoardInput& input) {
+std::wstring SpokenBoard(const Texts& texts, const BoardInput& input) {
     std::wstring text = texts(TextId::ChessBoard) + L", ";
     if (const auto& captured = input.Captured())
         text += SpokenCaptured(texts, input, captured->Captured, captured->Slot) + L", ";
-    return text + SpokenSquare(texts, recorder, input, input.Cursor());
+    return text + SpokenSquare(texts, input, input.Cursor());
 }

@@ -1,5 +1,7 @@
 #include "recorder/WhoseMoveLine.h"
 
+#include "base/TimeText.h"
+#include "platform/Ansi.h"
 #include "resources/resource.h"
 
 #include <commctrl.h>
@@ -23,6 +25,16 @@ void WhoseMoveLine::Show(const Texts& texts, const WhoseMove& next) {
     ShowText(texts.Compose(RowOf(next.Kind), texts.SideName(next.Mover), std::to_wstring(next.Number),
                            std::to_wstring(next.ClockNumber)),
              next.Kind == WhoseMoveKind::Agrees ? LineLook::Expected : LineLook::Warning, next.Mover);
+}
+
+void WhoseMoveLine::ShowLookBack(const Texts& texts, const LookBack& lookBack) {
+    const std::wstring entry = FromAnsi(lookBack.Entry);
+    const auto& [white, black] = lookBack.Times;
+    std::wstring text = texts.Compose(lookBack.Known ? TextId::LookBack : TextId::PositionNotKnown, entry);
+    if (lookBack.Known && white && black)
+        text =
+            texts.Compose(TextId::LookBackWithTimes, entry, FromAnsi(ClockText(*white)), FromAnsi(ClockText(*black)));
+    ShowText(text, LineLook::LookBack, lookBack.List);
 }
 
 void WhoseMoveLine::ShowText(const std::wstring& text, LineLook newLook, Side newSide) {

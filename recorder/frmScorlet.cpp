@@ -61,6 +61,8 @@ void frmScorlet::Arrange() {
 }
 
 void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
+    lookBack.reset();
+    input.ShowEarlier(std::nullopt);
     ShowNames();
     if (controls.Layout.Turned != game.BoardTurned()) Arrange();
     ShowBoard();
@@ -102,6 +104,45 @@ void frmScorlet::ShowBoard() {
     mouse.Follow();
 }
 
+void frmScorlet::ShowWhoseMove() {
+    if (lookBack)
+        controls.WhoseMove.ShowLookBack(captions, *lookBack);
+    else
+        controls.WhoseMove.Show(captions, game.NextMove());
+}
+
+void frmScorlet::LookBackAtChosen(Side list) {
+    EndLookBack();
+    const auto chosen = controls.Lists.Chosen(list);
+    if (!chosen || controls.Editor.Open()) return;
+    const ChosenLine line{list, *chosen};
+    // The last move leads to the game as it is; what is no move leads nowhere.
+    if (recorder.LastLine() == line || !recorder.List(list).Entries()[line.Index].IsWritten()) return;
+    const auto position = game.PositionAfter(line);
+    // With the number in both lists.
+    const MoveList& entries = recorder.List(list);
+    const std::string text =
+        std::to_string(line.Index + 1) + (list == White ? ". " : "... ") + entries.Entries()[line.Index].Text;
+    lookBack = LookBack{list, text, position.has_value(), game.TimesAfter(line)};
+    input.Cancel();
+    input.ShowEarlier(position);
+    ShowBoard();
+    ShowWhoseMove();
+}
+
+void frmScorlet::EndLookBack() {
+    if (!lookBack) return;
+    lookBack.reset();
+    input.ShowEarlier(std::nullopt);
+    ShowBoard();
+    ShowWhoseMove();
+}
+
+void frmScorlet::OnListKey(WPARAM key) {
+    if (key == VK_END) return EndLookBack();
+    if (const auto list = controls.Lists.Step(key == VK_RIGHT)) LookBackAtChosen(*list);
+}
+
 bool frmScorlet::TakeMessage(MSG& message) {
     if (message.hwnd != Window() && !IsChild(Window(), message.hwnd)) return false;
     if (message.message == WM_CHAR && IsPauseKey(message.wParam) && !IsOfKind(message.hwnd, WC_EDITW)) {
@@ -137,6 +178,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_BOARDKEY: return OnBoardKey(wParam);
         case WM_BOARDCHARACTER: return OnBoardCharacter(static_cast<wchar_t>(wParam));
+        case WM_LISTKEY: OnListKey(wParam); return 0;
         case WM_ENDTYPING: EndTyping(wParam != 0); return 0;
         case WM_CHAR:
             if (IsPauseKey(wParam)) game.PressKeyP();
@@ -183,8 +225,10 @@ void frmScorlet::OnCommand(int id, int notification) {
             return;
         case lstMoves:
         case lstMoves + 1:
-            if (notification == LBN_SELCHANGE) controls.Lists.OnChoice(id == lstMoves ? White : Black);
-            return;
+            if (notification != LBN_SELCHANGE) return;
+            controls.Lists.OnChoice(id == lstMoves ? White : Black);
+            return LookBackAtChosen(id == lstMoves ? White : Black);
+        case IDCANCEL: return EndLookBack();  // Esc outside the board and the fields
         case txtMove:
             if (notification == EN_CHANGE) controls.Editor.OnChange();
             return;
@@ -211,6 +255,7 @@ void frmScorlet::OnCommand(int id, int notification) {
 
 void frmScorlet::OnMouseDown(POINT point) {
     const int id = ChildAt(point);
+    if (IsCell(id) || IsCaptured(id)) EndLookBack();
     if (IsCell(id)) {
         OnSquare(static_cast<Square>(id - picBoard));
     } else if (IsCaptured(id)) {
@@ -251,6 +296,7 @@ void frmScorlet::Promote(PieceKind kind) {
 }
 
 bool frmScorlet::OnBoardCharacter(wchar_t character) {
+    EndLookBack();
     if (const auto kind = controls.Picker.OnCharacter(character)) {
         Promote(*kind);
         TellSpokenName(picBoard);
@@ -278,6 +324,11 @@ void frmScorlet::EndTyping(bool enter) {
 }
 
 bool frmScorlet::OnBoardKey(WPARAM key) {
+    if (lookBack && (key == VK_ESCAPE || key == VK_END)) {
+        EndLookBack();
+        TellSpokenName(picBoard);
+        return true;
+    }
     std::optional<PieceKind> chosen;
     if (controls.Picker.OnKey(key, chosen)) {
         if (chosen) Promote(*chosen);
@@ -290,8 +341,14 @@ bool frmScorlet::OnBoardKey(WPARAM key) {
         case VK_UP: input.MoveCursor(0, 1); break;
         case VK_DOWN: input.MoveCursor(0, -1); break;
         case VK_ESCAPE: input.Cancel(); break;
-        case VK_INSERT: input.PickNextCaptured(); break;
-        case VK_RETURN: OnSquare(input.Cursor()); break;
+        case VK_INSERT:
+            EndLookBack();
+            input.PickNextCaptured();
+            break;
+        case VK_RETURN:
+            EndLookBack();
+            OnSquare(input.Cursor());
+            break;
         case VK_SPACE:
             if (!input.PiecePicked()) {
                 game.PressEnabledButton();

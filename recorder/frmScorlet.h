@@ -33,7 +33,7 @@ class frmScorlet : public Form, private RecordView {
     void RecordReplaced() override;
     void RecordStepped(const ChosenLines& chosen) override;
     ChosenLines Chosen() const override { return controls.Lists.Chosen(); }
-    void ShowWhoseMove() override { controls.WhoseMove.Show(captions, game.NextMove()); }
+    void ShowWhoseMove() override;
 
     // Shows the record anew, with a line chosen.
     void ShowRecord(std::optional<ChosenLine> chosen = std::nullopt);
@@ -43,6 +43,9 @@ class frmScorlet : public Form, private RecordView {
     void ShowNames();
     void ShowBoard();
 
+    void LookBackAtChosen(Side list);
+    void EndLookBack();
+    void OnListKey(WPARAM key);
     void OnCommand(int id, int notification);
     void OnMouseDown(POINT point);
     void OnSquare(Square square);
@@ -65,5 +68,6 @@ class frmScorlet : public Form, private RecordView {
     ScorletControls controls{*this, recorder, input};
     BoardMouse mouse{*this, input, controls.Painter, controls.Layout};
     Side menuList = White;
+    std::optional<LookBack> lookBack;
     UniqueCursor handPointBlue;
 };

@@ -193,6 +193,7 @@ enum ScorletMessage : unsigned {
     WM_BOARDKEY = 0x8001,  // a key in wParam for the board
     WM_ENDEDIT,            // the edit of a move ends: with 1 in wParam it is accepted
     WM_BOARDCHARACTER,     // a character in wParam for the board
+    WM_LISTKEY,            // a key in wParam that goes from one list to the other, or ends a look back
     WM_ENDTYPING,          // the typing of a move ends: with 1 in wParam it is to be entered
 };
 

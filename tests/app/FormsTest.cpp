@@ -119,13 +119,15 @@ void Change(const Form& form, const Texts& texts, int state) {
     form.SetText(cmdPause + 1, texts(TextId::Resume));
 }
 
-void ExpectTextsFit(const Form& form, bool clock) {
+void ExpectTextsFit(const Form& form, const Texts& texts, bool clock) {
     ExpectTextsFit(form.Window(), clock);
     const HWND line = form.Control(lblWhoseMove);
     if (!line) return;
     LOGFONTW font{};
     GetObjectW(reinterpret_cast<HFONT>(SendMessageW(line, WM_GETFONT, 0, 0)), sizeof(font), &font);
-    ExpectFits(line, TextOf(line), ScorletPainter::BesideLine(-font.lfHeight), true);
+    const std::wstring lookBack = texts.Compose(TextId::LookBackWithTimes, L"99... Nb1xd2+", L"00:59:59", L"00:59:59");
+    for (const std::wstring& text : {TextOf(line), lookBack})
+        ExpectFits(line, text, ScorletPainter::BesideLine(-font.lfHeight), true);
 }
 
 // As the system does when a window comes to a screen of another resolution.
@@ -170,12 +172,12 @@ TEST_P(FormsTest, IsReadableFitsAndTakesTheSystemsColours) {
     for (const int dpi : {96, 144, 192}) {
         SCOPED_TRACE(dpi);
         ScaleTo(window, dpi);
-        ExpectTextsFit(*form, name == "clock");
+        ExpectTextsFit(*form, maker.Words, name == "clock");
         if (!resizable) continue;
         const RECT before = AreaOf(window);
         // It keeps to its least size.
         SetWindowPos(window, nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER);
-        ExpectTextsFit(*form, name == "clock");
+        ExpectTextsFit(*form, maker.Words, name == "clock");
         SetWindowPos(window, nullptr, 0, 0, before.right - before.left, before.bottom - before.top,
                      SWP_NOMOVE | SWP_NOZORDER);
     }

@@ -10,8 +10,13 @@ struct Kept {
     ChosenLines Chosen;  // after each change, the last lines
     Kept() { History.Begin(Record); }
 
-    // "back", "redo", and the words of Do.
+    // "back", "redo", "load" for being saved and loaded, and the words of Do.
     void Say(const std::string& word) {
+        if (word == "load") {
+            const Recorder saved = Record;
+            Record.Restore(saved.Position(), saved.Lists(), saved.SideToMove(), std::nullopt);
+            return History.Begin(Record);
+        }
         if (word == "back") return void(Chosen = History.TakeBack(Record, Chosen));
         if (word == "redo") return void(Chosen = History.Redo(Record, Chosen));
         Do(Record, word);
@@ -39,7 +44,44 @@ std::string State(const std::string& script) {
     return text + (kept.History.CanTakeBack() ? " back" : "") + (kept.History.CanRedo() ? " redo" : "");
 }
 
+// The squares that differ from the initial position after an entry, which is the last word, the captured pieces, and
+// how the move went.
+std::string After(const std::string& script) {
+    Kept kept;
+    std::vector<std::string> words = Words(script);
+    const std::string entry = words.back();
+    words.pop_back();
+    for (const std::string& word : words) kept.Say(word);
+    const auto found = kept.History.PositionAfter({entry[0] == 'W' ? White : Black, std::stoul(entry.substr(1))});
+    if (!found) return "?";
+    std::string text;
+    for (int index = 11; index <= 88; ++index) {
+        const Piece piece = found->Pieces.At(Square{index});
+        if (piece == Board().At(Square{index})) continue;
+        text += (piece == Piece::Empty ? "--" : std::string(PieceCode(piece))) + FileLetter(Square{index}) +
+                RankDigit(Square{index}) + " ";
+    }
+    return text + TrayText(found->Pieces) +
+           (found->LastMove ? "; " + std::string(WriteLongForm(*found->LastMove).View()) : "");
+}
+
 }  // namespace
+
+TEST(RecordHistoryTest, ThePositionAfterAnEntryIsKnown) {
+    ExpectRows(After, R"(
+        e2e4 e7e5 g1f3 W0 => --e2 WPe4 ; e2-e4 | e2e4 d7d5 e4d5 d8d5 W1 => WPd5 --d7 --e2 BP0; e4xd5
+        e2e4 e7e5 g1f3 B0 => --e2 WPe4 BPe5 --e7 ; e7-e5 | e2e4 e7e5 B1 => ? | W0 => ?
+        What came before the next move belongs to it: a promotion, a piece put back; what was taken back or deleted does not.
+        a2a4 b7b5 a4b5 c7c6 b5b8 =R h7h6 W2 => --a2 --b7 WRb8 BPc6 --c7 BN0 BP0; b5xb8
+        e2e4 e7e5 back c7c5 g1f3 B0 => BPc5 --c7 --e2 WPe4 ; c7-c5 | e2e4 e7e5 deleteB c7c5 d2d4 W0 => --e2 WPe4 ; e2-e4
+        An edit changes no position; an entry that was written by one has none, whatever its line was before.
+        e2e4 e7e5 W0=d4 W0 => --e2 WPe4 ; e2-e4 | e2e4 e7e5 deleteB g1f3 B0=c5 B0 => ?
+        Of a game that was loaded it is found while the lists tell one, also after moves that no game has.
+        e2e4 e7e5 g1f3 load W0 => --e2 WPe4 ; e2-e4 | e2e4 e7e5 load g1f3 b8c6 B0 => --e2 WPe4 BPe5 --e7
+        e2e4 e7e5 load g1g5 W0 => --e2 WPe4 ; e2-e4 | e2e4 d7d5 e4d5 load g8f6 W1 => WPd5 --d7 --e2 BP0
+        e2e5 e7e6 g1f3 load W0 => ? | e2e4 e7e5 g1f3 load W1 => --e2 WPe4 BPe5 --e7 WNf3 --g1
+    )");
+}
 
 TEST(RecordHistoryTest, WhatTheClockHasAddedStaysAndANewStepEndsRedo) {
     ExpectRows(State, R"(
