@@ -1,6 +1,8 @@
 #include "app/KeptPlaces.h"
 
-#include <sstream>
+#include <algorithm>
+#include <charconv>
+#include <string_view>
 
 namespace {
 
@@ -8,16 +10,41 @@ namespace {
 constexpr int Furthest = 1'000'000;
 
 std::string TextOf(const Box& box) {
-    std::ostringstream text;
-    text << ' ' << box.Left << ' ' << box.Top << ' ' << box.Width << ' ' << box.Height << "\r\n";
-    return text.str();
+    std::string text;
+    for (const int length : {box.Left, box.Top, box.Width, box.Height}) text += " " + std::to_string(length);
+    return text + "\r\n";
 }
 
-bool ReadBox(std::istream& line, Box& box) {
-    const auto near = [](int length) { return -Furthest <= length && length <= Furthest; };
-    return line >> box.Left >> box.Top >> box.Width >> box.Height && near(box.Left) && near(box.Top) &&
-           near(box.Width) && near(box.Height) && box.Width > 0 && box.Height > 0;
-}
+// The words of a text, one after the other. Streams would make the program half as large again.
+class Words {
+  public:
+    explicit Words(std::string_view text) : rest(text) {}
+
+    // Empty at the end.
+    std::string_view Take() {
+        constexpr std::string_view blanks = " \t\r\n";
+        rest.remove_prefix(std::min(rest.find_first_not_of(blanks), rest.size()));
+        const std::string_view word = rest.substr(0, rest.find_first_of(blanks));
+        rest.remove_prefix(word.size());
+        return word;
+    }
+
+    bool Take(int& number) {
+        const std::string_view word = Take();
+        const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+        return error == std::errc() && end == word.data() + word.size();
+    }
+
+    bool Take(Box& box) {
+        for (int* length : {&box.Left, &box.Top, &box.Width, &box.Height}) {
+            if (!Take(*length) || *length < -Furthest || *length > Furthest) return false;
+        }
+        return box.Width > 0 && box.Height > 0;
+    }
+
+  private:
+    std::string_view rest;
+};
 
 }  // namespace
 
@@ -31,12 +58,12 @@ std::string WritePlaces(const KeptPlaces& places) {
 std::optional<KeptPlaces> ReadPlaces(const std::string& text) {
     KeptPlaces places{};
     WindowPlaces both;
-    std::istringstream words(text);
-    for (std::string word; words >> word;) {
-        const bool read = word == "dpi"       ? static_cast<bool>(words >> places.Dpi)
-                          : word == "clock"   ? ReadBox(words, places.Alone)
-                          : word == "beside"  ? ReadBox(words, both.Clock)
-                          : word == "scorlet" ? ReadBox(words, both.Scorlet)
+    Words words(text);
+    for (std::string_view word = words.Take(); !word.empty(); word = words.Take()) {
+        const bool read = word == "dpi"       ? words.Take(places.Dpi)
+                          : word == "clock"   ? words.Take(places.Alone)
+                          : word == "beside"  ? words.Take(both.Clock)
+                          : word == "scorlet" ? words.Take(both.Scorlet)
                                               : (places.Maximised = word == "maximised");
         if (!read) return std::nullopt;
     }

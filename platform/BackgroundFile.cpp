@@ -6,7 +6,7 @@
 #include <utility>
 
 BackgroundFile::BackgroundFile(std::wstring path, std::function<void(DWORD)> failed)
-    : path(std::move(path)), failed(std::move(failed)), thread([this] { Run(); }) {}
+    : path(std::move(path)), failed(std::move(failed)) {}
 
 BackgroundFile::~BackgroundFile() {
     {
@@ -14,7 +14,12 @@ BackgroundFile::~BackgroundFile() {
         ending = true;
     }
     changed.notify_all();
-    thread.join();
+    if (thread.joinable()) thread.join();
+}
+
+void BackgroundFile::Remove() {
+    // Before the first order there may be nothing to remove, and a thread takes memory.
+    if (thread.joinable() || FileExists(path)) Order(std::nullopt);
 }
 
 void BackgroundFile::Order(Content content) {
@@ -22,6 +27,7 @@ void BackgroundFile::Order(Content content) {
         const std::lock_guard lock(mutex);
         ordered = std::move(content);
     }
+    if (!thread.joinable()) thread = std::thread([this] { Run(); });
     changed.notify_all();
 }
 

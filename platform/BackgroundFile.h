@@ -9,8 +9,8 @@
 #include <string>
 #include <thread>
 
-// A file that is replaced on a thread of its own: nobody waits for the disk. Where new content comes before the last
-// has been written, only the newest is.
+// A file that is replaced on a thread of its own, which begins with the first order: nobody waits for the disk. Where
+// new content comes before the last has been written, only the newest is.
 class BackgroundFile {
   public:
     // `failed` is called on the file's own thread with the code of GetLastError when the file could not be replaced.
@@ -20,7 +20,7 @@ class BackgroundFile {
     BackgroundFile& operator=(const BackgroundFile&) = delete;
 
     void Replace(std::string bytes) { Order(std::move(bytes)); }
-    void Remove() { Order(std::nullopt); }
+    void Remove();
 
     // Returns when nothing is left to be written; false where the last that was to be could not.
     bool Finish();
@@ -38,5 +38,5 @@ class BackgroundFile {
     std::condition_variable changed;
     std::optional<Content> ordered;
     bool busy = false, ending = false, done = true;
-    std::thread thread;  // last: it uses the others
+    std::thread thread;
 };

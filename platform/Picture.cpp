@@ -13,27 +13,28 @@ namespace {
 
 // The pixels of what `draw` puts on a plain background.
 template <typename Drawing>
-std::vector<uint32_t> DrawnOn(uint32_t ground, int width, int height, Drawing draw) {
-    const TopDownBitmap bitmap(width, height);
+TopDownBitmap DrawnOn(uint32_t ground, int width, int height, Drawing draw) {
+    TopDownBitmap bitmap(width, height);
     const std::span<uint32_t> pixels = bitmap.Pixels();
     std::fill(pixels.begin(), pixels.end(), ground);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
     const Selection selection(dc.get(), bitmap.Handle());
     draw(dc.get());
     GdiFlush();
-    return {pixels.begin(), pixels.end()};
+    return bitmap;
 }
 
 // Drawing on black and on white tells how much of the background shows through each pixel, whatever form of
 // transparency the source has.
 template <typename Drawing>
-std::vector<uint32_t> WithTransparency(int width, int height, Drawing draw) {
-    std::vector<uint32_t> onBlack = DrawnOn(0x000000, width, height, draw);
-    const std::vector<uint32_t> onWhite = DrawnOn(0xFFFFFF, width, height, draw);
-    for (size_t i = 0; i < onBlack.size(); ++i) {
-        const uint32_t through = (onWhite[i] & 0xFF) - std::min(onBlack[i] & 0xFF, onWhite[i] & 0xFF);
+TopDownBitmap WithTransparency(int width, int height, Drawing draw) {
+    TopDownBitmap onBlack = DrawnOn(0x000000, width, height, draw);
+    const TopDownBitmap onWhite = DrawnOn(0xFFFFFF, width, height, draw);
+    auto white = onWhite.Pixels().begin();
+    for (uint32_t& pixel : onBlack.Pixels()) {
+        const uint32_t blue = *white++ & 0xFF, through = blue - std::min(pixel & 0xFF, blue);
         // What was drawn on black is premultiplied already.
-        onBlack[i] = (onBlack[i] & 0xFFFFFF) | (0xFF - through) << 24;
+        pixel = (pixel & 0xFFFFFF) | (0xFF - through) << 24;
     }
     return onBlack;
 }
@@ -73,11 +74,12 @@ Picture::Picture(IPicture& source) {
     height = MulDiv(sourceHeight, GetDeviceCaps(screen, LOGPIXELSY), himetricPerInch);
     ReleaseDC(nullptr, screen);
     HRESULT status = S_OK;
-    Pack(WithTransparency(width, height, [&](HDC dc) {
+    const TopDownBitmap bitmap = WithTransparency(width, height, [&](HDC dc) {
         const HRESULT rendered =
             source.Render(dc, 0, 0, width, height, 0, sourceHeight, sourceWidth, -sourceHeight, nullptr);
         if (FAILED(rendered)) status = rendered;
-    }));
+    });
+    Pack(bitmap.Pixels());
     if (FAILED(status)) throw SystemError(CodeOf(status), L"GIF");
 }
 
@@ -87,12 +89,13 @@ Picture Picture::OfIcon(const wchar_t* resourceName, int size) {
     if (!icon) throw SystemError(GetLastError(), resourceName);
     Picture picture;
     picture.width = picture.height = size;
-    picture.Pack(WithTransparency(
-        size, size, [&](HDC dc) { DrawIconEx(dc, 0, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL); }));
+    const TopDownBitmap bitmap = WithTransparency(
+        size, size, [&](HDC dc) { DrawIconEx(dc, 0, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL); });
+    picture.Pack(bitmap.Pixels());
     return picture;
 }
 
-void Picture::Pack(const std::vector<uint32_t>& pixels) {
+void Picture::Pack(std::span<const uint32_t> pixels) {
     for (const uint32_t pixel : pixels) {
         if (runs.empty() || runs.back().Pixel != pixel) runs.push_back({pixel, 0});
         ++runs.back().Length;

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 // A picture with soft edges that is drawn at any size up to its own. It is kept as runs of premultiplied 32-bit pixels
@@ -42,7 +43,7 @@ class Picture {
         UniqueBitmap Bitmap;
     };
 
-    void Pack(const std::vector<uint32_t>& pixels);
+    void Pack(std::span<const uint32_t> pixels);
     std::vector<uint32_t> Unpacked() const;
     HBITMAP OfSize(int size) const;
     UniqueBitmap Shrunk(int size, COLORREF outline) const;
