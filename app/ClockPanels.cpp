@@ -60,7 +60,6 @@ void ClockPanels::Create() {
         add(WC_STATICW, lblStage, text);
         addMark(2);
     }
-    toolTips.Create();
 }
 
 void ClockPanels::LoadPictures() {

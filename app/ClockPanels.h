@@ -57,7 +57,7 @@ class ClockPanels {
     HCURSOR CursorAt(POINT point) const;
 
     // A message on its way to the window, which tool tips may want to see.
-    void Relay(MSG& message) const { toolTips.Relay(message); }
+    void Relay(const MSG& message) { toolTips.Relay(message); }
 
     // Messages of the window.
     void Draw(const DRAWITEMSTRUCT& item);

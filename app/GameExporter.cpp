@@ -3,6 +3,7 @@
 #include "games/GameHead.h"
 #include "platform/Ansi.h"
 #include "platform/Clipboard.h"
+#include "platform/CommonControls.h"
 #include "platform/Files.h"
 #include "platform/OtherWindowsDisabled.h"
 #include "platform/SystemError.h"
@@ -31,6 +32,7 @@ std::wstring AskForFile(HWND owner, const std::wstring& title) {
     request.lpstrTitle = title.c_str();
     request.lpstrDefExt = L"pgn";
     request.Flags = OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    const CommonControls controls;
     if (!GetSaveFileNameW(&request)) return L"";
     path.resize(path.find(L'\0'));
     return path;

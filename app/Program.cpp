@@ -4,25 +4,21 @@
 #include "app/modEnvironment.h"
 #include "platform/SystemError.h"
 
-#include <commctrl.h>
 #include <ole2.h>
 
 namespace {
 
 constexpr int32_t DataFolderMissingCode = 22677;
 
-// COM and the common controls for the life of the program.
-class SystemLibraries {
+// COM for the life of the program.
+class Com {
   public:
-    SystemLibraries() : status(OleInitialize(nullptr)) {
-        const INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
-        InitCommonControlsEx(&controls);
-    }
-    ~SystemLibraries() {
+    Com() : status(OleInitialize(nullptr)) {}
+    ~Com() {
         if (SUCCEEDED(status)) OleUninitialize();
     }
-    SystemLibraries(const SystemLibraries&) = delete;
-    SystemLibraries& operator=(const SystemLibraries&) = delete;
+    Com(const Com&) = delete;
+    Com& operator=(const Com&) = delete;
 
   private:
     HRESULT status;
@@ -52,7 +48,7 @@ int RunMessageLoop(frmClock& clockWindow) {
 }  // namespace
 
 int RunProgram() {
-    const SystemLibraries libraries;
+    const Com com;
     Settings settings;
     const Texts texts(settings.LanguageIndex);
     const MessageBoxes messageBoxes(texts);

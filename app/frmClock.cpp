@@ -59,7 +59,7 @@ void frmClock::Open() {
     Create(ClassName, captions(TextId::ProductTitle), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, icon);
     accelerators = MakeClockAccelerators();
     panels.Create();
-    for (int id = cmdClock; id <= cmdPause + 1; ++id) ActOnPress(Control(id), Window());
+    for (int id = cmdClock; id <= cmdPause + 1; ++id) ActOnPress(Control(id));
     LoadPictures();
     menu = MakeClockMenu(captions);
     SetMenu(Window(), menu);

@@ -35,6 +35,7 @@ class frmClock : public Form, private ClockView {
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::wstring SpokenName(int id) const override { return panels.SpokenName(id); }
+    bool HasPlainControls() const override { return true; }
 
     // ClockView
     void ClockChanged(const ClockChange& change) override;

@@ -2,9 +2,12 @@
 
 #include "base/RunTimeError.h"
 #include "platform/Ansi.h"
+#include "platform/CommonControls.h"
 #include "platform/Dpi.h"
 #include "platform/SpokenControl.h"
 #include "platform/SystemError.h"
+
+#include <optional>
 
 RECT WorkArea(HWND window) {
     MONITORINFO monitor{};
@@ -92,6 +95,8 @@ void Form::ShowError(const std::exception& error) const {
 }
 
 HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
+    std::optional<CommonControls> controlsOfDialogs;
+    if (!HasPlainControls()) controlsOfDialogs.emplace();
     const HWND control =
         CreateWindowExW(0, kind, L"", WS_CHILD | style, 0, 0, 0, 0, window,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);

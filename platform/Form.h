@@ -61,6 +61,10 @@ class Form {
         NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, Control(id), OBJID_CLIENT, CHILDID_SELF);
     }
 
+    // Whether its controls are the system's plain ones rather than those of CommonControls, which look no other where a
+    // form draws them.
+    virtual bool HasPlainControls() const { return false; }
+
     // Creates the window, hidden and without a size. `name` names its class and must be the form's own. Throws
     // SystemError.
     void Create(const wchar_t* name, const std::wstring& caption, DWORD style, HICON icon, HWND owner = nullptr);

@@ -1,5 +1,6 @@
 #include "platform/MessageBoxes.h"
 
+#include "platform/CommonControls.h"
 #include "platform/OtherWindowsDisabled.h"
 
 namespace {
@@ -58,6 +59,7 @@ thread_local ButtonTexts* ButtonTexts::current = nullptr;
 }  // namespace
 
 int MessageBoxes::Show(HWND owner, const std::wstring& text, TextId title, UINT style) const {
+    const CommonControls controls;
     const OtherWindowsDisabled others(owner);
     const ButtonTexts buttons(texts);
     return MessageBoxW(owner, text.c_str(), texts(title).c_str(), style);
