@@ -35,13 +35,17 @@ Installed::Installed(const Settings& settings) {
 }
 
 RunningProgram::RunningProgram(const std::wstring& path, const wchar_t* windowClass) {
-    const double start = Now();
     process = StartProgram(path);
     processId = GetProcessId(process.get());
     window = WaitWindow(windowClass);
     visible = Now() - start;
     SendMessageW(window, WM_NULL, 0, 0);
     ready = Now() - start;
+}
+
+double RunningProgram::WaitIdle() const {
+    if (WaitForInputIdle(process.get(), 30000) != 0) throw std::runtime_error("a program does not come to rest");
+    return Now() - start;
 }
 
 RunningProgram::~RunningProgram() {

@@ -44,6 +44,8 @@ class RunningProgram {
     // Milliseconds from the start until the window was visible, and until it had been drawn and answered.
     double Visible() const { return visible; }
     double Ready() const { return ready; }
+    // The same until it has dealt with all messages for the first time, and so has drawn all that it opens by itself.
+    double WaitIdle() const;
 
     // Milliseconds of processor time that its threads have used.
     double CpuTime() const;
@@ -56,5 +58,5 @@ class RunningProgram {
     UniqueFile process;
     DWORD processId = 0;
     HWND window = nullptr;
-    double visible = 0, ready = 0;
+    double start = Now(), visible = 0, ready = 0;
 };
