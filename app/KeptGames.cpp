@@ -14,8 +14,7 @@
 namespace {
 
 std::wstring TimeOf(const SavedGame& saved, Side side) {
-    const int32_t seconds = saved.Clock.PlayerTime[side];
-    return FromAnsi(HoursMinutesText(seconds) + ":" + TwoDigitText(seconds % 60));
+    return FromAnsi(HoursMinutesSecondsText(saved.Clock.PlayerTime[side]));
 }
 
 }  // namespace

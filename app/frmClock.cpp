@@ -43,8 +43,7 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       printer(around, game),
       exporter(around, game),
       kept(around, *this, game),
-      bringBack(
-          [this](const SavedGame& saved) { TakeGame(saved, captions(TextId::ProductTitle), saved.ScorletLoaded); }) {
+      bringBack([this](const SavedGame& saved) { TakeGame(saved, {}, saved.ScorletLoaded); }) {
     timer.Calls([this] { Tick(); });
 }
 
@@ -154,18 +153,18 @@ void frmClock::ShowFiles(FilesMode mode) {
     frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
     files.Open(Window());
     files.RunModal();
-    if (!files.Loaded()) return;
-    const std::wstring name = L"- [" + files.Loaded()->Name + texts(TextId::LoadedGame) + L"]";
-    TakeGame(files.Loaded()->Saved, texts(TextId::ProductTitle) + name, true);
+    if (files.Loaded()) TakeGame(files.Loaded()->Saved, files.Loaded()->Name, true);
 }
 
-void frmClock::TakeGame(const SavedGame& saved, const std::wstring& newTitle, bool opensScorlet) {
+void frmClock::TakeGame(const SavedGame& saved, const std::wstring& name, bool opensScorlet) {
     // First what can fail. No message may come between: the running game goes on behind one.
     if (opensScorlet) LeaveFullScreen();
     const std::wstring problem = opensScorlet ? scorlet.Open() : L"";
-    game.TakeLoadedGame(saved);
+    game.TakeLoadedGame(saved, name);
     panels.ShowSettings();
-    title.Set(Window(), newTitle);
+    std::wstring shown = captions(TextId::ProductTitle);
+    if (!name.empty()) shown += L"- [" + name + texts(TextId::LoadedGame) + L"]";
+    title.Set(Window(), shown);
     if (!problem.empty()) messageBoxes.Inform(Window(), problem);
     if (saved.Mismatched) messageBoxes.Inform(Window(), texts(TextId::FilesMismatched));
 }

@@ -54,7 +54,7 @@ class frmClock : public Form, private ClockView {
     void ShowHelp(HelpPage page);
     void TurnBoard();
     void ShowFiles(FilesMode mode);
-    void TakeGame(const SavedGame& saved, const std::wstring& newTitle, bool opensScorlet);
+    void TakeGame(const SavedGame& saved, const std::wstring& name, bool opensScorlet);
     void UpdateMenu();
     void ToggleFullScreen();
     void LeaveFullScreen();

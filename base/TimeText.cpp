@@ -15,6 +15,10 @@ std::string HoursMinutesText(int32_t seconds) {
     return TwoDigitText(seconds / 3600) + ":" + TwoDigitText(seconds / 60 % 60);
 }
 
+std::string HoursMinutesSecondsText(int32_t seconds) {
+    return HoursMinutesText(seconds) + ":" + TwoDigitText(seconds % 60);
+}
+
 std::string MinutesSecondsText(int32_t seconds) {
     return TwoDigitText(seconds / 60) + ":" + TwoDigitText(seconds % 60);
 }

@@ -12,6 +12,9 @@ std::string TwoDigitText(int32_t part);
 // Seconds as "HH:MM"; hours are not limited to two digits, and what is left of the last minute is not shown.
 std::string HoursMinutesText(int32_t seconds);
 
+// Seconds as "HH:MM:SS"; hours are not limited to two digits.
+std::string HoursMinutesSecondsText(int32_t seconds);
+
 // Seconds as "MM:SS" for times under an hour; minutes are not limited to two digits.
 std::string MinutesSecondsText(int32_t seconds);
 

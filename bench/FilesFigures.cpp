@@ -54,6 +54,19 @@ double MeasureAction(ProgramRun& program, HWND files, int button, const wchar_t*
     return Now() - start;
 }
 
+// Milliseconds for choosing a game, the first one apart.
+double MeasureChoosing(HWND files) {
+    const HWND list = GetDlgItem(files, lstGames);
+    std::vector<double> times;
+    for (WPARAM game = 0; game < 10; ++game) {
+        SendMessageW(list, LB_SETCURSEL, game, 0);
+        const double start = Now();
+        SendMessageW(files, WM_COMMAND, MAKEWPARAM(lstGames, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+        if (game > 0) times.push_back(Now() - start);
+    }
+    return Percentile(times, 50);
+}
+
 }  // namespace
 
 FilesTimes MeasureFiles(int games) {
@@ -71,6 +84,7 @@ FilesTimes MeasureFiles(int games) {
         opens.push_back(Now() - start);
     }
     times.Open = Percentile(opens, 50);
+    times.Choose = MeasureChoosing(files);
     times.Save = MeasureAction(program, files, cmdSave, L"new game", [&] { return !IsWindow(files); });
     files = OpenFiles(program, mnuDelete);
     const HWND list = GetDlgItem(files, lstGames);

@@ -91,6 +91,7 @@ void Game::Reset() {
 }
 
 void Game::TakeSettings() {
+    name.clear();
     clock.WarnAt(settings.LowTime);
     clock.Initialise(settings.Control);
     timesAtPresses = {};
@@ -130,6 +131,11 @@ void Game::Declare(Declaration declaration) {
     Changed();
 }
 
+void Game::SavedAs(const std::wstring& newName) {
+    name = newName;
+    TopUpMoveLists();
+}
+
 void Game::TopUpMoveLists() {
     if (!record) return;
     const ChosenLines added = record->TopUpMoveLists(clock.Clock().State().MoveCount);
@@ -167,8 +173,9 @@ GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDa
     return EncodeGame(shown, state, filled ? &*filled : nullptr, today);
 }
 
-void Game::TakeLoadedGame(const SavedGame& saved) {
+void Game::TakeLoadedGame(const SavedGame& saved, const std::wstring& itsName) {
     LeaveGame();
+    name = itsName;
     // What is no part of a game stays.
     const Settings own = settings;
     settings = saved.Options;

@@ -54,6 +54,9 @@ class Game final : public ScorletGame {
     // that the record is further from than one move ends none of its lines.
     const ShownTimes& TimesAtPresses() const { return timesAtPresses; }
 
+    // The name under which the game was loaded or last saved; empty for none.
+    const std::wstring& Name() const { return name; }
+
     // Whether the game was begun before it was loaded or brought back: the day is not known then.
     bool BegunEarlier() const { return begunEarlier; }
 
@@ -104,12 +107,14 @@ class Game final : public ScorletGame {
     void Declare(Declaration declaration) override;
     // Fills the lists up to the clock's counts.
     void TopUpMoveLists();
+    // The game has been saved under that name: its lists are filled up as those in the files are.
+    void SavedAs(const std::wstring& newName);
 
     // The files of the game as it is, with its lists filled up to the clock's counts; the record itself stays as it is.
     // `names` are those that the clock shows, in the ANSI code page.
     GameFiles Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const;
     // Takes the place of what was, the settings included. Where it has a record the Scorlet must be open.
-    void TakeLoadedGame(const SavedGame& saved);
+    void TakeLoadedGame(const SavedGame& saved, const std::wstring& itsName = {});
 
     // Stops the timer before the program ends.
     void Unload() { Show(clock.Unload()); }
@@ -132,5 +137,6 @@ class Game final : public ScorletGame {
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
     ShownTimes timesAtPresses;
+    std::wstring name;
     bool begunEarlier = false;
 };

@@ -65,7 +65,7 @@ void GameKeeper::PutAside(std::string_view bytes) const {
 
 std::vector<int> GameKeeper::LastNumbers() const {
     std::vector<int> numbers;
-    for (const std::wstring& name : FilesLike(folder + L"Game*.last")) {
+    for (const auto& [name, changed] : FilesLike(folder + L"Game*.last")) {
         const int value = static_cast<int>(std::wcstol(name.c_str() + wcslen(L"Game"), nullptr, 10));
         if (name == NameOf(value, L".last")) numbers.push_back(value);
     }

@@ -37,6 +37,10 @@ bool IsDeviceName(std::wstring_view name) {
 
 }  // namespace
 
+bool GameName::MayHold(wchar_t character) {
+    return character >= L' ' && Forbidden.find(character) == std::wstring_view::npos;
+}
+
 bool GameName::TakesKey(wchar_t character, std::wstring_view text) const {
     if (character == Backspace) return true;
     if (text.size() >= Longest) return false;

@@ -12,6 +12,9 @@ class GameName {
     // The most characters of a name.
     static constexpr size_t Longest = 199;
 
+    // Whether a file name may hold the character.
+    static bool MayHold(wchar_t character);
+
     // Whether a typed character goes into the field that holds `text`.
     bool TakesKey(wchar_t character, std::wstring_view text) const;
 

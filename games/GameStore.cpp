@@ -6,7 +6,6 @@
 
 #include <windows.h>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -21,10 +20,6 @@ bool AreEqual(std::wstring_view first, std::wstring_view second) {
 
 std::string_view TextOf(const std::vector<uint8_t>& bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
-
-bool ComesBefore(const std::wstring& first, const std::wstring& second) {
-    return CompareStringOrdinal(first.c_str(), -1, second.c_str(), -1, TRUE) == CSTR_LESS_THAN;
 }
 
 // Whether a file name ends so, whatever the letter case.
@@ -45,17 +40,18 @@ void PutBack(const std::wstring& path, const std::optional<std::vector<uint8_t>>
 
 }  // namespace
 
-std::vector<std::wstring> GameStore::Names() const {
+std::vector<ListedGame> GameStore::Games() const {
     const std::wstring extension = FromAnsi(ExtensionOf(ClockFile));
-    std::vector<std::wstring> names;
+    std::vector<ListedGame> games;
     // The system's pattern finds longer extensions too, by the short names of their files.
-    for (std::wstring& name : FilesLike(folder + L"*" + extension)) {
-        if (name.size() <= ExtensionLength) continue;
-        const size_t length = name.size() - ExtensionLength;
-        if (AreEqual(std::wstring_view(name).substr(length), extension)) names.push_back(name.substr(0, length));
+    for (FoundFile& file : FilesLike(folder + L"*" + extension)) {
+        if (!EndsWith(file.Name, extension)) continue;
+        file.Name.resize(file.Name.size() - extension.size());
+        std::wstring key = file.Name;
+        CharUpperBuffW(key.data(), static_cast<DWORD>(key.size()));
+        games.push_back({std::move(file.Name), std::move(key), file.Changed});
     }
-    std::sort(names.begin(), names.end(), ComesBefore);
-    return names;
+    return games;
 }
 
 bool GameStore::Exists(const std::wstring& name) const { return FileExists(PathOf(name, ClockFile)); }
@@ -111,7 +107,7 @@ void GameStore::Settle(const std::wstring& name, const SavingMark& mark) const {
 
 void GameStore::SettleAll() const {
     // The marks, and what versions without marks have left.
-    for (const std::wstring& file : FilesLike(folder + L"*")) {
+    for (const auto& [file, changed] : FilesLike(folder + L"*")) {
         std::wstring name;
         if (EndsWith(file, MarkEnding)) name = file.substr(0, file.size() - MarkEnding.size());
         if (EndsWith(file, L".new") && file.size() > 2 * ExtensionLength)

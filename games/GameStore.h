@@ -1,6 +1,7 @@
 #pragma once
 
 #include "games/GameCodec.h"
+#include "games/GameList.h"
 #include "games/SavingMark.h"
 
 #include <string>
@@ -13,8 +14,8 @@ class GameStore {
     // `folder` with its trailing backslash.
     explicit GameStore(std::wstring folder) : folder(std::move(folder)) {}
 
-    // In alphabetical order, whatever the letter case.
-    std::vector<std::wstring> Names() const;
+    // As the folder lists them; no file of a game is opened.
+    std::vector<ListedGame> Games() const;
 
     bool Exists(const std::wstring& name) const;
 

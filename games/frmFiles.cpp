@@ -1,5 +1,6 @@
 #include "games/frmFiles.h"
 
+#include "games/ProposedName.h"
 #include "platform/Ansi.h"
 #include "platform/SystemError.h"
 #include "platform/Today.h"
@@ -7,17 +8,26 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
-constexpr int Width = 540, Height = 396;
+constexpr int Width = 768, Height = 396;
 
 constexpr DialogItem Label(int id, Box box, std::optional<TextId> text = std::nullopt) {
     return {id, WC_STATICW, SS_NOPREFIX, box, text};
 }
 constexpr DialogItem Button(int id, int top, TextId text, DWORD style = BS_PUSHBUTTON) {
-    return {id, WC_BUTTONW, WS_TABSTOP | style, {404, top, 112, 30}, text};
+    return {id, WC_BUTTONW, WS_TABSTOP | style, {632, top, 112, 30}, text};
+}
+
+constexpr DialogItem SortButton(int id, int left, TextId text, DWORD style = 0) {
+    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTORADIOBUTTON | style, {left, 348, 168, 22}, text};
+}
+constexpr DialogItem SummaryLine(int line) {
+    return {lblSummary + line, WC_STATICW, SS_NOPREFIX | SS_ENDELLIPSIS, {404, 236 + 22 * line, 196, 18}};
 }
 
 // The three actions share a place: the mode shows one of them.
@@ -33,8 +43,19 @@ constexpr std::array Items{
     DialogItem{lstGames,
                WC_LISTBOXW,
                WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
-               {26, 142, 342, 228}},
-    DialogItem{fraActions, WC_BUTTONW, BS_GROUPBOX, {392, 12, 136, 372}},
+               {26, 142, 342, 198}},
+    SortButton(optByName, 26, TextId::SortByName, WS_GROUP),
+    SortButton(optByDate, 200, TextId::SortByDate),
+    DialogItem{fraSummary, WC_BUTTONW, BS_GROUPBOX, {392, 12, 220, 372}},
+    Label(lblSummaryNote, {404, 26, 196, 196}),
+    DialogItem{picPosition, WC_STATICW, SS_OWNERDRAW, {405, 26, 194, 194}},
+    SummaryLine(0),
+    SummaryLine(1),
+    SummaryLine(2),
+    SummaryLine(3),
+    SummaryLine(4),
+    SummaryLine(5),
+    DialogItem{fraActions, WC_BUTTONW, BS_GROUPBOX, {622, 12, 134, 372}},
     Button(cmdLoad, ActionTop, TextId::ButtonLoad, BS_DEFPUSHBUTTON),
     Button(cmdSave, ActionTop, TextId::ButtonSave, BS_DEFPUSHBUTTON),
     Button(cmdDelete, ActionTop, TextId::ButtonDelete, BS_DEFPUSHBUTTON),
@@ -62,7 +83,25 @@ void frmFiles::Open(HWND owner) {
     SetText(lblHint, captions(Of(mode).Hint));
     nameField.Attach();
     toolTips.Create();
+    SendMessageW(Control(optByName), BM_SETCHECK, BST_CHECKED, 0);
+    games = store.Games();
+    Sort(games, order);
     FillGameList();
+    summary.ShowNote(captions(TextId::SummaryOfNone));
+    if (mode != FilesMode::Save) return;
+    SetText(txtGameName, NameToPropose());
+    // What is typed takes its place.
+    SendMessageW(Control(txtGameName), EM_SETSEL, 0, -1);
+}
+
+std::wstring frmFiles::NameToPropose() const {
+    if (!game.Name().empty()) return game.Name();
+    std::array<std::wstring, 2> players, sides;
+    for (const Side side : BothSides) {
+        players[side] = FromAnsi(KnownName(game.Options(), captions, side));
+        sides[side] = captions.SideName(side);
+    }
+    return ProposedName(players, sides, Today(), [this](const std::wstring& name) { return store.Exists(name); });
 }
 
 LRESULT frmFiles::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -74,12 +113,29 @@ LRESULT frmFiles::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         openHelp(Window());
         return TRUE;
     }
+    if (message == WM_DRAWITEM) {
+        summary.DrawBoard(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        return TRUE;
+    }
     return Dialog::Handle(message, wParam, lParam);
 }
 
 std::wstring frmFiles::SpokenName(int id) const {
-    if (id == fraGames) return captions(TextId::GameGroup);
-    return id == fraActions ? captions(TextId::ActionGroup) : std::wstring();
+    switch (id) {
+        case fraGames: return captions(TextId::GameGroup);
+        case fraSummary: return captions(TextId::SummaryGroup);
+        case fraActions: return captions(TextId::ActionGroup);
+        case lstGames: return captions(TextId::SavedGameList);
+        case picPosition: return summary.SpokenBoard();
+        default: return {};
+    }
+}
+
+// With the game that is chosen its summary is said.
+std::wstring frmFiles::SpokenPart(int, int part) const {
+    if (part > static_cast<int>(games.size())) return {};
+    const ListedGame& listed = games[static_cast<size_t>(part) - 1];
+    return &listed == Picked() ? listed.Name + L", " + summary.Spoken() : listed.Name;
 }
 
 int frmFiles::DefaultButton() const { return Of(mode).Button; }
@@ -87,21 +143,49 @@ int frmFiles::DefaultButton() const { return Of(mode).Button; }
 // The running clock waits meanwhile: without drawing, the list takes thousands of names in no time.
 void frmFiles::FillGameList() {
     const HWND list = Control(lstGames);
-    const std::vector<std::wstring> names = store.Names();
     size_t characters = 0;
-    for (const std::wstring& name : names) characters += name.size() + 1;
+    for (const ListedGame& listed : games) characters += listed.Name.size() + 1;
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
-    SendMessageW(list, LB_INITSTORAGE, names.size(), static_cast<LPARAM>(characters * sizeof(wchar_t)));
-    for (const std::wstring& name : names) SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
+    SendMessageW(list, LB_INITSTORAGE, games.size(), static_cast<LPARAM>(characters * sizeof(wchar_t)));
+    for (const ListedGame& listed : games)
+        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(listed.Name.c_str()));
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
 }
 
-void frmFiles::RemoveFromList(const std::wstring& name) const {
+void frmFiles::RemoveFromList(const std::wstring& name) {
     const HWND list = Control(lstGames);
     const LRESULT index =
         SendMessageW(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name.c_str()));
-    if (index >= 0) SendMessageW(list, LB_DELETESTRING, static_cast<WPARAM>(index), 0);
+    if (index < 0) return;
+    SendMessageW(list, LB_DELETESTRING, static_cast<WPARAM>(index), 0);
+    games.erase(games.begin() + index);
+    if (!Picked()) summary.ShowNote(captions(TextId::SummaryOfNone));
+}
+
+// Null while none is.
+const ListedGame* frmFiles::Picked() const {
+    const LRESULT index = SendMessageW(Control(lstGames), LB_GETCURSEL, 0, 0);
+    return index < 0 ? nullptr : &games[static_cast<size_t>(index)];
+}
+
+void frmFiles::ShowSummary(const ListedGame& picked) {
+    SavedGame saved;
+    try {
+        if (const auto error = store.LoadGame(picked.Name, game.Options(), saved)) {
+            if (!store.Exists(picked.Name))
+                return summary.ShowNote(captions(TextId::GameBefore) + picked.Name + captions(TextId::NotFound));
+            const std::wstring reason = captions.Reason(error->What, error->Place, error->Column);
+            return summary.ShowNote(
+                captions.Compose(TextId::SummaryOfDamaged, FromAnsi(ExtensionOf(error->File)), reason));
+        }
+    } catch (const SystemError& error) {
+        const std::wstring path = error.Thing();
+        const std::wstring ending = path.substr(std::min(path.rfind(L'.'), path.size()));
+        return summary.ShowNote(captions.Compose(TextId::SummaryOfUnreadable, ending, captions.Reason(error.Code())));
+    }
+    summary.ShowGame(saved, picked.Changed, game.BoardTurned());
 }
 
 void frmFiles::OnCommand(int id, int notification) {
@@ -113,6 +197,8 @@ void frmFiles::OnCommand(int id, int notification) {
         case txtGameName:
             if (notification == EN_CHANGE) OnNameChange();
             return;
+        case optByName: return OnSort(GameOrder::ByName);
+        case optByDate: return OnSort(GameOrder::LatestFirst);
         case cmdLoad:
         case cmdSave:
         case cmdDelete: return Act();
@@ -123,13 +209,23 @@ void frmFiles::OnCommand(int id, int notification) {
 }
 
 void frmFiles::OnPick() {
-    const HWND list = Control(lstGames);
-    const LRESULT index = SendMessageW(list, LB_GETCURSEL, 0, 0);
-    if (index < 0) return;
-    std::wstring name(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, static_cast<WPARAM>(index), 0)), L'\0');
-    SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(name.data()));
-    SetText(txtGameName, name);
-    toolTips.Set(lstGames, name);
+    const ListedGame* const picked = Picked();
+    if (!picked) return;
+    SetText(txtGameName, picked->Name);
+    toolTips.Set(lstGames, picked->Name);
+    ShowSummary(*picked);
+}
+
+void frmFiles::OnSort(GameOrder wanted) {
+    // A button that comes to have the focus says that it is chosen, too.
+    if (std::exchange(order, wanted) == wanted) return;
+    const ListedGame* const picked = Picked();
+    const std::wstring name = picked ? picked->Name : std::wstring();
+    Sort(games, order);
+    FillGameList();
+    if (!picked) return;
+    const auto place = std::ranges::find(games, name, &ListedGame::Name) - games.begin();
+    SendMessageW(Control(lstGames), LB_SETCURSEL, static_cast<WPARAM>(place), 0);
 }
 
 void frmFiles::OnNameChange() {
@@ -188,7 +284,7 @@ void frmFiles::OnSave(const std::wstring& name) {
     } catch (const SystemError& error) {
         return Tell(texts.Compose(TextId::GameNotSaved, error.Thing(), texts.Reason(error.Code())));
     }
-    game.TopUpMoveLists();
+    game.SavedAs(name);
     Close();
 }
 

@@ -3,6 +3,7 @@
 #include "games/Game.h"
 #include "games/GameName.h"
 #include "games/GameStore.h"
+#include "games/SummaryPane.h"
 #include "platform/Dialog.h"
 #include "platform/FilteredEdit.h"
 #include "platform/ToolTips.h"
@@ -13,8 +14,8 @@
 
 enum class FilesMode { Load, Save, Delete };
 
-// The dialog through which games are loaded, saved and deleted: the saved games, a name, and the one action of its
-// mode.
+// The dialog through which games are loaded, saved and deleted: the saved games, a summary of the one that is chosen, a
+// name, and the one action of its mode. No game is read before it is chosen.
 class frmFiles : public Dialog {
   public:
     // `store` and `game` must outlive the dialog. `openHelp` opens the help page of saved games over a window.
@@ -39,13 +40,18 @@ class frmFiles : public Dialog {
   private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::wstring SpokenName(int id) const override;
+    std::wstring SpokenPart(int id, int part) const override;
     int DefaultButton() const override;
 
+    std::wstring NameToPropose() const;
     void FillGameList();
-    void RemoveFromList(const std::wstring& name) const;
+    void RemoveFromList(const std::wstring& name);
+    const ListedGame* Picked() const;
+    void ShowSummary(const ListedGame& picked);
 
     void OnCommand(int id, int notification);
     void OnPick();
+    void OnSort(GameOrder wanted);
     void OnNameChange();
     void OnLoad(const std::wstring& name);
     void OnSave(const std::wstring& name);
@@ -60,6 +66,9 @@ class frmFiles : public Dialog {
     FilesMode mode;
     std::function<void(HWND)> openHelp;
     std::optional<Chosen> loaded;
+    std::vector<ListedGame> games;  // as the list shows them
+    GameOrder order = GameOrder::ByName;
+    SummaryPane summary{*this, captions};
     GameName typed;
     FilteredEdit nameField{
         *this, txtGameName, [this](const std::wstring& text) { return typed.Changed(text); },

@@ -18,6 +18,8 @@ UniqueFile Open(const std::wstring& longPath, DWORD access, DWORD share, DWORD d
     return UniqueFile(file == INVALID_HANDLE_VALUE ? nullptr : file);
 }
 
+uint64_t CountOf(const FILETIME& time) { return uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime; }
+
 bool IsMissing(DWORD code) { return code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND; }
 
 }  // namespace
@@ -58,28 +60,34 @@ bool FileExists(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
-    std::vector<std::wstring> names;
+std::vector<FoundFile> FilesLike(const std::wstring& pattern) {
+    std::vector<FoundFile> files;
     WIN32_FIND_DATAW found;
     // Without short names, and many at a time: a folder may hold thousands.
     const HANDLE search = FindFirstFileExW(LongPath(pattern).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
                                            nullptr, FIND_FIRST_EX_LARGE_FETCH);
-    if (search == INVALID_HANDLE_VALUE) return names;
+    if (search == INVALID_HANDLE_VALUE) return files;
     do {
-        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.emplace_back(found.cFileName);
+        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
+            files.push_back({found.cFileName, CountOf(found.ftLastWriteTime)});
     } while (FindNextFileW(search, &found));
     FindClose(search);
-    return names;
+    return files;
+}
+
+SYSTEMTIME LocalTimeOf(uint64_t changed) {
+    const FILETIME time{static_cast<DWORD>(changed), static_cast<DWORD>(changed >> 32)};
+    SYSTEMTIME universal{}, local{};
+    FileTimeToSystemTime(&time, &universal);
+    SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local);
+    return local;
 }
 
 SYSTEMTIME LastChangeOf(const std::wstring& path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
-    SYSTEMTIME universal{}, local{};
-    if (!GetFileAttributesExW(LongPath(path).c_str(), GetFileExInfoStandard, &data) ||
-        !FileTimeToSystemTime(&data.ftLastWriteTime, &universal) ||
-        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+    if (!GetFileAttributesExW(LongPath(path).c_str(), GetFileExInfoStandard, &data))
         throw SystemError(GetLastError(), path);
-    return local;
+    return LocalTimeOf(CountOf(data.ftLastWriteTime));
 }
 
 void MakeFolder(const std::wstring& path) { CreateDirectoryW(LongPath(path).c_str(), nullptr); }

@@ -24,10 +24,18 @@ std::optional<std::vector<uint8_t>> ReadFileBytes(const std::wstring& path,
 // Whether there is a file of that name; a folder is none.
 bool FileExists(const std::wstring& path);
 
-// Names of the files that a path with a pattern in its last part finds; none where there is no such folder.
-std::vector<std::wstring> FilesLike(const std::wstring& pattern);
+// A file as the listing of its folder tells of it.
+struct FoundFile {
+    std::wstring Name;
+    uint64_t Changed;  // when it was last written to, in the system's count: the higher, the later
+};
 
-// When a file was last written to, by the user's clock. Throws SystemError.
+// The files that a path with a pattern in its last part finds; none where there is no such folder.
+std::vector<FoundFile> FilesLike(const std::wstring& pattern);
+
+// When a file was last written to, by the user's clock: of a file that was found, and of one by its path, which throws
+// SystemError.
+SYSTEMTIME LocalTimeOf(uint64_t changed);
 SYSTEMTIME LastChangeOf(const std::wstring& path);
 
 // Makes a folder if there is none. A failure is not reported: whatever uses the folder next will fail.

@@ -4,6 +4,7 @@
 #include "platform/Look.h"
 #include "platform/Painting.h"
 #include "platform/modResource.h"
+#include "recorder/BoardSquare.h"
 
 #include <algorithm>
 #include <string>
@@ -12,9 +13,7 @@ namespace {
 
 constexpr Colour Own(uint32_t redGreenBlue, int system) { return {ColourOf(redGreenBlue), system}; }
 
-// With the system's colours the dark squares are hatched, as in print.
-constexpr Colour LightSquare = Own(Look::LightSquare, COLOR_WINDOW), DarkSquare = Own(Look::DarkSquare, COLOR_WINDOW);
-constexpr Colour LightLast = Own(Look::LightLast, COLOR_WINDOW), DarkLast = Own(Look::DarkLast, COLOR_WINDOW);
+constexpr Colour MarkedColour = Own(Look::LightLast, COLOR_WINDOW);
 constexpr Colour PickedColour = Own(Look::Picked, COLOR_HIGHLIGHT), LastColour = Own(Look::LastMark, COLOR_WINDOWTEXT);
 constexpr Colour TrayColour = Own(Look::Tray, COLOR_WINDOW), SheetColour = Own(Look::Sheet, COLOR_WINDOW);
 constexpr Colour LineColour = Own(Look::Line, COLOR_WINDOWTEXT);
@@ -56,11 +55,6 @@ void CornerMarks(HDC dc, const RECT& area, COLORREF colour, int thickness) {
         Fill(dc, {edge, 0, edge + thickness, length}, colour);
         Fill(dc, {edge, size - length, edge + thickness, size}, colour);
     }
-}
-
-void Hatch(HDC dc, const RECT& area) {
-    const UniqueBrush brush(CreateHatchBrush(HS_BDIAGONAL, GetSysColor(COLOR_WINDOWTEXT)));
-    FillRect(dc, &area, brush.get());
 }
 
 }  // namespace
@@ -121,12 +115,7 @@ void ScorletPainter::DrawBoardEdge(const DRAWITEMSTRUCT& item, const ScorletLayo
 void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const CellLook& look) const {
     const Buffered buffer(item);
     RECT area = buffer.Area();
-    const bool light = (FileOf(square) + RankOf(square)) % 2 != 0;
-    if (look.LastMove)
-        Fill(buffer.Dc(), area, light ? LightLast : DarkLast);
-    else
-        Fill(buffer.Dc(), area, light ? LightSquare : DarkSquare);
-    if (!light && HighContrast()) Hatch(buffer.Dc(), area);
+    DrawSquare(buffer.Dc(), area, IsLight(square), look.LastMove);
 
     const int size = static_cast<int>(area.right), thickness = std::max(size / 16, 2);
     if (look.LastMove) CornerMarks(buffer.Dc(), area, LastColour, thickness);
@@ -155,7 +144,7 @@ void ScorletPainter::DrawPromotion(const DRAWITEMSTRUCT& item, Piece piece, bool
     FillRounded(buffer.Dc(), area, size / 6, waits ? PickedColour : LineColour);
     RECT inner = area;
     InflateRect(&inner, -line, -line);
-    FillRounded(buffer.Dc(), inner, size / 6 - line, marked ? LightLast : TrayColour);
+    FillRounded(buffer.Dc(), inner, size / 6 - line, marked ? MarkedColour : TrayColour);
     pieces[static_cast<size_t>(piece)].Draw(buffer.Dc(), 0, 0, size);
     if (item.itemState & ODS_FOCUS) DrawFocusRect(buffer.Dc(), &area);
 }

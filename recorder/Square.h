@@ -11,6 +11,7 @@ inline constexpr int SquareIndexes = 89;
 constexpr Square SquareAt(int file, int rank) { return static_cast<Square>(file * 10 + rank); }
 constexpr int FileOf(Square square) { return square / 10; }
 constexpr int RankOf(Square square) { return square % 10; }
+constexpr bool IsLight(Square square) { return (FileOf(square) + RankOf(square)) % 2 != 0; }
 constexpr bool OnBoard(int file, int rank) { return file >= 1 && file <= 8 && rank >= 1 && rank <= 8; }
 constexpr bool IsSquare(int index) { return OnBoard(index / 10, index % 10); }
 

@@ -175,7 +175,14 @@ enum FilesControl : int {
     cmdLoad,
     cmdSave,
     cmdDelete,
+    optByName,
+    optByDate,
+    fraSummary,
+    lblSummaryNote,
+    picPosition,
+    lblSummary,  // a line of the summary, and those that follow
 };
+inline constexpr int SummaryLines = 6;
 
 // Messages that the windows send themselves and one another, from WM_APP on.
 enum ClockMessage : unsigned {

@@ -139,7 +139,8 @@ void ExpectTextsFit(HWND form, bool drawnTexts) {
         } else if (IsKind(control, L"STATIC")) {
             ExpectFits(control, text, 0, !(StyleOf(control) & SS_CENTERIMAGE));
         } else if (IsKind(control, L"BUTTON")) {
-            ExpectFits(control, text, IsButton(control, BS_AUTOCHECKBOX) ? CheckMark : ButtonEdges);
+            const bool marked = IsButton(control, BS_AUTOCHECKBOX) || IsButton(control, BS_AUTORADIOBUTTON);
+            ExpectFits(control, text, marked ? CheckMark : ButtonEdges);
         } else if (IsKind(control, L"COMBOBOX")) {
             for (LRESULT i = SendMessageW(control, CB_GETCOUNT, 0, 0) - 1; i >= 0; --i) {
                 std::array<wchar_t, 256> entry{};

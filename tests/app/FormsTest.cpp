@@ -69,7 +69,16 @@ struct Maker {
         return Open(new frmSetup(Around, File, Options, [](HWND) {}), HWND{});
     }
     std::unique_ptr<Form> Files(FilesMode mode) {
-        return Open(new frmFiles(Around, Games, Played, mode, [](HWND) {}), HWND{});
+        modClock::ClockState clock;
+        clock.Control = Options.Control;
+        const Recorder scorlet;
+        Games.SaveGame(L"a", EncodeGame(Options, clock, &scorlet, {2024, 3, 9}));
+        WriteFileText(Folder.Path() + L"b.bin", "");
+        auto form = Open(new frmFiles(Around, Games, Played, mode, [](HWND) {}), HWND{});
+        if (mode == FilesMode::Save) return form;
+        SendMessageW(form->Control(lstGames), LB_SETCURSEL, mode == FilesMode::Delete, 0);
+        SendMessageW(form->Window(), WM_COMMAND, MAKEWPARAM(lstGames, LBN_SELCHANGE), 0);
+        return form;
     }
     std::unique_ptr<Form> Correction() {
         return Open(new frmCorrection(Around, Played.Clock().Clock().State(), {L"WHITE", L"BLACK"}), HWND{});

@@ -1,6 +1,24 @@
 #include "games/GameName.h"
 
-#include <gtest/gtest.h>
+#include "games/ProposedName.h"
+#include "tests/base/Rows.h"
+
+namespace {
+
+std::wstring Widened(const std::string& text) { return {text.begin(), text.end()}; }
+
+// What is proposed for "White / Black / so many names taken".
+std::string Proposed(const std::string& given) {
+    const size_t first = given.find(" / "), second = given.rfind(" / ");
+    int taken = std::stoi(given.substr(second + 3));
+    const std::wstring name =
+        ProposedName({Widened(given.substr(0, first)), Widened(given.substr(first + 3, second - first - 3))},
+                     {L"White", L"Black"}, {2026, 3, 9}, [&](const std::wstring&) { return taken-- > 0; });
+    EXPECT_EQ(FaultOfName(name), std::nullopt) << given;
+    return {name.begin(), name.end()};
+}
+
+}  // namespace
 
 TEST(GameNameTest, KeysAndChanges) {
     GameName name;
@@ -29,4 +47,15 @@ TEST(GameNameTest, NamesThatNoNewGameMayHave) {
         EXPECT_EQ(FaultOfName(name), TextId::NameEndsInDot) << testing::PrintToString(name);
     EXPECT_EQ(FaultOfName(std::wstring(199, L'x')), std::nullopt);
     EXPECT_EQ(FaultOfName(std::wstring(200, L' ')), TextId::NameTooLong);
+}
+
+TEST(GameNameTest, AProposedNameIsOneThatEveryGameMayHave) {
+    const std::string longest(80, 'x');
+    ExpectRows(Proposed, "Anna / Bob / 0 => Anna-Bob 2026-03-09 | Anna / Bob / 1 => Anna-Bob 2026-03-09 (2)");
+    ExpectRows(Proposed, "Anna / Bob / 12 => Anna-Bob 2026-03-09 (13) | ... / " + longest + " y / 0 => White-" +
+                             longest + " 2026-03-09");
+    ExpectRows(Proposed, R"(
+        Team 1. Ann  / a\b:c? / 0 => Team 1 Ann-a-b-c- 2026-03-09
+        con. x / <"a/b*|> / 0 => con x---a-b--- 2026-03-09 | . . / aux. / 0 => White-aux 2026-03-09
+    )");
 }
