@@ -1,8 +1,8 @@
 #include "app/KeptPlaces.h"
 
-#include <algorithm>
+#include "base/WordReader.h"
+
 #include <charconv>
-#include <string_view>
 
 namespace {
 
@@ -15,36 +15,18 @@ std::string TextOf(const Box& box) {
     return text + "\r\n";
 }
 
-// The words of a text, one after the other. Streams would make the program half as large again.
-class Words {
-  public:
-    explicit Words(std::string_view text) : rest(text) {}
+bool Take(WordReader& words, int& number) {
+    const std::string_view word = words.Take();
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    return error == std::errc() && end == word.data() + word.size();
+}
 
-    // Empty at the end.
-    std::string_view Take() {
-        constexpr std::string_view blanks = " \t\r\n";
-        rest.remove_prefix(std::min(rest.find_first_not_of(blanks), rest.size()));
-        const std::string_view word = rest.substr(0, rest.find_first_of(blanks));
-        rest.remove_prefix(word.size());
-        return word;
+bool Take(WordReader& words, Box& box) {
+    for (int* length : {&box.Left, &box.Top, &box.Width, &box.Height}) {
+        if (!Take(words, *length) || *length < -Furthest || *length > Furthest) return false;
     }
-
-    bool Take(int& number) {
-        const std::string_view word = Take();
-        const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-        return error == std::errc() && end == word.data() + word.size();
-    }
-
-    bool Take(Box& box) {
-        for (int* length : {&box.Left, &box.Top, &box.Width, &box.Height}) {
-            if (!Take(*length) || *length < -Furthest || *length > Furthest) return false;
-        }
-        return box.Width > 0 && box.Height > 0;
-    }
-
-  private:
-    std::string_view rest;
-};
+    return box.Width > 0 && box.Height > 0;
+}
 
 }  // namespace
 
@@ -58,12 +40,12 @@ std::string WritePlaces(const KeptPlaces& places) {
 std::optional<KeptPlaces> ReadPlaces(const std::string& text) {
     KeptPlaces places{};
     WindowPlaces both;
-    Words words(text);
+    WordReader words(text);
     for (std::string_view word = words.Take(); !word.empty(); word = words.Take()) {
-        const bool read = word == "dpi"       ? words.Take(places.Dpi)
-                          : word == "clock"   ? words.Take(places.Alone)
-                          : word == "beside"  ? words.Take(both.Clock)
-                          : word == "scorlet" ? words.Take(both.Scorlet)
+        const bool read = word == "dpi"       ? Take(words, places.Dpi)
+                          : word == "clock"   ? Take(words, places.Alone)
+                          : word == "beside"  ? Take(words, both.Clock)
+                          : word == "scorlet" ? Take(words, both.Scorlet)
                                               : (places.Maximised = word == "maximised");
         if (!read) return std::nullopt;
     }

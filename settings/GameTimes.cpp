@@ -1,10 +1,10 @@
 #include "settings/GameTimes.h"
 
+#include "base/WordReader.h"
 #include "settings/SetupRules.h"
 
 #include <charconv>
 #include <limits>
-#include <sstream>
 
 namespace {
 
@@ -35,14 +35,13 @@ std::optional<Pair> PairOf(std::string_view word, int32_t least, int32_t unit) {
 }
 
 // Takes what follows a word; false if the type has no such thing or it is not understood.
-bool TakeWord(const std::string& word, std::istringstream& words, GameTimes& times) {
+bool TakeWord(std::string_view word, WordReader& words, GameTimes& times) {
     const TypeRules rules = RulesOf(times.ClockType);
     if (word == "up" && times.Control.CountTimeDown) {
         times.Control.CountTimeDown = false;
         return true;
     }
-    std::string value;
-    words >> value;
+    const std::string_view value = words.Take();
     const auto take = [](Pair& to, const std::optional<Pair>& from) {
         if (!from || to != Pair{}) return false;
         to = *from;
@@ -95,15 +94,14 @@ std::string TextOf(const GameTimes& times) {
 }
 
 std::optional<GameTimes> TimesOfText(std::string_view text) {
-    std::istringstream words{std::string(text)};
-    std::string type, first;
-    words >> type >> first;
+    WordReader words(text);
+    const std::string_view type = words.Take(), first = words.Take();
     for (size_t i = 0; i < TypeWords.size(); ++i) {
         const auto limit = PairOf(first, 1, 60);
         if (type != TypeWords[i] || !limit) continue;
         GameTimes times = SimpleTimes(static_cast<int32_t>(i), 1, 0);
         times.Control.PeriodLimit = *limit;
-        for (std::string word; words >> word;) {
+        for (std::string_view word = words.Take(); !word.empty(); word = words.Take()) {
             if (!TakeWord(word, words, times)) return std::nullopt;
         }
         return times;
