@@ -48,6 +48,13 @@ void Move(HWND window, const Box& place) {
     SetWindowPos(window, nullptr, place.Left, place.Top, place.Width, place.Height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+Box WorkAreaOf(HMONITOR screen) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(screen, &monitor);
+    return BoxOf(monitor.rcWork);
+}
+
 bool OnAScreen(const Box& place) {
     const RECT area{place.Left, place.Top, place.Right(), place.Bottom()};
     return MonitorFromRect(&area, MONITOR_DEFAULTTONULL) != nullptr;
@@ -80,6 +87,11 @@ bool WindowPlacer::PlaceClock(HWND clock, bool besideScorlet) {
     if (besideScorlet) {
         const Box scorlet = MakeRoom(clock);
         planned = WindowPlaces{PlaceOf(clock), scorlet};
+        // It will be maximised again when the Scorlet closes.
+        if (left && left->Maximised) {
+            if (!room) room = Room{PlaceOf(clock), PlaceOf(clock), false};
+            room->Maximised = true;
+        }
     }
     return left && left->Maximised && !besideScorlet;
 }
@@ -87,7 +99,10 @@ bool WindowPlacer::PlaceClock(HWND clock, bool besideScorlet) {
 std::optional<WindowPlaces> WindowPlacer::LeftBeside(const Box& clock, const Box& workArea) const {
     if (!left || !left->Both) return std::nullopt;
     for (const WindowPlaces& places : {WindowPlaces{clock, left->Both->Scorlet}, *left->Both}) {
-        if (BothInSight(places, workArea)) return places;
+        const Box& scorlet = places.Scorlet;
+        const RECT area{scorlet.Left, scorlet.Top, scorlet.Right(), scorlet.Bottom()};
+        const HMONITOR screen = MonitorFromRect(&area, MONITOR_DEFAULTTONEAREST);
+        if (BothInSight(places, workArea, WorkAreaOf(screen))) return places;
     }
     return std::nullopt;
 }
@@ -128,7 +143,7 @@ void WindowPlacer::OnScreenChanged(HWND clock, HWND scorlet) {
         MonitorFromWindow(clock, MONITOR_DEFAULTTONEAREST) == MonitorFromWindow(scorlet, MONITOR_DEFAULTTONEAREST);
     if (together) {
         const Screen screen = ScreenOf(clock);
-        if (BothInSight({PlaceOf(clock), PlaceOf(scorlet)}, screen.WorkArea)) return;
+        if (BothInSight({PlaceOf(clock), PlaceOf(scorlet)}, screen.WorkArea, screen.WorkArea)) return;
         const WindowPlaces places = PlaceBoth(screen, PlaceOf(clock));
         Move(clock, places.Clock);
         Move(scorlet, places.Scorlet);

@@ -31,11 +31,11 @@ Box BroughtInto(const Box& box, const Box& area) {
             std::clamp(box.Top, area.Top, area.Bottom() - height), width, height};
 }
 
-bool BothInSight(const WindowPlaces& places, const Box& workArea) {
+bool BothInSight(const WindowPlaces& places, const Box& clockArea, const Box& scorletArea) {
     const auto& [clock, scorlet] = places;
     const bool apart = clock.Right() <= scorlet.Left || scorlet.Right() <= clock.Left ||
                        clock.Bottom() <= scorlet.Top || scorlet.Bottom() <= clock.Top;
-    return apart && Inside(clock, workArea) && Inside(scorlet, workArea);
+    return apart && Inside(clock, clockArea) && Inside(scorlet, scorletArea);
 }
 
 Box PlaceClock(const Screen& screen) {

@@ -27,8 +27,8 @@ Extent LeastScorlet(const Screen& screen);
 // Moved, and cut where it is too large, to lie in an area.
 Box BroughtInto(const Box& box, const Box& area);
 
-// Whether both are in the work area and neither covers the other.
-bool BothInSight(const WindowPlaces& places, const Box& workArea);
+// Whether neither covers the other, and each lies in the work area of its screen.
+bool BothInSight(const WindowPlaces& places, const Box& clockArea, const Box& scorletArea);
 
 // The clock alone: as it was designed, in the middle of the work area.
 Box PlaceClock(const Screen& screen);

@@ -316,7 +316,10 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_KEEPFAILED: kept.TellFailure(static_cast<DWORD>(wParam)); return 0;
         case WM_QUERYENDSESSION: kept.Keep(); return TRUE;
         case WM_ENDSESSION:
-            if (wParam) kept.Finish();
+            if (!wParam) return 0;
+            LeaveFullScreen();
+            placer.Keep(Window(), scorlet.Window());
+            kept.Finish();
             return 0;
         case WM_POWERBROADCAST: wakefulness.OnPower(wParam, game, Window()); return TRUE;
         case WM_TELLSLEEP: messageBoxes.Inform(Window(), texts(TextId::PausedForSleep)); return 0;
@@ -352,7 +355,7 @@ void frmClock::OnCommand(int id) {
             UpdateMenu();
             return;
         case mnuNextWindow: return scorlet.GoToOtherWindow();
-        case mnuCloseScorlet: return scorlet.Close();
+        case mnuCloseScorlet: LeaveFullScreen(); return scorlet.Close();
         case mnuTakeBack: return game.TakeBack();
         case mnuRedo: return game.Redo();
         case mnuGoOn: return game.GoOnAtClocksMove();
@@ -425,10 +428,13 @@ void frmClock::ToggleFullScreen() {
 }
 
 void frmClock::LeaveFullScreen() {
-    if (fullScreen.On()) fullScreen.End(Window());
+    if (!fullScreen.On()) return;
+    fullScreen.End(Window());
+    if (std::exchange(screenChanged, false)) WindowPlacer::OnScreenChanged(Window(), scorlet.Window());
 }
 
 void frmClock::OnScreenChanged() {
+    screenChanged = fullScreen.On();
     if (fullScreen.On())
         fullScreen.Fill(Window());
     else

@@ -90,6 +90,7 @@ class frmClock : public Form, private ClockView {
     bool toKeep = false;              // WM_KEEPGAME is on its way
     HMENU menu = nullptr;             // the window's own, shown or not
     FullScreen fullScreen;
+    bool screenChanged = false;  // while it was full: the windows are to be looked after
     Wakefulness wakefulness;
     UniqueAccelerators accelerators;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told

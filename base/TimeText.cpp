@@ -23,8 +23,6 @@ std::string MinutesSecondsText(int32_t seconds) {
     return TwoDigitText(seconds / 60) + ":" + TwoDigitText(seconds % 60);
 }
 
-std::string ClockText(int32_t seconds) { return HoursMinutesText(seconds) + ":" + TwoDigitText(seconds % 60); }
-
 std::optional<int32_t> ReadTime(std::string_view text) {
     while (text.starts_with(' ')) text.remove_prefix(1);
     while (text.ends_with(' ')) text.remove_suffix(1);
@@ -33,8 +31,8 @@ std::optional<int32_t> ReadTime(std::string_view text) {
         const std::string_view digits = text.substr(0, text.find(':'));
         int32_t part = 0;
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), part);
-        if (digits.empty() || digits.size() > 2 || error != std::errc() || end != digits.data() + digits.size() ||
-            part < 0 || (parts > 1 && part > 59))
+        if (digits.empty() || digits.size() > (parts == 1 ? 4 : 2) || error != std::errc() ||
+            end != digits.data() + digits.size() || part < 0 || (parts > 1 && part > 59))
             return std::nullopt;
         seconds = seconds * 60 + part;
         if (digits.size() == text.size()) return parts == 2 || parts == 3 ? std::optional(seconds) : std::nullopt;

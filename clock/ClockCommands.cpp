@@ -101,6 +101,7 @@ ClockEvent ClockCommands::PauseIfRunning() { return CurrentPhase() == Phase::Run
 
 ClockEvent ClockCommands::Tick() {
     const Side side = clock.TurnSide();
+    const FaceMark before = MarkOf(side);
     try {
         switch (clock.ClockTick()) {
             case modClock::TickOutcome::OutOfStep: return ClockEvent::Ignored;
@@ -117,12 +118,12 @@ ClockEvent ClockCommands::Tick() {
     } catch (const RunTimeError&) {
         return PauseOnOverflow();
     }
-    const bool markEnded = periodMarkLeft[side] > 0 && --periodMarkLeft[side] == 0;
+    if (periodMarkLeft[side] > 0) --periodMarkLeft[side];
     if (TimeLow(side) && !warned[side]) {
         warned[side] = true;
         return ClockEvent::TimeLow;
     }
-    return markEnded ? ClockEvent::MarkEnded : ClockEvent::Ticked;
+    return MarkOf(side) == before ? ClockEvent::Ticked : ClockEvent::MarkChanged;
 }
 
 ClockEvent ClockCommands::Correct(const Correction& correction) {

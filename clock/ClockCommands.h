@@ -20,7 +20,7 @@ enum class ClockEvent {
     // Seconds of the running side that are marked on its face.
     PeriodBegan,  // the first of its second period
     TimeLow,      // its time has become low
-    MarkEnded,    // the beginning of its second period is no longer marked
+    MarkChanged,  // otherwise its face is marked anew or no longer
     // The players are to be told of these; only an overflow has changed anything, it pauses a running clock.
     TimerNotCreated,
     TimerNotResumed,

@@ -17,7 +17,7 @@ Correction CorrectionOf(const modClock::ClockState& state);
 // Why a clock could not have come to that: the first reason.
 enum class CorrectionFault {
     NoTime,     // a time is none, or would have let the side's flag fall
-    NoMove,     // White has not begun a move, or a number is below 0
+    NoMove,     // White has not begun a move, or a number is below 0 or above MostMoves
     OutOfStep,  // White has neither as many moves as Black nor one more
 };
 struct FaultOfSide {

@@ -37,7 +37,7 @@ constexpr std::array Items{
     DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {300, 126, 104, 30}, TextId::ButtonCancel},
 };
 
-constexpr int LongestField = 9;
+constexpr int LongestTime = 10, LongestNumber = 5;
 
 }  // namespace
 
@@ -52,10 +52,10 @@ void frmCorrection::Open(HWND owner) {
     const Correction shown = CorrectionOf(state);
     for (Side side : BothSides) {
         SetText(ControlOf(lblCorrectionOf, side), names[side]);
-        SetText(ControlOf(txtCorrectTime, side), FromAnsi(ClockText(shown.Time[side])));
+        SetText(ControlOf(txtCorrectTime, side), FromAnsi(HoursMinutesSecondsText(shown.Time[side])));
         SetText(ControlOf(txtCorrectMove, side), std::to_wstring(shown.MoveCount[side]));
-        for (const int field : {ControlOf(txtCorrectTime, side), ControlOf(txtCorrectMove, side)})
-            SendMessageW(Control(field), EM_SETLIMITTEXT, LongestField, 0);
+        SendMessageW(Control(ControlOf(txtCorrectTime, side)), EM_SETLIMITTEXT, LongestTime, 0);
+        SendMessageW(Control(ControlOf(txtCorrectMove, side)), EM_SETLIMITTEXT, LongestNumber, 0);
     }
 }
 

@@ -15,7 +15,7 @@ bool ClockState::CountsOutOfStep() const {
 }
 
 bool ClockState::InSecondPeriod(Side side) const {
-    const bool used = GameStarted && !SecondPeriodArmed[side] && !SecondPeriodDue[side];
+    const bool used = MoveCount[White] > 0 && !SecondPeriodArmed[side] && !SecondPeriodDue[side];
     return Control.SecondPeriodEnabled && (used || MoveCount[side] > Control.MovesFirstPeriod);
 }
 

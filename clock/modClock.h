@@ -11,6 +11,10 @@
 // of ClockTick counts as exactly one second.
 namespace modClock {
 
+// The most moves a side may have counted in a game that is loaded or corrected. The move lists are filled up to the
+// counts, which must not ask for more than the memory holds.
+inline constexpr int32_t MostMoves = 99'999;
+
 struct ClockState {
     TimeControl Control;
 

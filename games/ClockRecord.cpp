@@ -55,7 +55,7 @@ void ReadFields(SlotReader& slots, ClockRecord& saved) {
     for (bool& due : clock.SecondPeriodDue) due = slots.NextCheck();
     for (int32_t& moves : clock.MoveCount) {
         moves = slots.Next(0);
-        if (moves > MostSavedMoves) throw GameFileError{ClockFile, Damage::TooManyMoves, slots.Last()};
+        if (moves > modClock::MostMoves) throw GameFileError{ClockFile, Damage::TooManyMoves, slots.Last()};
     }
     if (clock.CountsOutOfStep()) throw GameFileError{ClockFile, Damage::CountsOutOfStep, slots.Last()};
     saved.SideToMove = slots.NextCheck() ? White : Black;

@@ -11,10 +11,6 @@
 // Longer names are cut when they are written.
 inline constexpr int32_t MaxSavedName = 128;
 
-// The most moves a side may have counted. The move lists are filled up to the counts, so a damaged one must not ask for
-// more than the memory holds.
-inline constexpr int32_t MostSavedMoves = 99'999;
-
 // A clock as it stood, with what the players had set.
 struct ClockRecord {
     Settings Options;            // all but the language; its time control is Clock's

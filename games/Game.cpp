@@ -195,7 +195,7 @@ void Game::Show(ClockEvent event, ClockChange change) {
     switch (event) {
         case ClockEvent::Ignored: return;
         case ClockEvent::Ticked:
-        case ClockEvent::MarkEnded: return clockView->ClockChanged(change);
+        case ClockEvent::MarkChanged: return clockView->ClockChanged(change);
         case ClockEvent::PeriodBegan:
         case ClockEvent::TimeLow:
             clockView->ClockChanged(change);

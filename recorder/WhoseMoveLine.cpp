@@ -32,8 +32,8 @@ void WhoseMoveLine::ShowLookBack(const Texts& texts, const LookBack& lookBack) {
     const auto& [white, black] = lookBack.Times;
     std::wstring text = texts.Compose(lookBack.Known ? TextId::LookBack : TextId::PositionNotKnown, entry);
     if (lookBack.Known && white && black)
-        text =
-            texts.Compose(TextId::LookBackWithTimes, entry, FromAnsi(ClockText(*white)), FromAnsi(ClockText(*black)));
+        text = texts.Compose(TextId::LookBackWithTimes, entry, FromAnsi(HoursMinutesSecondsText(*white)),
+                             FromAnsi(HoursMinutesSecondsText(*black)));
     ShowText(text, LineLook::LookBack, lookBack.List);
 }
 

@@ -7,7 +7,9 @@
 int32_t SettingsFile::LoadLanguage() const {
     try {
         const auto bytes = ReadFileBytes(path, LongestRecord);
-        if (bytes) return DecodeLanguage(DecodeRecord(*bytes).Slots);
+        const DecodedRecord record = bytes ? DecodeRecord(*bytes) : DecodedRecord{};
+        // A damaged file may have lost it.
+        if (bytes && (!record.Error || HasLanguage(record.Slots))) return DecodeLanguage(record.Slots);
     } catch (const SystemError&) {
         // Load, which is called next, reports it.
     }

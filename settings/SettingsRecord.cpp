@@ -13,8 +13,10 @@ constexpr int32_t LowTimeSlot = 303;  // seconds
 
 }  // namespace
 
+bool HasLanguage(const SlotRecord& record) { return !std::holds_alternative<std::monostate>(record[LanguageSlot]); }
+
 int32_t DecodeLanguage(const SlotRecord& record) {
-    if (std::holds_alternative<std::monostate>(record[LanguageSlot])) return English;
+    if (!HasLanguage(record)) return English;
     try {
         return NumberInSlot(record, LanguageSlot);
     } catch (const BadSlot&) {

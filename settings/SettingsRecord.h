@@ -10,6 +10,9 @@
 // More characters than this in the two names together would push the fields into the language's slot.
 inline constexpr int32_t MaxNameCharacters = 284;
 
+// Whether the slot of the language holds something.
+bool HasLanguage(const SlotRecord& record);
+
 // The language of a record: English if its slot is empty or could not be read, otherwise the number as it is.
 int32_t DecodeLanguage(const SlotRecord& record);
 

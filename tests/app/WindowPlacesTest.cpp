@@ -56,7 +56,7 @@ TEST(WindowPlacesTest, NeitherWindowCoversTheOtherOnAnyScreenThatHasRoom) {
             }
             ++roomy;
             ExpectApartInside({both.Clock, both.Scorlet}, screen.WorkArea);
-            EXPECT_TRUE(BothInSight(both, screen.WorkArea));
+            EXPECT_TRUE(BothInSight(both, screen.WorkArea, screen.WorkArea));
             EXPECT_GE(both.Clock.Width, LeastWidth * percent / 100 + screen.ClockFrame.Width);
             EXPECT_GE(both.Clock.Height, LeastHeight * percent / 100 + screen.ClockFrame.Height);
             EXPECT_GE(both.Scorlet.Width, ScorletLeastWidth * percent / 100 + screen.ScorletFrame.Width);
@@ -90,7 +90,7 @@ TEST(WindowPlacesTest, BothAreInSightWhenTheyAreApartAndInside) {
                                                 {Box{10, 19, 50, 80}, Box{60, 20, 50, 80}, false},
                                                 {Box{10, 20, 50, 80}, Box{60, 20, 51, 80}, false},
                                                 {Box{10, 20, 50, 80}, Box{60, 20, 50, 81}, false}})
-        EXPECT_EQ(BothInSight({clock, scorlet}, area), sight) << TextOf(clock) << ", " << TextOf(scorlet);
+        EXPECT_EQ(BothInSight({clock, scorlet}, area, area), sight) << TextOf(clock) << ", " << TextOf(scorlet);
 }
 
 TEST(WindowPlacesTest, PlacesAreReadAsTheyWereWrittenAndDamagedOnesNotAtAll) {

@@ -220,9 +220,9 @@ void Steps::AddLooks() {
                 const HWND clock = Find("frmClock"), scorlet = Find("frmScorlet");
                 RECT work{};
                 SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+                const Box area{work.left, work.top, work.right - work.left, work.bottom - work.top};
                 return IsWindowVisible(clock) && IsWindowVisible(scorlet) &&
-                       BothInSight({BoxOf(clock), BoxOf(scorlet)},
-                                   {work.left, work.top, work.right - work.left, work.bottom - work.top});
+                       BothInSight({BoxOf(clock), BoxOf(scorlet)}, area, area);
             },
             "they are not");
     });

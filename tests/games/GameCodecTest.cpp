@@ -101,8 +101,8 @@ TEST(GameCodecTest, FilesThatAreMissingOrDamaged) {
 TEST(GameCodecTest, WhatCannotBeLoadedIsNotWorthSaving) {
     const Recorder recorder = Played("e2e4 e7e5 g1f3");
     for (const Recorder* written : {&recorder, static_cast<const Recorder*>(nullptr)}) {
-        EXPECT_EQ(FaultOf(Saved(written, true, MostSavedMoves)), std::nullopt);
-        EXPECT_EQ(FaultOf(Saved(written, true, MostSavedMoves + 1)),
+        EXPECT_EQ(FaultOf(Saved(written, true, modClock::MostMoves)), std::nullopt);
+        EXPECT_EQ(FaultOf(Saved(written, true, modClock::MostMoves + 1)),
                   (GameFileError{ClockFile, Damage::TooManyMoves, 22 + 2 - 4}));
     }
 }

@@ -235,7 +235,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         low=10 W 49s => show W; CPTm - 00:00:11 | low=10 W 50s => show W all, warn; CPTLm - 00:00:10
         low=10 W 51s => show W; CPTLm - 00:00:09 | low=10 W 50s pause => show all; RLp - 00:00:10
         low=10 W 60s => show W all, gong; F - 00:00:00 | low=10 up60 W 50s => show W all, warn; CPTLm - 00:00:50
-        low=10 bonus W 52s W B => click, show B all; CPTm - 00:00:28 | low=10 bonus W 52s W B 20s => show W; CPTLm - 00:00:08
+        low=10 bonus W 52s W B => click, show B all; CPTm - 00:00:28 | low=10 bonus W 52s W B 18s => show W all; CPTLm - 00:00:10
         low=10 bonus up60 W 30s => show W all, warn; CPTLm - 00:00:30 | bonus up60 W 40s => show W; CPTm - 00:00:40
         low=40 second W 60s => show W all, chime; CPT2m - 00:00:30 | low=40 second W 65s => show W all; CPTLm - 00:00:25
         low=40 load3,2on => show W B all; Rp L 00:00:45 | low=50 load3,2on pause 1s => show W; CPTLm L 00:00:44
