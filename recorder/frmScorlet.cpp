@@ -11,6 +11,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -55,6 +56,9 @@ void frmScorlet::Arrange() {
     RECT client{};
     GetClientRect(Window(), &client);
     if (client.right == 0 || client.bottom == 0) return;
+    // The system tells the size of a window again when it is shown, and moving all the controls takes time.
+    const Arrangement now{client.right, client.bottom, Dpi(), game.BoardTurned()};
+    if (std::exchange(arranged, now) == now) return;
     controls.Place(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi(), game.BoardTurned());
     input.Turn(controls.Layout.Turned);
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);

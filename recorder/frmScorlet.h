@@ -66,6 +66,14 @@ class frmScorlet : public Form, private RecordView {
     const HWND shell;
     BoardInput input{recorder};
     ScorletControls controls{*this, recorder, input};
+    // What the controls are laid out for.
+    struct Arrangement {
+        LONG Width, Height;
+        int Dpi;
+        bool Turned;
+        bool operator==(const Arrangement&) const = default;
+    };
+    Arrangement arranged{};
     BoardMouse mouse{*this, input, controls.Painter, controls.Layout};
     Side menuList = White;
     std::optional<LookBack> lookBack;
