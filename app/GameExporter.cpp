@@ -46,9 +46,11 @@ std::wstring GameExporter::TextOf(const GameReading& reading) const {
     ExportHead head;
     head.Control = game.Options().Control;
     if (!game.BegunEarlier()) head.Date = Today();
-    for (Side side : BothSides) head.Names[side] = KnownName(game.Options(), texts, side);
+    for (Side side : BothSides) head.Names[side] = ToUtf8(KnownName(game.Options(), texts, side));
+    GameReading encoded = reading;
+    for (std::string& entry : encoded.Written) entry = ToUtf8(FromAnsi(entry));
     const std::wstring lines =
-        FromAnsi(ExportGame(head, reading, ResultToken(game.Record()->Lists()), game.TimesAtPresses()));
+        FromUtf8(ExportGame(head, encoded, ResultToken(game.Record()->Lists()), game.TimesAtPresses()));
     std::wstring text;
     for (const wchar_t character : lines) text += character == L'\n' ? L"\r\n" : std::wstring{character};
     return text;

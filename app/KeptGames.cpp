@@ -88,7 +88,7 @@ void KeptGames::Finish() {
 
 // With the players' own names: an empty one stays empty.
 std::optional<std::string> KeptGames::Encoded() const {
-    const GameFiles files = game.Encode(game.Options().PlayerNames, Today());
+    const GameFiles files = game.Encode(game.Options(), Today());
     if (FaultOf(files)) return std::nullopt;
     return EncodeKeptGame(files);
 }

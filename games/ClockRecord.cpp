@@ -1,6 +1,9 @@
 #include "games/ClockRecord.h"
 
+#include "settings/FullNames.h"
 #include "settings/SettingsRecord.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -80,10 +83,11 @@ std::string EncodeClockRecord(const ClockRecord& saved) {
     const auto write = [&](auto value) { record[next++] = value; };
     const Settings& options = saved.Options;
     const modClock::ClockState& clock = saved.Clock;
-    for (const std::string& name : options.PlayerNames) {
-        const std::string cut = name.substr(0, MaxSavedName);
-        write(static_cast<int32_t>(cut.size()));
-        for (char character : cut) write(static_cast<double>(static_cast<uint8_t>(character)));
+    std::array<std::string, 2> names = options.PlayerNames;
+    for (std::string& name : names) {
+        name.resize(std::min(name.size(), size_t{MaxSavedName}));
+        write(static_cast<int32_t>(name.size()));
+        for (char character : name) write(static_cast<double>(static_cast<uint8_t>(character)));
     }
     for (int32_t seconds : clock.Control.PeriodLimit) write(seconds / 60.0);
     for (int32_t seconds : clock.Control.SecondPeriodTime) write(seconds / 60.0);
@@ -105,6 +109,7 @@ std::string EncodeClockRecord(const ClockRecord& saved) {
     write(clock.GameStarted);
     for (bool armed : clock.SecondPeriodArmed) write(armed);
     write(saved.ScorletLoaded);
+    WriteFullNames(names, options.FullNames, record);
     return EncodeRecord(record);
 }
 
@@ -115,6 +120,7 @@ std::optional<GameFileError> DecodeClockRecord(std::span<const uint8_t> bytes, c
     ClockRecord read{present, {}, White, false};
     try {
         ReadFields(slots, read);
+        read.Options.FullNames = ReadFullNames(read.Options.PlayerNames, record);
     } catch (const BadSlot& bad) {
         return GameFileError{ClockFile, bad.Error.What, bad.Error.Slot};
     } catch (const GameFileError& error) {

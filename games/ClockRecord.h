@@ -8,7 +8,7 @@
 
 // How a saved game's clock lies in its record. Everything after the names moves with their lengths.
 
-// Longer names are cut when they are written.
+// Longer names are cut when they are written; the full ones are not.
 inline constexpr int32_t MaxSavedName = 128;
 
 // A clock as it stood, with what the players had set.
@@ -19,7 +19,8 @@ struct ClockRecord {
     bool ScorletLoaded = false;  // the game has its other files
 };
 
-// The bytes of the record. The time control is taken from Clock.
+// The bytes of the record. The time control is taken from Clock. Throws RunTimeError(Fault::OutOfRange) when a full
+// name is longer than MaxFullName.
 std::string EncodeClockRecord(const ClockRecord& saved);
 
 // Reads the record at the start of the bytes; what follows it is ignored. What the record does not hold, the

@@ -69,8 +69,11 @@ class Lines {
             text += fits ? ' ' : '\n';
             column = fits ? column + 1 : 0;
         }
-        for (; word.size() > LongestLine; word.remove_prefix(LongestLine)) {
-            text += word.substr(0, LongestLine);
+        for (size_t length; word.size() > LongestLine; word.remove_prefix(length)) {
+            length = LongestLine;
+            // Not within a character.
+            while (length > LongestLine - 3 && (word[length] & 0xC0) == 0x80) --length;
+            text += word.substr(0, length);
             text += '\n';
         }
         text += word;

@@ -28,7 +28,6 @@ std::string_view ResultOf(const LegalPosition& position);
 
 // The game with its tag pairs and result, in lines of less than 80 characters that end in LF. Moves that are not beyond
 // doubt follow the others as a comment, as they are written; where there are several ways, the other one is a comment
-// after "?". A mate or stalemate makes the result where none is declared ("*"). Texts are in the code page in which the
-// names and entries are.
+// after "?". A mate or stalemate makes the result where none is declared ("*"). The names and entries are in UTF-8.
 std::string ExportGame(const ExportHead& head, const GameReading& game, std::string_view declared,
                        const ShownTimes& shown = {});

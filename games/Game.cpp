@@ -164,9 +164,7 @@ void Game::Redo() {
     Changed();
 }
 
-GameFiles Game::Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const {
-    Settings shown = settings;
-    shown.PlayerNames = names;
+GameFiles Game::Encode(const Settings& shown, const CalendarDate& today) const {
     const modClock::ClockState& state = clock.Clock().State();
     std::optional<Recorder> filled = record;
     if (filled) filled->TopUpMoveLists(state.MoveCount);

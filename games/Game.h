@@ -90,6 +90,7 @@ class Game final : public ScorletGame {
     Recorder& OpenRecord(RecordView& view) override;
     void CloseRecord() override;
     std::string PlayerName(Side side) const override { return settings.PlayerNames[side]; }
+    std::wstring FullName(Side side) const override { return settings.FullNames[side]; }
     bool BoardTurned() const override { return settings.BoardTurned; }
     void RecordEdited() override;
     void TakeBack() override;
@@ -111,8 +112,8 @@ class Game final : public ScorletGame {
     void SavedAs(const std::wstring& newName);
 
     // The files of the game as it is, with its lists filled up to the clock's counts; the record itself stays as it is.
-    // `names` are those that the clock shows, in the ANSI code page.
-    GameFiles Encode(const std::array<std::string, 2>& names, const CalendarDate& today) const;
+    // `shown` are the options with the names that the files get.
+    GameFiles Encode(const Settings& shown, const CalendarDate& today) const;
     // Takes the place of what was, the settings included. Where it has a record the Scorlet must be open.
     void TakeLoadedGame(const SavedGame& saved, const std::wstring& itsName = {});
 

@@ -98,7 +98,7 @@ std::wstring frmFiles::NameToPropose() const {
     if (!game.Name().empty()) return game.Name();
     std::array<std::wstring, 2> players, sides;
     for (const Side side : BothSides) {
-        players[side] = FromAnsi(KnownName(game.Options(), captions, side));
+        players[side] = KnownName(game.Options(), captions, side);
         sides[side] = captions.SideName(side);
     }
     return ProposedName(players, sides, Today(), [this](const std::wstring& name) { return store.Exists(name); });
@@ -273,9 +273,9 @@ void frmFiles::OnSave(const std::wstring& name) {
                                : Ask(texts(TextId::SaveAs) + name);
     if (!wanted) return;
     try {
-        std::array<std::string, 2> names;
-        for (Side side : BothSides) names[side] = ToAnsi(ShownName(game.Options(), texts, side));
-        const GameFiles files = game.Encode(names, Today());
+        Settings shown = game.Options();
+        for (Side side : BothSides) SetName(shown, side, ShownName(shown, texts, side));
+        const GameFiles files = game.Encode(shown, Today());
         if (const auto fault = FaultOf(files)) {
             const std::wstring reason = texts.Reason(fault->What, fault->Place, fault->Column);
             return Tell(texts.Compose(TextId::GameNotSaved, store.PathOf(name, fault->File), reason));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,11 +7,8 @@
 // from one to the other.
 std::wstring FromAnsi(std::string_view text);
 
-// A character that the code page lacks becomes the code page's replacement character.
+// Of a character that the code page lacks the nearest letters, "S" of a letter S with a cedilla; "?" if there are none.
 std::string ToAnsi(std::wstring_view text);
-
-// No value if the code page cannot give every character back.
-std::optional<std::string> ToAnsiExactly(std::wstring_view text);
 
 // For the files that other programs read too, which are in UTF-8.
 std::string ToUtf8(std::wstring_view text);

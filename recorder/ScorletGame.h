@@ -35,6 +35,8 @@ class ScorletGame {
     virtual void CloseRecord() = 0;
     // In the ANSI code page; empty where the player has none.
     virtual std::string PlayerName(Side side) const = 0;
+    // In UTF-16, where the code page lacks letters of the name; otherwise empty.
+    virtual std::wstring FullName(Side side) const = 0;
     virtual bool BoardTurned() const = 0;  // Black's side is below
 
     virtual void RecordEdited() = 0;  // the window has changed the record, and does not show it yet

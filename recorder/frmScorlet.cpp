@@ -47,7 +47,8 @@ std::wstring frmScorlet::Open(const Box& place) {
 
 void frmScorlet::ShowNames() {
     for (Side side : BothSides) {
-        const std::wstring name = FromAnsi(game.PlayerName(side));
+        std::wstring name = game.FullName(side);
+        if (name.empty()) name = FromAnsi(game.PlayerName(side));
         SetText(ControlOf(lblPlayer, side), name.empty() ? captions.SideName(side) : name);
     }
 }

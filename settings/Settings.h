@@ -13,6 +13,7 @@
 // The clock's configuration as every window reads it. Times are in seconds.
 struct Settings {
     std::array<std::string, 2> PlayerNames;  // in the ANSI code page; if empty, the side's caption is shown
+    std::array<std::wstring, 2> FullNames;   // in UTF-16, where the code page lacks letters; otherwise empty
     TimeControl Control;                     // its SecondPeriodEnabled follows from ClockType, see SetClockType
     bool TurnClock = false;
     bool ShowMoveNumber = false;

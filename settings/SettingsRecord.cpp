@@ -1,7 +1,9 @@
 #include "settings/SettingsRecord.h"
 
 #include "base/RunTimeError.h"
+#include "settings/FullNames.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -45,11 +47,13 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
         settings.PlayerNames[White] = reader.NextName(MaxNameCharacters);
         const int32_t left = MaxNameCharacters - static_cast<int32_t>(settings.PlayerNames[White].size());
         settings.PlayerNames[Black] = reader.NextName(left);
+        settings.FullNames = {};
         DecodeOptions(reader, settings, 60);
         reader.At(LanguageSlot);
         settings.WritePgn = reader.At(PgnSlot) != 0;
         settings.BoardTurned = reader.At(BoardSlot) != 0;
         settings.LowTime = reader.At(LowTimeSlot);
+        settings.FullNames = ReadFullNames(settings.PlayerNames, record);
     } catch (const BadSlot& bad) {
         return bad.Error;
     }
@@ -61,9 +65,17 @@ void WriteBoardTurned(bool turned, SlotRecord& record) {
     record[BoardSlot] = turned ? SlotValue(int32_t{1}) : SlotValue();
 }
 
+bool NamesFit(const Settings& settings) {
+    const auto clean = [](const auto& name) {
+        return std::ranges::none_of(name, [](auto character) { return IsControlCharacter(character); });
+    };
+    const auto fits = [&](const std::wstring& name) { return name.size() <= MaxFullName && clean(name); };
+    return settings.PlayerNames[White].size() + settings.PlayerNames[Black].size() <= MaxNameCharacters &&
+           std::ranges::all_of(settings.PlayerNames, clean) && std::ranges::all_of(settings.FullNames, fits);
+}
+
 SlotRecord EncodeSettings(const Settings& settings) {
-    if (settings.PlayerNames[White].size() + settings.PlayerNames[Black].size() > MaxNameCharacters)
-        throw RunTimeError(Fault::OutOfRange);
+    if (!NamesFit(settings)) throw RunTimeError(Fault::OutOfRange);
 
     SlotRecord record;
     size_t next = 0;
@@ -87,5 +99,6 @@ SlotRecord EncodeSettings(const Settings& settings) {
     if (settings.WritePgn) record[PgnSlot] = int32_t{1};
     WriteBoardTurned(settings.BoardTurned, record);
     if (settings.LowTime > 0) record[LowTimeSlot] = settings.LowTime;
+    WriteFullNames(settings.PlayerNames, settings.FullNames, record);
     return record;
 }

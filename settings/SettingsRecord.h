@@ -4,8 +4,8 @@
 #include "settings/SlotReader.h"
 
 // The places of the settings in their record. The names are written character by character, so the slot of every later
-// field depends on their lengths; but the language is always in slot 300, the PGN option in slot 301 and the turned
-// board in slot 302.
+// field depends on their lengths; but the language is always in slot 300, the PGN option in slot 301, the turned board
+// in slot 302, the low time in slot 303, and the full names are in slots 310 and up.
 
 // More characters than this in the two names together would push the fields into the language's slot.
 inline constexpr int32_t MaxNameCharacters = 284;
@@ -28,6 +28,9 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
 // Writes down whether the board is turned. The slot of a board that is not stays empty.
 void WriteBoardTurned(bool turned, SlotRecord& record);
 
-// The record of all settings; times in whole minutes. Throws RunTimeError(Fault::OutOfRange) when the two names
-// together are longer than MaxNameCharacters.
+// Whether a record can hold the names: both together, and each full one, are not too long, and none has a control
+// character.
+bool NamesFit(const Settings& settings);
+
+// The record of all settings; times in whole minutes. Throws RunTimeError(Fault::OutOfRange) when the names do not fit.
 SlotRecord EncodeSettings(const Settings& settings);

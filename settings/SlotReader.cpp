@@ -49,14 +49,19 @@ int32_t SlotReader::NextMinutes(int32_t leastSeconds, int32_t step) {
     return seconds;
 }
 
-std::string SlotReader::NextName(int32_t longest) {
+template <typename Text>
+Text SlotReader::NextText(int32_t longest, int32_t greatest) {
     const int32_t length = Next(0, longest);
-    std::string name;
+    Text text;
     for (int32_t i = 0; i < length; ++i) {
-        name.push_back(static_cast<char>(Next(0, 255)));
-        if (IsControlCharacter(name.back())) Fail(Damage::OutOfRange, Last());
+        text.push_back(static_cast<typename Text::value_type>(Next(0, greatest)));
+        if (IsControlCharacter(text.back())) Fail(Damage::OutOfRange, Last());
     }
-    return name;
+    return text;
 }
+
+std::string SlotReader::NextName(int32_t longest) { return NextText<std::string>(longest, 0xFF); }
+
+std::wstring SlotReader::NextWideName(int32_t longest) { return NextText<std::wstring>(longest, 0xFFFF); }
 
 bool SlotReader::NextIsEmpty() const { return std::holds_alternative<std::monostate>(Value(next)); }

@@ -7,6 +7,7 @@
 
 // No name holds these: a window would end at a NUL, and a text file's head at a line end.
 constexpr bool IsControlCharacter(char character) { return (character >= 0 && character < ' ') || character == 127; }
+constexpr bool IsControlCharacter(wchar_t character) { return character < L' ' || character == 127; }
 
 // Thrown by a SlotReader at the first bad slot; it goes no further than the decoder that uses the reader.
 struct BadSlot {
@@ -34,6 +35,8 @@ class SlotReader {
 
     // A length and that many character codes of 8 bits, none of them that of a control character.
     std::string NextName(int32_t longest);
+    // Likewise of 16 bits.
+    std::wstring NextWideName(int32_t longest);
 
     // Check boxes are stored as 0 and 1, or as booleans 0 and -1.
     bool NextCheck() { return Next() != 0; }
@@ -46,6 +49,9 @@ class SlotReader {
 
   private:
     const SlotValue& Value(int32_t slot) const;
+
+    template <typename Text>
+    Text NextText(int32_t longest, int32_t greatest);
 
     const DecodedRecord& record;
     int32_t next = 0;

@@ -6,6 +6,7 @@
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
 #include "settings/SetupItems.h"
+#include "settings/ShownName.h"
 #include "settings/frmKeepAs.h"
 
 #include <commctrl.h>
@@ -68,7 +69,7 @@ void frmSetup::Open(HWND owner) {
     FillLists();
     SetToolTips();
     ShowDraft();
-    for (Side side : BothSides) SetText(ControlOf(txtName, side), FromAnsi(draft.PlayerNames[side]));
+    for (Side side : BothSides) SetText(ControlOf(txtName, side), NameOf(draft, side));
 }
 
 void frmSetup::FillLists() {
@@ -345,15 +346,13 @@ LRESULT CALLBACK frmSetup::ListProcedure(HWND list, UINT message, WPARAM wParam,
 
 // A change that the settings file could not hold is undone.
 std::wstring frmSetup::TakeName(Side side, const std::wstring& text) {
-    std::string& name = draft.PlayerNames[side];
-    const auto typed = ToAnsiExactly(text);
-    const size_t other = draft.PlayerNames[Other(side)].size();
-    const bool clean = typed && std::none_of(typed->begin(), typed->end(), IsControlCharacter);
-    if (clean && typed->size() + other <= static_cast<size_t>(MaxNameCharacters))
-        name = *typed;
+    Settings changed = draft;
+    SetName(changed, side, text);
+    if (NamesFit(changed))
+        draft = changed;
     else
         MessageBeep(MB_OK);
-    return FromAnsi(name);
+    return NameOf(draft, side);
 }
 
 void frmSetup::OnScroll(int bar, int request) {

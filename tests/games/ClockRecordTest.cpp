@@ -65,12 +65,16 @@ TEST(ClockRecordTest, EverythingComesBackButTheLanguage) {
 
     ClockRecord saved = UnderWay();
     saved.Options.PlayerNames = {std::string(200, 'a'), std::string(128, 'b')};
+    saved.Options.FullNames = {L"", std::wstring(200, L'\u015E')};
     for (int32_t seconds = 60; seconds < 20000; seconds += 61) {
         saved.Clock.Control.PeriodLimit.fill(seconds);
         ASSERT_FALSE(DecodeClockRecord(Bytes(EncodeClockRecord(saved)), present, read));
         ASSERT_EQ(read.Clock.Control.PeriodLimit[Black], seconds) << "whatever the minutes are as a fraction";
     }
     EXPECT_EQ(read.Options.PlayerNames, (std::array{std::string(128, 'a'), std::string(128, 'b')})) << "cut";
+    EXPECT_EQ(read.Options.FullNames, saved.Options.FullNames) << "whole";
+    ASSERT_FALSE(DecodeClockRecord(Bytes(bytes), read.Options, read));
+    EXPECT_EQ(read.Options.FullNames[Black], L"") << "another game's";
 
     EXPECT_EQ(DecodeClockRecord(Bytes(bytes).first(bytes.size() - 1), present, read),
               (GameFileError{ClockFile, Damage::ShortFile, 999}));

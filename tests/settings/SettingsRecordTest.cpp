@@ -23,6 +23,22 @@ std::string Read(const std::string& changes) {
     return text;
 }
 
+Settings Named() {
+    Settings settings = Unusual();
+    settings.FullNames = {L"\u015En\xFFFF", L"\u00FC"};
+    return settings;
+}
+
+// Which full names are read of a record with some changes, or the damage.
+std::string NamesRead(const std::string& changes) {
+    Settings read;
+    read.FullNames[White] = L"earlier";
+    const auto error = DecodeSettings({Changed(EncodeSettings(Named()), changes, 6), {}}, read);
+    if (error) return DamageText(error->What, error->Slot);
+    if (read.FullNames == Named().FullNames) return "both";
+    return read.FullNames == Settings().FullNames ? "none" : "other";
+}
+
 }  // namespace
 
 TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
@@ -45,7 +61,26 @@ TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
                       "0=3 1=65 2=110 3=110 4=1 5=66 6=1 7=180 8=0 9=10 10=3599 11=7 12=0 13=1 14=0 15=2 16=0 "
                       "17=0 18=4 19=5 300=3 301=1",
                       0));
-    for (const size_t slot : {301, 302, 303}) EXPECT_EQ(EncodeSettings(Settings())[slot], SlotValue()) << slot;
+    for (const size_t slot : {301, 302, 303, 310, 311, 312})
+        EXPECT_EQ(EncodeSettings(Settings())[slot], SlotValue()) << slot;
+}
+
+TEST(SettingsRecordTest, FullNames) {
+    EXPECT_EQ(EncodeSettings(Named()),
+              Changed(EncodeSettings(Unusual()), "310=198564003 311=3 312=350 313=110 314=65535 315=1 316=252", 0));
+    ExpectRows(NamesRead, R"(
+        => both | 310=- => none | 1=66 => none | 5=65 => none | 313=32 => other | first0=2 => both
+        310=nan => OutOfRange 310 | 311=-1 => OutOfRange 311 | 311=285 => OutOfRange 311 | 312=31 => OutOfRange 312
+        312=127 => OutOfRange 312 | 312=65536 => OutOfRange 312 | 314=- => OutOfRange 314 | 315=2 => OutOfRange 317
+    )");
+    Settings settings = Named();
+    settings.FullNames.fill(std::wstring(284, L'\u015E'));
+    EXPECT_FALSE(DecodeSettings({EncodeSettings(settings), {}}, settings));
+    EXPECT_EQ(settings.FullNames[Black].size(), 284);
+    settings.FullNames[White] += L'a';
+    EXPECT_THROW(EncodeSettings(settings), RunTimeError);
+    settings.FullNames[White] = L"a\n";
+    EXPECT_FALSE(NamesFit(settings));
 }
 
 TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
@@ -57,6 +92,8 @@ TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
     EXPECT_EQ(SettingsText(read), SettingsText(settings));
     settings.PlayerNames[Black] += 'b';
     EXPECT_THROW(EncodeSettings(settings), RunTimeError);
+    settings.PlayerNames[Black] = '\x7F';
+    EXPECT_FALSE(NamesFit(settings));
     EXPECT_THROW(settings.SetButtonSound(5), RunTimeError);
     EXPECT_THROW(settings.SetFlagSound(-1), RunTimeError);
 }
