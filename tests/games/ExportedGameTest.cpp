@@ -64,4 +64,11 @@ TEST(ExportedGameTest, Moves) {
         Rooks on one file and one rank.
         a2a4 h7h6 h2h4 g7g6 a1a3 b7b6 h1h3 c7c6 h3d3 d7d6 a3b3 a7a5 => 1. a4 h6 2. h4 g6 3. Ra3 b6 4. Rhh3 c6 5. Rhd3 d6 6. Rab3 a5 */
     )");
+    // A word that is longer than a line ends it between two characters.
+    const auto letters = [](int count) {
+        std::string text;
+        while (count-- > 0) text += "\u00FC";
+        return text;
+    };
+    EXPECT_EQ(Movetext("e2e4 W0=" + letters(45)), "{1./" + letters(39) + "/" + letters(6) + "} */");
 }
