@@ -181,7 +181,7 @@ void frmFiles::ShowSummary(const ListedGame& picked) {
                 captions.Compose(TextId::SummaryOfDamaged, FromAnsi(ExtensionOf(error->File)), reason));
         }
     } catch (const SystemError& error) {
-        const std::wstring path = error.Thing();
+        const std::wstring& path = error.Thing();
         const std::wstring ending = path.substr(std::min(path.rfind(L'.'), path.size()));
         return summary.ShowNote(captions.Compose(TextId::SummaryOfUnreadable, ending, captions.Reason(error.Code())));
     }
