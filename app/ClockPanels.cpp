@@ -249,7 +249,7 @@ std::wstring ClockPanels::SpokenName(int id) const {
         case lblFace: {
             const modClock::ClockState& state = commands.Clock().State();
             const int32_t minutes = state.TimeHours[side] * 60 + state.TimeMinutes[side];
-            const std::wstring time = of(texts.Duration(minutes * 60 + state.TimeSeconds[side]));
+            std::wstring time = of(texts.Duration(minutes * 60 + state.TimeSeconds[side]));
             if (fallen) return time + L", " + texts(TextId::FlagFallen);
             switch (commands.MarkOf(side)) {
                 case FaceMark::PeriodBegan: return time + L", " + texts(TextId::SecondStageBegins);

@@ -24,7 +24,7 @@ constexpr int WarmUpCycles = 2, LeastCycles = 5, HelpEvery = 20;
 constexpr size_t LateObjects = 3;
 // How the heap lies is not the same twice; and Wine keeps 24 bytes of every static control that was given a font, some
 // 250 of them in a cycle.
-constexpr size_t HeapSlack = 256 << 10, KeptByWine = 16 << 10;
+constexpr size_t HeapSlack = 1 << 20, KeptByWine = 16 << 10;
 
 // Structures and classes of the native system calls that no header of the compiler has.
 struct SystemHandle {
