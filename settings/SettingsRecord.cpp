@@ -52,7 +52,7 @@ std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings&
         reader.At(LanguageSlot);
         settings.WritePgn = reader.At(PgnSlot) != 0;
         settings.BoardTurned = reader.At(BoardSlot) != 0;
-        settings.LowTime = reader.At(LowTimeSlot);
+        settings.LowTime = reader.At(LowTimeSlot, 0);
         settings.FullNames = ReadFullNames(settings.PlayerNames, record);
     } catch (const BadSlot& bad) {
         return bad.Error;

@@ -36,9 +36,9 @@ const SlotValue& SlotReader::Value(int32_t slot) const {
 
 int32_t SlotReader::At(int32_t slot) const { return Rounded(Real(Value(slot)), slot); }
 
-int32_t SlotReader::Next(int32_t least, int32_t most) {
-    const int32_t value = Next();
-    if (value < least || value > most) Fail(Damage::OutOfRange, Last());
+int32_t SlotReader::At(int32_t slot, int32_t least, int32_t most) const {
+    const int32_t value = At(slot);
+    if (value < least || value > most) Fail(Damage::OutOfRange, slot);
     return value;
 }
 

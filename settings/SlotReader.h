@@ -26,9 +26,10 @@ class SlotReader {
     explicit SlotReader(const DecodedRecord& record) : record(record) {}
 
     int32_t At(int32_t slot) const;
+    int32_t At(int32_t slot, int32_t least, int32_t most = std::numeric_limits<int32_t>::max()) const;
 
     int32_t Next() { return At(next++); }
-    int32_t Next(int32_t least, int32_t most = std::numeric_limits<int32_t>::max());
+    int32_t Next(int32_t least, int32_t most = std::numeric_limits<int32_t>::max()) { return At(next++, least, most); }
 
     // Minutes, possibly with a fraction, as seconds, rounded to the nearest; they must be a multiple of `step`.
     int32_t NextMinutes(int32_t leastSeconds, int32_t step);

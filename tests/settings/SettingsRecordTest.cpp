@@ -54,7 +54,8 @@ TEST(SettingsRecordTest, SlotsAreTakenUpToTheFirstBadOne) {
         bonus1=nan => OutOfRange 11 3599,0 | moves=-1 => OutOfRange 17 2:40 | moves=2147483646 => OutOfRange 17 2:40
         button=5 => OutOfRange 18 BUTTONPUSHED | button=-1 => OutOfRange 18 BUTTONPUSHED | 300=nan => OutOfRange 300 2
         flag=6 => OutOfRange 19 PIECEMOVED | 300=inf => Overflow 300 2 | 300=99999999999. => Overflow 300 2
-        301=99999999999. => Overflow 301 | 302=99999999999. => Overflow 302 | 303=99999999999. => Overflow 303 | cut 18 => ShortFile 18 BUTTONPUSHED | cut 900 => ShortFile 900
+        301=99999999999. => Overflow 301 | 302=99999999999. => Overflow 302 | 303=99999999999. => Overflow 303
+        303=-1 => OutOfRange 303 | cut 18 => ShortFile 18 BUTTONPUSHED | cut 900 => ShortFile 900
     )");
     EXPECT_EQ(EncodeSettings(Unusual()),
               Changed({},
