@@ -3,6 +3,8 @@
 #include <utility>
 
 void ClockScorlet::Show() {
+    // Its own word that it is gone may still be on its way.
+    Forget();
     if (scorlet) {
         if (IsIconic(scorlet->Window())) ShowWindow(scorlet->Window(), SW_RESTORE);
         SetForegroundWindow(scorlet->Window());
@@ -13,6 +15,7 @@ void ClockScorlet::Show() {
 }
 
 std::wstring ClockScorlet::Open() {
+    Forget();
     if (scorlet) return {};
     const Box place = placer.MakeRoom(clock.Window());
     auto opened = std::make_unique<frmScorlet>(around, game, clock.Window());

@@ -1,6 +1,9 @@
 #include "app/FullScreen.h"
 
-void FullScreen::Begin(HWND window) {
+#include <utility>
+
+void FullScreen::Begin() {
+    const HWND window = form.Window();
     before.length = sizeof(before);
     GetWindowPlacement(window, &before);
     menu = GetMenu(window);
@@ -8,32 +11,39 @@ void FullScreen::Begin(HWND window) {
     on = true;
     SetMenu(window, nullptr);
     SetWindowLongPtrW(window, GWL_STYLE, style & ~LONG_PTR{WS_OVERLAPPEDWINDOW | WS_MAXIMIZE});
-    Fill(window);
+    Fill();
 }
 
-void FullScreen::End(HWND window) {
+bool FullScreen::End() {
+    const HWND window = form.Window();
     on = false;
     SetWindowLongPtrW(window, GWL_STYLE, style);
     SetMenu(window, menu);
     SetWindowPlacement(window, &before);
     SetWindowPos(window, nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOOWNERZORDER | SWP_FRAMECHANGED);
+    return std::exchange(screenChanged, false);
 }
 
-void FullScreen::Fill(HWND window) const {
+void FullScreen::OnScreenChanged() {
+    screenChanged = true;
+    Fill();
+}
+
+void FullScreen::Fill() const {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    GetMonitorInfoW(MonitorFromWindow(form.Window(), MONITOR_DEFAULTTONEAREST), &monitor);
     const RECT& screen = monitor.rcMonitor;
-    SetWindowPos(window, HWND_TOP, screen.left, screen.top, screen.right - screen.left, screen.bottom - screen.top,
-                 SWP_NOOWNERZORDER | SWP_FRAMECHANGED);
+    SetWindowPos(form.Window(), HWND_TOP, screen.left, screen.top, screen.right - screen.left,
+                 screen.bottom - screen.top, SWP_NOOWNERZORDER | SWP_FRAMECHANGED);
 }
 
-void FullScreen::ShowMenu(HWND window, bool shown) const {
-    if (on && shown != (GetMenu(window) != nullptr)) SetMenu(window, shown ? menu : nullptr);
+void FullScreen::ShowMenu(bool shown) const {
+    if (on && shown != (GetMenu(form.Window()) != nullptr)) SetMenu(form.Window(), shown ? menu : nullptr);
 }
 
-void FullScreen::OnMouseMove(HWND window, int y) const {
+void FullScreen::OnMouseMove(int y) const {
     // Below the menu the pointer is in the client area again.
-    if (on) ShowMenu(window, y <= 0 && !GetMenu(window));
+    if (on) ShowMenu(y <= 0 && !GetMenu(form.Window()));
 }

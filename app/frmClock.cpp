@@ -7,7 +7,6 @@
 #include "platform/Ansi.h"
 #include "platform/Dpi.h"
 #include "platform/SystemError.h"
-#include "platform/modSound.h"
 #include "resources/resource.h"
 #include "settings/frmAbout.h"
 #include "settings/frmSetup.h"
@@ -221,17 +220,7 @@ void frmClock::Tick() {
 
 void frmClock::PlaySound(ClockSound sound) {
     if (sound == ClockSound::Flag && GetForegroundWindow() != Window()) ClockTitle::Flash(Window());
-    switch (sound) {
-        case ClockSound::Button: return modSound::Play(settings.ButtonSoundName);
-        case ClockSound::Flag: return modSound::Play(settings.FlagSoundName);
-        case ClockSound::PeriodBegan: return PlayNotice("PERIODBEGINS");
-        case ClockSound::TimeLow: return PlayNotice("TIMELOW");
-    }
-}
-
-// Beside the clock, which goes on. Players who have chosen silence for the flag want none of these either.
-void frmClock::PlayNotice(const char* name) const {
-    if (settings.FlagSoundIndex != 0) modSound::PlayBeside(name);
+    PlaySoundOf(sound, settings);
 }
 
 void frmClock::Inform(ClockEvent event) { messageBoxes.Inform(Window(), NoticeOf(event, texts)); }
@@ -283,12 +272,12 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             title.Show(Window());
             panels.TakeSize();
             return 0;
-        case WM_MOUSEMOVE: fullScreen.OnMouseMove(Window(), GET_Y_LPARAM(lParam)); return 0;
+        case WM_MOUSEMOVE: fullScreen.OnMouseMove(GET_Y_LPARAM(lParam)); return 0;
         case WM_SYSCOMMAND:
             if ((wParam & 0xFFF0) != SC_KEYMENU) break;
-            fullScreen.ShowMenu(Window(), true);
+            fullScreen.ShowMenu(true);
             Form::Handle(message, wParam, lParam);
-            fullScreen.ShowMenu(Window(), false);
+            fullScreen.ShowMenu(false);
             return 0;
         case WM_DISPLAYCHANGE: PostMessageW(Window(), WM_SCREENCHANGED, 0, 0); break;
         case WM_SETTINGCHANGE:
@@ -423,22 +412,17 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
 
 void frmClock::ToggleFullScreen() {
     if (fullScreen.On()) return LeaveFullScreen();
-    fullScreen.Begin(Window());
+    fullScreen.Begin();
     SetForegroundWindow(Window());
 }
 
 void frmClock::LeaveFullScreen() {
-    if (!fullScreen.On()) return;
-    fullScreen.End(Window());
-    if (std::exchange(screenChanged, false)) WindowPlacer::OnScreenChanged(Window(), scorlet.Window());
+    if (fullScreen.On() && fullScreen.End()) OnScreenChanged();
 }
 
 void frmClock::OnScreenChanged() {
-    screenChanged = fullScreen.On();
-    if (fullScreen.On())
-        fullScreen.Fill(Window());
-    else
-        WindowPlacer::OnScreenChanged(Window(), scorlet.Window());
+    if (fullScreen.On()) return fullScreen.OnScreenChanged();
+    WindowPlacer::OnScreenChanged(Window(), scorlet.Window());
 }
 
 void frmClock::OnTimer(UINT_PTR id) {

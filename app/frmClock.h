@@ -47,7 +47,6 @@ class frmClock : public Form, private ClockView {
     void LosingGame() override { kept.PutAside(); }
 
     void LoadPictures();
-    void PlayNotice(const char* name) const;
     void ShowSetup();
     void ShowAbout();
     void ShowCorrection();
@@ -89,8 +88,7 @@ class frmClock : public Form, private ClockView {
     const KeptGames::Take bringBack;  // a game that was kept takes the place of the present one
     bool toKeep = false;              // WM_KEEPGAME is on its way
     HMENU menu = nullptr;             // the window's own, shown or not
-    FullScreen fullScreen;
-    bool screenChanged = false;  // while it was full: the windows are to be looked after
+    FullScreen fullScreen{*this};
     Wakefulness wakefulness;
     UniqueAccelerators accelerators;
     std::vector<std::wstring> problems;  // of the opening or a reset, to be told

@@ -7,7 +7,10 @@
 #include "platform/SpokenControl.h"
 #include "platform/SystemError.h"
 
+#include <commctrl.h>
+
 #include <optional>
+#include <string_view>
 
 RECT WorkArea(HWND window) {
     MONITORINFO monitor{};
@@ -95,8 +98,9 @@ void Form::ShowError(const std::exception& error) const {
 }
 
 HWND Form::AddControl(const wchar_t* kind, int id, DWORD style) {
+    // A static looks the same in both versions, and the Scorlet has a hundred of them.
     std::optional<CommonControls> controlsOfDialogs;
-    if (!HasPlainControls()) controlsOfDialogs.emplace();
+    if (!HasPlainControls() && std::wstring_view(kind) != WC_STATICW) controlsOfDialogs.emplace();
     const HWND control =
         CreateWindowExW(0, kind, L"", WS_CHILD | style, 0, 0, 0, 0, window,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);

@@ -25,6 +25,8 @@ INPUT MouseAt(POINT place, DWORD flags) {
     return input;
 }
 
+size_t namesAsked = 0;
+
 }  // namespace
 
 RECT AreaOf(HWND window) {
@@ -118,6 +120,7 @@ std::wstring TextOf(HWND window) {
 }
 
 std::wstring SpokenName(HWND control, LONG part) {
+    ++namesAsked;
     // For what comes from another process.
     static const HRESULT library = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     void* pointer = nullptr;
@@ -134,6 +137,8 @@ std::wstring SpokenName(HWND control, LONG part) {
     SysFreeString(name);
     return text;
 }
+
+size_t SpokenNamesAsked() { return namesAsked; }
 
 std::string Utf8(const std::wstring& text) {
     const std::u8string bytes = std::filesystem::path(text).u8string();

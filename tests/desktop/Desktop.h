@@ -26,6 +26,7 @@ DWORD ProcessOf(HWND window);
 bool IsKind(HWND window, const wchar_t* className);
 std::wstring TextOf(HWND window);
 std::wstring SpokenName(HWND control, LONG part = CHILDID_SELF);
+size_t SpokenNamesAsked();
 
 std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);

@@ -135,6 +135,16 @@ void Await(const std::function<std::string()>& got, const std::string& wanted) {
     if (!Eventually([&] { return Matches(last = got(), wanted); })) Fail("got  " + last + "\nwant " + wanted);
 }
 
+void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds) {
+    if (!Eventually(condition, milliseconds)) Fail(otherwise);
+}
+
+DWORD ExitCodeOf(HANDLE process) {
+    DWORD code = 0;
+    GetExitCodeProcess(process, &code);
+    return code;
+}
+
 std::string Words::Take() {
     if (!More()) Fail("too few words");
     std::array<wchar_t, 1 << 12> expanded{};

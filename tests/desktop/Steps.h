@@ -22,9 +22,9 @@ class Words {
 };
 
 // Plays steps with the real program in a folder of its own. Steps are parted by " / "; each is a word with what it
-// takes, and what one of them looks for it waits for. StepWords.cpp has the words; a line "word = steps" in a file of
-// steps adds one, whose parts are $1, $2 and so on. A text that is looked for may hold * for any text; %FOLDER% in it
-// is the program's folder.
+// takes, and what one of them looks for it waits for. StepLooks.cpp, StepInput.cpp and StepFaults.cpp have the words; a
+// line "word = steps" in a file of steps adds one, whose parts are $1, $2 and so on. A text that is looked for may hold
+// * for any text; %FOLDER% in it is the program's folder.
 class Steps {
   public:
     Steps();
@@ -77,6 +77,9 @@ int IdOf(const std::string& name);
 
 // Waits until a text comes to be the one that is wanted, in which * stands for any text.
 void Await(const std::function<std::string()>& got, const std::string& wanted);
+void Until(const std::function<bool()>& condition, const std::string& otherwise, int milliseconds = Patience);
+
+DWORD ExitCodeOf(HANDLE process);
 
 // Makes a test of each scenario in the files of steps of a folder of tests: a line "# name", and lines of steps.
 void RegisterScenarios(const std::string& folder);
