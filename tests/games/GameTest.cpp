@@ -216,7 +216,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W W p => show all; - Rp 00:01:00 | W W p p => nothing; - Rp 00:01:00 | W W p B => nothing; - Rp 00:01:00
         W W pause timer=0 pause => not resumed; - Rp 00:01:00 | W W pause pauseB => show all; - CPTm 00:01:00
         W pauseB => nothing; CPTm - 00:01:00 | W pauseW => show all; Rp - 00:01:00
-        W pause timer=1 pause p => nothing; CPTm - 00:01:00 | p => nothing; CP CP S 00:01:00
+        W pause timer=1 pause p => nothing; CPTm - 00:01:00 | timer=2 W p => show all; Rp - 00:01:00 | p => nothing; CP CP S 00:01:00
         pauseB => how to begin; CP CP S 00:01:00
         A fallen flag writes the result.
         W 60s => show W all, gong; F - 00:00:00 | W W 60s => show B all, gong; - F 00:01:00
@@ -262,6 +262,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open e2e4 close back redo => nothing; CP CP S 00:01:00 | open load1,0 draw back draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2]
         Going on at the clock's move, where the record is behind.
         open W W B go e2e4 => nothing; CPTm - 00:01:00; 1. _|2. e4 / 1. _ | go => nothing; CP CP S 00:01:00
+        open e2e4 go => nothing; CP CP S 00:01:00; 1. e4 /
         open W W pause go => lists B0; - Rp 00:01:00; 1. _ / 1. _ | open W W B go back => lists W0; CPTm - 00:01:00; 1. _ /
         open W go => nothing; CPTm - 00:01:00; 1. _ / | open W e2e4 go => nothing; CPTm - 00:01:00; 1. e4 /
         open W W go 60s back go => nothing; - F 00:01:00; 1. _|[1-0] /
