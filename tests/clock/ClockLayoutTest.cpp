@@ -3,6 +3,8 @@
 #include "tests/base/Boxes.h"
 #include "tests/base/Rows.h"
 
+#include <cmath>
+
 namespace {
 
 // Where everything is in a window, White's panel before Black's, the heights of type and the radii of corners.
@@ -26,23 +28,25 @@ std::string Places(int width, int height) {
     return text;
 }
 
-// The rows of texts in a window, the heights of type, the face and the key with its hand.
+// The width of "00:00:00" in the bold type of the faces, for digits of height 1.
+constexpr double TextShape = 5.63;
+
+// The rows of texts in a window, the heights of type, the face, its digits and the key with its hand.
 std::string Measures(const std::string& window) {
     const std::vector<std::string> words = Words(window);
     const ClockLayout layout = LayOutClock(std::stoi(words.at(0)), std::stoi(words.at(1)));
     const PanelLayout& panel = layout.Panels[Black];
+    const DigitSize digits = FitDigits(panel.Face.Width, panel.Face.Height, TextShape);
     std::ostringstream text;
     text << (panel.Bonus.Bottom() - panel.MoveNumber.Top) / panel.Bonus.Height << " rows, " << layout.NameType << ' '
          << layout.BlinkType << ' ' << layout.ButtonType << ' ' << layout.PauseType << ' ' << layout.TextType
-         << ", face " << panel.Face.Top << ' ' << panel.Face.Width << 'x' << panel.Face.Height << ", key "
-         << panel.Key.Top << ' ' << panel.Key.Width << 'x' << panel.Key.Height << ' ' << panel.Hand.Width;
+         << ", face " << panel.Face.Top << ' ' << panel.Face.Width << 'x' << panel.Face.Height << " of "
+         << std::lround(digits.Width) << 'x' << std::lround(digits.Height) << ", key " << panel.Key.Top << ' '
+         << panel.Key.Width << 'x' << panel.Key.Height << ' ' << panel.Hand.Width;
     return text.str();
 }
 
 }  // namespace
-
-// The width of "00:00:00" in the bold type of the faces, for digits of height 1.
-constexpr double TextShape = 5.63;
 
 TEST(ClockLayoutTest, NothingOverlapsAndDigitsFillTheirFacesAtAnySize) {
     for (const auto& [width, height] : {std::pair{LeastWidth, LeastHeight},
@@ -90,14 +94,14 @@ TEST(ClockLayoutTest, IsLaidOutAsItWasDrawn) {
 TEST(ClockLayoutTest, WhatGrowsWithTheWindow) {
     ExpectRows(Measures, R"(
         A panel that is narrow for its height has a row more.
-        927 518 => 2 rows, 29 21 58 18 16, face 94 398x209, key 320 280x115 64
-        925 518 => 3 rows, 29 21 48 18 19, face 90 397x209, key 312 279x95 64
+        927 518 => 2 rows, 29 21 58 18 16, face 94 398x209 of 370x110, key 320 280x115 64
+        925 518 => 3 rows, 29 21 48 18 19, face 90 397x209 of 369x109, key 312 279x95 64
         Low, small, high and large.
-        780 372 => 2 rows, 25 18 31 15 13, face 73 335x169, key 250 237x61 54
-        300 372 => 2 rows, 13 11 16 11 11, face 223 268x70, key 297 192x31 31
-        300 900 => 3 rows, 19 14 68 12 13, face 516 268x141, key 680 186x136 43
-        480 372 => 3 rows, 15 11 57 9 10, face 60 205x108, key 187 142x113 33
-        900 1100 => 2 rows, 39 33 45 32 33, face 664 802x199, key 875 573x90 90
-        3840 2060 => 2 rows, 122 88 208 76 68, face 380 1656x872, key 1313 1165x416 265
+        780 372 => 2 rows, 25 18 31 15 13, face 73 335x169 of 312x92, key 250 237x61 54
+        300 372 => 2 rows, 13 11 16 11 11, face 223 268x70 of 249x45, key 297 192x31 31
+        300 900 => 3 rows, 19 14 68 12 13, face 516 268x141 of 249x74, key 680 186x136 43
+        480 372 => 3 rows, 15 11 57 9 10, face 60 205x108 of 191x56, key 187 142x113 33
+        900 1100 => 2 rows, 39 33 45 32 33, face 664 802x199 of 746x132, key 875 573x90 90
+        3840 2060 => 2 rows, 122 88 208 76 68, face 380 1656x872 of 1540x456, key 1313 1165x416 265
     )");
 }
