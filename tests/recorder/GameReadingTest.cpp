@@ -65,6 +65,7 @@ TEST(GameReadingTest, WhatIsNotUnderstoodAndWhatIsNotClear) {
         Nothing tells what the pawn has become.
         a2a4 b7b5 a4b5 a7a6 b5a6 h7h6 a6a7 h6h5 a7b8 => a4 b5 axb5 a6 bxa6 h6 a7 h5 but 8 axb8
         a2a4 b7b5 a4b5 a7a6 b5a6 h7h6 a6a7 h6h5 a7b8n W4=axb8 => a4 b5 axb5 a6 bxa6 h6 a7 h5 axb8=N
+        a2a4 b7b5 a4b5 a7a6 b5a6 h7h6 a6a7 h6h5 a7b8n W4=axb8N => a4 b5 axb5 a6 bxa6 h6 a7 h5 axb8=N
         Either knight can have gone first, and nothing tells which.
         e2e3 a7a6 b1c3 a6a5 c3e4 a5a4 e4g3 b7b6 g3e2 b6b5 e2d4 b5b4 g1e2 => e3 a6 Nc3 a5 Ne4 a4 Ng3 b6 N1e2 or N3e2 b5 Nd4 b4 Nge2
     )");
