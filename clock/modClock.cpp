@@ -107,7 +107,7 @@ PressOutcome Clock::PressClock(Side button) {
         counted == Black ? state.Control.MovesFirstPeriod : CheckedAdd(state.Control.MovesFirstPeriod, 1);
     const int32_t moves = CheckedAdd(state.MoveCount[counted], 1);
     const bool ticking = state.TimerHandle > 1;
-    const int32_t bonus = ticking && state.Control.MoveBonus[button] > 0 ? state.Control.MoveBonus[button] : 0;
+    const int32_t bonus = ticking ? state.Control.MoveBonus[button] : 0;
     const int32_t time = CheckedAdd(state.PlayerTime[button], bonus);
 
     const ClockState before = state;

@@ -1,5 +1,7 @@
 #include "fuzz/Fuzz.h"
+#include "games/ExportedGame.h"
 #include "games/GameCodec.h"
+#include "games/GameHead.h"
 
 #include <array>
 
@@ -43,15 +45,25 @@ void PlayOn(Recorder& recorder) {
     recorder.TopUpMoveLists(counts);
 }
 
+// In lines of less than 80 characters.
+void Export(const Recorder& recorder) {
+    const GameReading reading = ReadGame(recorder.Lists(), recorder.Position());
+    const std::string exported = ExportGame({}, reading, ResultToken(recorder.Lists()));
+    std::string_view text = exported;
+    for (size_t end; (end = text.find('\n')) != std::string_view::npos; text.remove_prefix(end + 1)) Require(end < 80);
+    Require(text.empty());
+}
+
 }  // namespace
 
-// A game that can be loaded is saved and loaded as the same, and can be played on.
+// A game that can be loaded is saved and loaded as the same, can be exported, and can be played on.
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     SavedGame game, again;
     if (!Load(Split(TextOf(data, size)), game)) return 0;
     const GameFiles saved = EncodeGame(game.Options, game.Clock, &game.Scorlet, Today);
     Require(Load(saved, again));
     Require(EncodeGame(again.Options, again.Clock, &again.Scorlet, Today) == saved);
+    Export(again.Scorlet);
     PlayOn(again.Scorlet);
     return 0;
 }

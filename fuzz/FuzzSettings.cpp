@@ -5,6 +5,7 @@
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const DecodedRecord record = DecodeRecord({data, size});
     Settings settings, again;
+    settings.PlayerNames[Black] = std::string(MaxNameCharacters, 'x');
     const auto error = DecodeSettings(record, settings);
     settings.LanguageIndex = DecodeLanguage(record.Slots);
     const SlotRecord written = EncodeSettings(settings);

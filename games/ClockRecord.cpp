@@ -69,9 +69,11 @@ void ReadFields(SlotReader& slots, ClockRecord& saved) {
     } else {
         ReadProgress(slots, clock);
     }
-    const Side side = clock.SideByCounts();
-    if (clock.GameStarted && OutOfTime(clock, side) && !MayWaitForTick(clock, side))
-        throw GameFileError{ClockFile, Damage::NoTimeLeft, lastTime - (side == White ? 1 : 0)};
+    // A side that waits without time would go on below zero.
+    for (Side side : BothSides) {
+        if (clock.GameStarted && OutOfTime(clock, side) && !MayWaitForTick(clock, side))
+            throw GameFileError{ClockFile, Damage::NoTimeLeft, lastTime - (side == White ? 1 : 0)};
+    }
     saved.ScorletLoaded = slots.NextIsEmpty() || slots.NextCheck();
 }
 

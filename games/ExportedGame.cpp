@@ -36,12 +36,12 @@ std::string ControlText(const TimeControl& control) {
     if (!same(control.PeriodLimit) || !same(control.MoveBonus) || (second && !same(control.SecondPeriodTime)) ||
         (bonus > 0 && !control.CountTimeDown))
         return "?";
-    const auto period = [&](int32_t seconds) {
-        return std::to_string(seconds) + (bonus > 0 ? "+" + std::to_string(bonus) : "");
+    const auto period = [&](const std::array<int32_t, 2>& seconds) {
+        return std::to_string(seconds[White]) + (bonus > 0 ? "+" + std::to_string(bonus) : "");
     };
-    if (!second) return period(control.PeriodLimit[White]);
-    return std::to_string(control.MovesFirstPeriod) + "/" + period(control.PeriodLimit[White]) + ":" +
-           period(control.SecondPeriodTime[White]);
+    if (!second) return period(control.PeriodLimit);
+    return std::to_string(control.MovesFirstPeriod) + "/" + period(control.PeriodLimit) + ":" +
+           period(control.SecondPeriodTime);
 }
 
 std::string ClockText(int32_t seconds) {

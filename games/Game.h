@@ -95,8 +95,8 @@ class Game final : public ScorletGame {
     void RecordEdited() override;
     void TakeBack() override;
     void Redo() override;
-    bool CanTakeBack() const override { return record && history.CanTakeBack(); }
-    bool CanRedo() const override { return record && history.CanRedo(); }
+    bool CanTakeBack() const override { return history.CanTakeBack(); }
+    bool CanRedo() const override { return history.CanRedo(); }
     std::optional<EarlierPosition> PositionAfter(const ChosenLine& line) const override {
         return history.PositionAfter(line);
     }
@@ -134,7 +134,7 @@ class Game final : public ScorletGame {
     ClockCommands clock;
     ClockView* clockView = nullptr;
     std::optional<Recorder> record;
-    RecordHistory history;  // of the record
+    RecordHistory history;  // of the record; empty without one
     RecordView* recordView = nullptr;
     int ticksSinceChange = 0;
     ShownTimes timesAtPresses;

@@ -58,6 +58,8 @@ class Board {
     void Reset();
 
     Piece At(Square square) const { return cells[square]; }
+    // By square; what is no square is Empty.
+    const std::array<Piece, SquareIndexes>& Cells() const { return cells; }
 
     // What the move between two squares would be. The origin must hold a piece. Only the position counts; earlier moves
     // are not remembered.

@@ -107,17 +107,10 @@ std::vector<LegalMove> WaysToRead(const std::string& text, const LegalPosition& 
     return ways;
 }
 
-bool SamePieces(const Board& one, const Board& other) {
-    for (int index = 11; index < SquareIndexes; ++index) {
-        if (IsSquare(index) && one.At(Square{index}) != other.At(Square{index})) return false;
-    }
-    return true;
-}
-
 // What decides how a game can go on from a position, as the key of a table.
 std::string KeyOf(const LegalPosition& position, size_t halfMove) {
     std::string key = std::to_string(halfMove) + " ";
-    for (int index = 11; index < SquareIndexes; ++index) key += static_cast<char>(position.Pieces.At(Square{index}));
+    for (const Piece piece : position.Pieces.Cells()) key += static_cast<char>(piece);
     for (const Side side : BothSides) {
         key += position.KingSide[side] ? 'K' : '-';
         key += position.QueenSide[side] ? 'Q' : '-';
@@ -176,7 +169,7 @@ class Search {
 
     void Enter(const LegalPosition& position) {
         const size_t depth = path.size();
-        if (depth == written.size()) return Reach(depth + (SamePieces(position.Pieces, last) ? 1 : 0));
+        if (depth == written.size()) return Reach(depth + (position.Pieces.Cells() == last.Cells() ? 1 : 0));
         std::string key = KeyOf(position, depth);
         if (const auto before = known.find(key); before != known.end()) return Reach(before->second);
         stack.push_back({position, std::move(key), WaysToRead(written[depth], position, wanted)});
@@ -206,7 +199,6 @@ class Search {
 
     // What has not been tried might come as far.
     void GiveUp() {
-        path.resize(stack.size() - 1);
         Reach(path.size());
         for (size_t depth = 0; depth < stack.size(); ++depth) {
             if (stack[depth].Next < stack[depth].Ways.size()) certain = std::min(certain, depth);

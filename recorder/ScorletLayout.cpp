@@ -22,8 +22,6 @@ constexpr int ScaleOf(int width, int height, int dpi, const Size& grows, const S
     return std::min(grown, std::max(shrinks.In(width, height), dpi * 3 / 4));
 }
 
-constexpr int RoundedUpHalf(int length) { return (length + 1) / 2; }
-
 // Lays out a window of one of the two forms.
 class Arrangement {
   public:
@@ -66,8 +64,7 @@ class Arrangement {
         layout.TypedMove = {typedLeft, margin, typedWidth / 2, field};
         layout.TypedReason = {typedLeft, layout.TypedMove.Bottom(), typedWidth, Unit(32)};
         layout.CapturedTitle = {left, layout.Board.Bottom() + margin, boardSize, line};
-        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, RoundedUpHalf(layout.CellSize),
-                                 std::max(boardSize / MostCaptured, RoundedUpHalf(layout.CellSize)));
+        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, 1, boardSize / MostCaptured);
         for (Side side : BothSides)
             layout.CapturedRows[side] = {left, layout.CapturedTitle.Bottom() + side * layout.Slot, boardSize,
                                          layout.Slot};

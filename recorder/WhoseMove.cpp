@@ -16,7 +16,7 @@ WhoseMoveKind KindOfDistance(int64_t behind) {
 
 WhoseMove WhoseMoveOf(const Recorder& record, const std::optional<ClockTurn>& clock) {
     const auto number = static_cast<int32_t>(record.NextLine()) + 1;
-    WhoseMove next{record.SideToMove(), number, 0, 0, WhoseMoveKind::Agrees};
+    WhoseMove next{record.SideToMove(), number};
     if (clock && !record.HasResult()) {
         next.ClockNumber = clock->Number;
         next.Behind = 2 * (int64_t{clock->Number} - number) + clock->Mover - next.Mover;

@@ -22,9 +22,9 @@ enum class WhoseMoveKind {
 struct WhoseMove {
     Side Mover;
     int32_t Number;
-    int32_t ClockNumber;  // 0 without a clock
-    int64_t Behind;       // half-moves of the clock that the record lacks, below 0 when it is ahead
-    WhoseMoveKind Kind;
+    int32_t ClockNumber = 0;  // 0 without a clock
+    int64_t Behind = 0;       // half-moves of the clock that the record lacks, below 0 when it is ahead
+    WhoseMoveKind Kind = WhoseMoveKind::Agrees;
 };
 
 // Once the record has a result, no clock is compared with it.

@@ -67,7 +67,6 @@ GameTimes SimpleTimes(int32_t clockType, int32_t minutes, int32_t bonusSeconds) 
 
 GameTimes TimesOf(const Settings& settings) {
     GameTimes times{settings.ClockType, WithoutWhatTypeLacks(settings).Control};
-    times.Control.SecondPeriodEnabled = RulesOf(times.ClockType).SecondPeriod;
     if (times.Control.SecondPeriodTime == Pair{}) times.Control.MovesFirstPeriod = TimeControl().MovesFirstPeriod;
     return times;
 }

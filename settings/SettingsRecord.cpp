@@ -44,10 +44,11 @@ void DecodeOptions(SlotReader& slots, Settings& settings, int32_t step) {
 std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings& settings) {
     SlotReader reader(record);
     try {
-        settings.PlayerNames[White] = reader.NextName(MaxNameCharacters);
+        // What was Black's name might be too long for one record with White's.
+        settings.PlayerNames = {reader.NextName(MaxNameCharacters), {}};
+        settings.FullNames = {};
         const int32_t left = MaxNameCharacters - static_cast<int32_t>(settings.PlayerNames[White].size());
         settings.PlayerNames[Black] = reader.NextName(left);
-        settings.FullNames = {};
         DecodeOptions(reader, settings, 60);
         reader.At(LanguageSlot);
         settings.WritePgn = reader.At(PgnSlot) != 0;

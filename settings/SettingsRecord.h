@@ -21,8 +21,9 @@ int32_t DecodeLanguage(const SlotRecord& record);
 void DecodeOptions(SlotReader& slots, Settings& settings, int32_t step);
 
 // Takes every setting except the language, in the order of the record. On an error, of the record or of a value, what
-// was taken before it stays and the rest is as it was. Any numeric slot type is accepted for a number; an empty slot
-// counts as 0. The periods must be whole minutes, and the language a number, though it is not taken.
+// was taken before it stays and the rest is as it was, except that a new first name keeps no name of the earlier pair
+// beside it. Any numeric slot type is accepted for a number; an empty slot counts as 0. The periods must be whole
+// minutes, and the language a number, though it is not taken.
 std::optional<RecordError> DecodeSettings(const DecodedRecord& record, Settings& settings);
 
 // Writes down whether the board is turned. The slot of a board that is not stays empty.

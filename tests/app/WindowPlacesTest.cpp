@@ -101,6 +101,8 @@ TEST(WindowPlacesTest, PlacesAreReadAsTheyWereWrittenAndDamagedOnesNotAtAll) {
         ASSERT_TRUE(places) << text;
         EXPECT_EQ(WritePlaces(*places), text);
     }
+    for (const char* one : {"beside 0 0 300 600", "scorlet 300 0 724 600"})
+        EXPECT_EQ(WritePlaces(ReadPlaces(alone + one).value()), alone) << "one of two windows has no place beside";
     for (const std::string& text : std::initializer_list<std::string>{
              "", both, "clock 1 2 3", "clock 1 2 0 400", "clock 1 2 700 -1", "clock 1 2 700 1000001",
              "dpi x\nclock 1 2 700 400", alone + "scorlet 1 2 3", alone + "colour 3", "clock 99999999999 2 3 4"})

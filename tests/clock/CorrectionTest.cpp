@@ -19,7 +19,7 @@ std::string Corrected(const std::string& text) {
         if (word == "up") state.Control.CountTimeDown = false;
         if (word == "one-period") state.Control.SecondPeriodEnabled = false;
         if (word == "due") state.SecondPeriodDue = {true, true};
-        if (word == "none") state.Control.SecondPeriodTime.fill(0);
+        if (word.starts_with("second=")) state.Control.SecondPeriodTime.fill(std::stoi(word.substr(7)));
         if (word == "given") state.SecondPeriodArmed = {false, false};
         if (word.starts_with("bonus=")) state.Control.MoveBonus.fill(std::stoi(word.substr(6)));
         std::sscanf(word.c_str(), "%d,%d@%d,%d", &wanted.Time[White], &wanted.Time[Black], &wanted.MoveCount[White],
@@ -50,6 +50,7 @@ TEST(CorrectionTest, FaultsAndWhatFollows) {
         9,9@99999,99999 => 00:00:09 99999.  00:00:09 99999. B due due | 9,9@100000,99999 => no move W
         90,0@2,1 up due => 00:01:30 2.  00:00:00 1. W due due | 91,0@2,1 up due => no time W
         9,9@3,3 => 00:00:09 3.  00:00:09 3. B due due
-        9,9@3,3 one-period => 00:00:09 3.  00:00:09 3. B armed armed | 9,9@3,3 none => 00:00:09 3.  00:00:09 3. B armed armed | 9,9@3,3 given => 00:00:09 3.  00:00:09 3. B due due
+        9,9@3,3 one-period => 00:00:09 3.  00:00:09 3. B armed armed | 9,9@3,3 second=0 => 00:00:09 3.  00:00:09 3. B armed armed
+        9,9@3,3 second=1 => 00:00:09 3.  00:00:09 3. B due due | 9,9@3,3 given => 00:00:09 3.  00:00:09 3. B due due
     )");
 }

@@ -95,7 +95,7 @@ TEST(modClockTest, Games) {
         One of no time is none, one of a second is one.
         down 60 0 0 1: press second=1 resume press 60s => 00:01:00 1 armed, 00:00:00 1; Black over 1, flag
         up 60 0 0 1: press second=1 resume press 1s press press 60s => 00:00:00 2 armed, 00:01:01 2 due; Black over 1, flag
-        down 60 1 0 1: second=0 press press 60s => 00:01:00 1 due, 00:00:01 1; Black runs
+        up 60 1 0 1: press press 61s => 00:00:00 1 armed, 00:01:01 1; Black runs
         The bonus is the presser's, in both directions, and there is none at the first press.
         down 60 60 5: press => 00:01:00 1 armed, 00:01:00 0 armed; White runs
         down 60 60 5: press press => 00:01:05 1 armed, 00:01:00 1 armed; Black runs

@@ -106,7 +106,7 @@ TEST(ClockRecordTest, StatesAndDamages) {
         0=129 => OutOfRange 0 | 1=9 => OutOfRange 1 | 3=5000 => OutOfRange 3 | 1=256 => OutOfRange 1 | first0=0.98 => OutOfRange 4
         first1=nan => OutOfRange 5 | second0=99999999. => Overflow 6 | second1=-1. => OutOfRange 7
         bonus0=-1 => OutOfRange 8 | moves=-1 => OutOfRange 15 | time1=-1 => OutOfRange 19 | time0=0 => NoTimeLeft 18
-        time1=0 black=2 white's=0 => NoTimeLeft 19 | white=-1 => OutOfRange 22 | white=100000 => TooManyMoves 22
+        time1=0 => NoTimeLeft 19 | time1=0 black=2 white's=0 => NoTimeLeft 19 | white=-1 => OutOfRange 22 | white=100000 => TooManyMoves 22
         black=3 => CountsOutOfStep 23 | white's=0 => TurnAgainstCounts 26 | black=2 => TurnAgainstCounts 26
         black=2 started=0 => TurnAgainstCounts 26 | white=0 black=0 white's=0 => TurnAgainstCounts 26
     )");

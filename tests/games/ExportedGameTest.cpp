@@ -47,9 +47,9 @@ TEST(ExportedGameTest, TagPairsAndTimes) {
               R"([Event "?"]/[Site "?"]/[Date "2024.03.09"]/[Round "?"]/[White "\"Al\" \\ Bo"]/[Black "a?b"]/)"
               R"([Result "1-0"]//1. e4 {[%clk 1:00:05]} 1... e5 {[%clk 0:00:59]} 2. Nf3 1-0/)");
     ExpectRows(ControlTag, R"(
-        300 300 60 60 0 0 down => 300 | 300 300 60 60 5 5 down => 300+5 | 7200 7200 3600 3600 5 5 down 40 => 40/7200+5:3600+5
+        300 300 60 60 0 0 down => 300 | 300 300 60 60 1 1 down => 300+1 | 7200 7200 3600 3600 5 5 down 40 => 40/7200+5:3600+5
         300 300 0 0 0 0 down 40 => 300 | 300 301 0 0 0 0 down => ? | 300 300 60 61 0 0 down 40 => ? | 300 300 60 61 0 0 down => 300
-        300 300 0 0 5 6 down => ? | 300 300 0 0 5 5 up => ? | 300 300 0 0 0 0 up => 300
+        300 300 0 0 5 6 down => ? | 300 300 0 0 1 1 up => ? | 300 300 0 0 0 0 up => 300
     )");
 }
 
@@ -64,11 +64,18 @@ TEST(ExportedGameTest, Moves) {
         Rooks on one file and one rank.
         a2a4 h7h6 h2h4 g7g6 a1a3 b7b6 h1h3 c7c6 h3d3 d7d6 a3b3 a7a5 => 1. a4 h6 2. h4 g6 3. Ra3 b6 4. Rhh3 c6 5. Rhd3 d6 6. Rab3 a5 */
     )");
-    // A word that is longer than a line ends it between two characters.
-    const auto letters = [](int count) {
+    // Lines have 79 characters at the most. A word that is longer than a line ends it between two characters.
+    const auto letters = [](int count, const std::string& letter) {
         std::string text;
-        while (count-- > 0) text += "\u00FC";
+        while (count-- > 0) text += letter;
         return text;
     };
-    EXPECT_EQ(Movetext("e2e4 W0=" + letters(45)), "{1./" + letters(39) + "/" + letters(6) + "} */");
+    for (const auto& [letter, count, start, rest, end] : {std::tuple{"x", 74, "{1. ", 0, "}/*/"},
+                                                          {"x", 76, "{1./", 0, "} */"},
+                                                          {"x", 78, "{1./", 0, "}/*/"},
+                                                          {"x", 79, "{1./", 0, "/} */"},
+                                                          {"\u00FC", 39, "{1./", 6, "} */"}}) {
+        const std::string line = letters(count, letter), next = letters(rest, letter);
+        EXPECT_EQ(Movetext("e2e4 W0=" + line + next), start + line + (rest > 0 ? "/" + next : "") + end);
+    }
 }

@@ -192,6 +192,18 @@ std::string Exported(const std::string& script) {
     return moves;
 }
 
+// The times that the faces showed after a line, which is the last word.
+std::string TimesAfter(const std::string& script) {
+    Play play;
+    const size_t line = script.rfind(' ') + 1;
+    play.SayAll(script.substr(0, line));
+    std::string text;
+    for (const auto& time :
+         play.Played.TimesAfter({script[line] == 'W' ? White : Black, std::stoul(script.substr(line + 1))}))
+        text += time ? std::to_string(*time) + " " : "- ";
+    return text;
+}
+
 }  // namespace
 
 TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
@@ -216,7 +228,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W W p => show all; - Rp 00:01:00 | W W p p => nothing; - Rp 00:01:00 | W W p B => nothing; - Rp 00:01:00
         W W pause timer=0 pause => not resumed; - Rp 00:01:00 | W W pause pauseB => show all; - CPTm 00:01:00
         W pauseB => nothing; CPTm - 00:01:00 | W pauseW => show all; Rp - 00:01:00
-        W pause timer=1 pause p => nothing; CPTm - 00:01:00 | p => nothing; CP CP S 00:01:00
+        W pause timer=1 pause p => nothing; CPTm - 00:01:00 | timer=2 W p => show all; Rp - 00:01:00 | p => nothing; CP CP S 00:01:00
         pauseB => how to begin; CP CP S 00:01:00
         A fallen flag writes the result.
         W 60s => show W all, gong; F - 00:00:00 | W W 60s => show B all, gong; - F 00:01:00
@@ -231,6 +243,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         second W 59s => show W; CPTm - 00:00:01 | second W 60s => show W all, chime; CPT2m - 00:00:30
         second W 64s => show W; CPT2m - 00:00:26 | second W 65s => show W all; CPTm - 00:00:25
         second W W 60s B 1s => show W; CPTm 2 00:00:59 | second W 60s W 1s yes reset => ask, read, show W B all; CP CP S 00:01:00
+        low=10 second W 80s => show W all, warn; CPTLm - 00:00:10
         second W 90s => show W all, gong; F - 00:00:00 | second up60 W 31s W B 30s => show W all, chime; CPT2m - 00:01:01
         low=10 W 49s => show W; CPTm - 00:00:11 | low=10 W 50s => show W all, warn; CPTLm - 00:00:10
         low=10 W 51s => show W; CPTLm - 00:00:09 | low=10 W 50s pause => show all; RLp - 00:00:10
@@ -262,6 +275,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open e2e4 close back redo => nothing; CP CP S 00:01:00 | open load1,0 draw back draw d7d5 => nothing; F - 00:00:15; 1. d4 / d5|[1/2-1/2]
         Going on at the clock's move, where the record is behind.
         open W W B go e2e4 => nothing; CPTm - 00:01:00; 1. _|2. e4 / 1. _ | go => nothing; CP CP S 00:01:00
+        open e2e4 go => nothing; CP CP S 00:01:00; 1. e4 /
         open W W pause go => lists B0; - Rp 00:01:00; 1. _ / 1. _ | open W W B go back => lists W0; CPTm - 00:01:00; 1. _ /
         open W go => nothing; CPTm - 00:01:00; 1. _ / | open W e2e4 go => nothing; CPTm - 00:01:00; 1. e4 /
         open W W go 60s back go => nothing; - F 00:01:00; 1. _|[1-0] /
@@ -330,6 +344,14 @@ TEST(GameTest, TheTimesAtThePressesAreExportedWithTheMovesThatTheyEnded) {
         open W e2e4 5s W close open e2e4 => 1. e4 * | open W e2e4 5s W load3,2on => earlier: 1. d4 *
         A game may have been begun before it was loaded.
         open e2e4 load0,0 => earlier: 1. d4 * | open load3,2on yes reset e2e4 => 1. e4 *
+    )");
+}
+
+TEST(GameTest, TheTimesAfterALineAreThoseOfTheLastPressesBeforeIt) {
+    ExpectRows(TimesAfter, R"(
+        open W e2e4 5s W e7e5 2s B g1f3 3s W W0 => 55 - | open W e2e4 5s W e7e5 2s B g1f3 3s W B0 => 55 58
+        open W e2e4 5s W e7e5 2s B g1f3 3s W W1 => 52 58 | open W e2e4 5s W e7e5 2s B g1f3 3s W B1 => 52 -
+        open W e2e4 W0 => - -
     )");
 }
 

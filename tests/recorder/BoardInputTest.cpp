@@ -55,7 +55,7 @@ TEST(BoardInputTest, ClicksAndKeys) {
         e2 e7 BP0 BP0 => e2l e7lc x BP0 | e2 e7 BP0 d2 => d2oc e2l e7l picked x BP0 | e2 e7 BP0 e5 => e2l e5c e7l
         e2 e7 BP0 e5 e5 e4 => e4lc e5l e4 | next => e2c | e2 e7 d8 e7 d2 d7 next => d2l d7lc picked WP0 x WP0 BP0 BP1
         e2 e7 d8 e7 d2 d7 next next next => d2l d7lc picked BP1 x WP0 BP0 BP1
-        e2 e7 d8 e7 d2 d7 next next next next => d2l d7lc x WP0 BP0 BP1
+        e2 e7 d8 e7 d2 d7 next next next next => d2l d7lc x WP0 BP0 BP1 | d1 d8 next next => d1l d8lc x BQ0
         Dragged: a piece that a click has picked or let go, and only that.
         e2 lift >e4 => e2ouc e4t picked | e2 lift >e4 =e4 => e2l e4lc 1. e4 | e2 e2 lift =d4 => d4lc e2l 1. d4
         e2 e2 lift >d5 esc => e2c | e2 lift =e2 => e2c | e2 lift >e4 = => e2c | e2 lift >d2 =d2 => e2c

@@ -14,7 +14,8 @@ TEST(TypedMoveTest, KeysAndChanges) {
     EXPECT_TRUE(edited.TakesKey(L'\b', std::wstring(199, L'b')));
 
     EXPECT_EQ(edited.Changed(L"axb8=Q+!"), L"axb8=Q+!");
-    EXPECT_EQ(edited.Changed(L"axb8=Q+!?"), L"axb8=Q+!") << "too long";
+    EXPECT_EQ(edited.Changed(L"axb8=R+!"), L"axb8=R+!") << "as long as a move can be";
+    EXPECT_EQ(edited.Changed(L"axb8=Q+!?"), L"axb8=R+!") << "too long";
     EXPECT_EQ(edited.Changed(L"Nf3 e5"), L"") << "a blank empties it";
     EXPECT_EQ(edited.LastGood(), L"");
 

@@ -49,6 +49,10 @@ TEST(GameReadingTest, MovesAreFoundFromTheLists) {
 TEST(GameReadingTest, EditedEntries) {
     ExpectRows(Read, R"(
         b1c3 e7e5 W0=Nb1-c3 => Nc3 e5 | b1c3 e7e5 W0=N1c3+ => Nc3 e5 | e2e4 d7d5 e4d5 W1=ed5 => e4 d5 exd5 | e2e4 W0=e2e4 => e4
+        Where the board tells the piece, no letter is needed; where it does not, the entry is what the Scorlet writes so. A rank tells too.
+        d2d4 d7d5 g1f3 g8f6 b1d2 W2=Nd2 => d4 d5 Nf3 Nf6 Nbd2 | d2d4 d7d5 g1f3 g8f6 b1d2 W2=Nd2 W0=d3 => d3 d5 Nf3 Nf6 Nfd2 but the board
+        e2e3 a7a6 b1c3 a6a5 c3e4 a5a4 e4g3 b7b6 g3e2 b6b5 e2d4 b5b4 g1e2 W4=N3e2 => e3 a6 Nc3 a5 Ne4 a4 Ng3 b6 N3e2 b5 Nd4 b4 Nge2
+        What no move is.
         e2e4 d7d5 e4d5 W1=d5 => e4 d5 but 2 d5 | e2e4 W0=Nxe4 => but 0 Nxe4
         e2e4 W0=d4 => d4 but the board | e2e4 W0=0-0 => but 0 O-O | e2e4 e7e5 W0=x => but 0 x | e2e4 W0=e4=Q => but 0 e4=Q
     )");
@@ -61,9 +65,21 @@ TEST(GameReadingTest, WhatIsNotUnderstoodAndWhatIsNotClear) {
         Nothing tells what the pawn has become.
         a2a4 b7b5 a4b5 a7a6 b5a6 h7h6 a6a7 h6h5 a7b8 => a4 b5 axb5 a6 bxa6 h6 a7 h5 but 8 axb8
         a2a4 b7b5 a4b5 a7a6 b5a6 h7h6 a6a7 h6h5 a7b8n W4=axb8 => a4 b5 axb5 a6 bxa6 h6 a7 h5 axb8=N
+        a2a4 b7b5 a4b5 a7a6 b5a6 h7h6 a6a7 h6h5 a7b8n W4=axb8N => a4 b5 axb5 a6 bxa6 h6 a7 h5 axb8=N
         Either knight can have gone first, and nothing tells which.
         e2e3 a7a6 b1c3 a6a5 c3e4 a5a4 e4g3 b7b6 g3e2 b6b5 e2d4 b5b4 g1e2 => e3 a6 Nc3 a5 Ne4 a4 Ng3 b6 N1e2 or N3e2 b5 Nd4 b4 Nge2
     )");
+}
+
+TEST(GameReadingTest, AGameIsGoneThroughForSoManyMovesAndNoFurther) {
+    // Either knight can have gone in its fifth move.
+    std::string script = "e2e3 a7a6 b1c3 a6a5 c3e4 a5a4 e4g3 b7b6 g3e2 b6b5 e2d4 b5b4 g1e2 g8f6 ";
+    for (size_t moves = 0; moves < MostTries; moves += 4) script += "h1g1 f6g8 g1h1 g8f6 ";
+    const Recorder played = Played(script);
+    const GameReading reading = ReadGame(played.Lists(), played.Position());
+    EXPECT_EQ(reading.Finding, GameFinding::NotUnderstood);
+    EXPECT_EQ(reading.HalfMove, MostTries);
+    EXPECT_EQ(reading.Moves.size(), 8) << "beyond doubt";
 }
 
 TEST(GameReadingTest, PositionsInForsythEdwardsNotation) {

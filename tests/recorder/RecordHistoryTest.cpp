@@ -79,7 +79,7 @@ TEST(RecordHistoryTest, ThePositionAfterAnEntryIsKnown) {
         Of a game that was loaded it is found while the lists tell one, also after moves that no game has.
         e2e4 e7e5 g1f3 load W0 => --e2 WPe4 ; e2-e4 | e2e4 e7e5 load g1f3 b8c6 B0 => --e2 WPe4 BPe5 --e7
         e2e4 e7e5 load g1g5 W0 => --e2 WPe4 ; e2-e4 | e2e4 d7d5 e4d5 load g8f6 W1 => WPd5 --d7 --e2 BP0
-        e2e5 e7e6 g1f3 load W0 => ? | e2e4 e7e5 g1f3 load W1 => --e2 WPe4 BPe5 --e7 WNf3 --g1
+        e2e4 e7e5 e1e3 load B0 => --e2 WPe4 BPe5 --e7 ; e7-e5 | e2e5 e7e6 g1f3 load W0 => ? | e2e4 e7e5 g1f3 load W1 => --e2 WPe4 BPe5 --e7 WNf3 --g1
     )");
 }
 

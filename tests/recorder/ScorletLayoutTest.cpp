@@ -5,6 +5,39 @@
 
 namespace {
 
+// What is shown all the time.
+std::vector<Box> ShownOf(const ScorletLayout& layout) {
+    return {layout.Board,
+            layout.CapturedTitle,
+            layout.CapturedRows[White],
+            layout.CapturedRows[Black],
+            layout.SayLabel,
+            layout.Say,
+            layout.WhoseMove,
+            layout.ListHeads[White],
+            layout.Lists[White],
+            layout.ListHeads[Black],
+            layout.Lists[Black]};
+}
+
+std::vector<Box> AllOf(const ScorletLayout& layout) {
+    std::vector<Box> all = ShownOf(layout);
+    all.insert(all.end(), {layout.Edit, layout.EditOk, layout.PromotionTitle});
+    all.insert(all.end(), layout.Promotion.begin(), layout.Promotion.end());
+    return all;
+}
+
+// "width height dpi": where everything is, then what is over the board and below the lists.
+std::string Places(const std::string& window) {
+    const std::vector<std::string> words = Words(window);
+    const int width = std::stoi(words.at(0)), height = std::stoi(words.at(1)), dpi = std::stoi(words.at(2));
+    const ScorletLayout layout = LayOutScorlet(width, height, dpi, false);
+    const Box area{0, 0, width, height};
+    return ExpectApartInside(AllOf(layout), area) + "; " +
+           ExpectApartInside({layout.TypedMove, layout.TypedReason}, area) + "; " +
+           ExpectApartInside({layout.Sheet}, area);
+}
+
 // "width height dpi": where the lists are, the sides of a square and of a captured piece, the type, and how much of the
 // window is empty. The places of what is hidden most of the time count as empty.
 std::string Measures(const std::string& window) {
@@ -12,21 +45,7 @@ std::string Measures(const std::string& window) {
     const int width = std::stoi(words.at(0)), height = std::stoi(words.at(1)), dpi = std::stoi(words.at(2));
     SCOPED_TRACE(window);
     const ScorletLayout layout = LayOutScorlet(width, height, dpi, false);
-    const std::vector<Box> shown{layout.Board,
-                                 layout.CapturedTitle,
-                                 layout.CapturedRows[White],
-                                 layout.CapturedRows[Black],
-                                 layout.SayLabel,
-                                 layout.Say,
-                                 layout.WhoseMove,
-                                 layout.ListHeads[White],
-                                 layout.Lists[White],
-                                 layout.ListHeads[Black],
-                                 layout.Lists[Black]};
-    std::vector<Box> all = shown;
-    all.insert(all.end(), {layout.Edit, layout.EditOk, layout.PromotionTitle});
-    all.insert(all.end(), layout.Promotion.begin(), layout.Promotion.end());
-    ExpectApartInside(all, {0, 0, width, height});
+    ExpectApartInside(AllOf(layout), {0, 0, width, height});
     ExpectApartInside({layout.Cell(1, 8), layout.Cell(8, 1)}, layout.Board);
     for (Side side : BothSides)
         ExpectApartInside({layout.Captured(side, 0), layout.Captured(side, 14)}, layout.CapturedRows[side]);
@@ -45,13 +64,30 @@ std::string Measures(const std::string& window) {
             EXPECT_EQ(board.SquareAt(x, board.Board.Top), NoSquare) << turned;
     }
     int empty = width * height;
-    for (const Box& box : shown) empty -= box.Width * box.Height;
+    for (const Box& box : ShownOf(layout)) empty -= box.Width * box.Height;
     return std::string(layout.Lists[White].Top > layout.Board.Bottom() ? "below " : "beside ") +
            std::to_string(layout.CellSize) + " " + std::to_string(layout.Slot) + " " + std::to_string(layout.Type) +
            " " + std::to_string(100 * empty / (width * height)) + "%";
 }
 
 }  // namespace
+
+TEST(ScorletLayoutTest, IsLaidOutAsItWasDrawn) {
+    EXPECT_EQ(Places("720 590 96"),
+              "8:8 474x474, 8:490 474x18, 8:508 474x31, 8:539 474x31, 490:8 70x24, 564:8 148x24, 490:36 222x50, 495:91 "
+              "105x18, 491:109 109x386, 606:91 105x18, 602:109 109x386, 490:500 158x24, 652:500 60x24, 490:528 222x18, "
+              "490:546 36x36, 530:546 36x36, 570:546 36x36, 610:546 36x36; 26:8 228x24, 26:32 456x32; 490:90 222x406");
+    EXPECT_EQ(Places("360 730 96"),
+              "11:8 338x338, 11:354 338x18, 11:372 338x22, 11:394 338x22, 8:424 70x24, 82:424 270x24, 8:452 344x34, "
+              "13:491 166x18, 9:509 170x154, 185:491 166x18, 181:509 170x154, 8:698 104x24, 116:698 60x24, 184:668 "
+              "168x18, 184:686 36x36, 224:686 36x36, 264:686 36x36, 304:686 36x36; 29:8 160x24, 29:32 320x32; 8:490 "
+              "344x174");
+    EXPECT_EQ(
+        Places("304 384 96"),
+        "61:6 182x182, 61:194 182x14, 61:208 182x12, 61:220 182x12, 6:238 53x18, 62:238 236x18, 6:259 292x26, "
+        "10:289 141x14, 7:303 144x39, 156:289 141x14, 153:303 144x39, 6:360 95x18, 104:360 45x18, 155:346 143x14, "
+        "155:360 18x18, 176:360 18x18, 197:360 18x18, 218:360 18x18; 73:6 112x18, 73:24 225x24; 6:288 292x55");
+}
 
 TEST(ScorletLayoutTest, TheBoardTakesTheRoomInEitherForm) {
     ExpectRows(Measures, R"(

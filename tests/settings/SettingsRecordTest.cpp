@@ -95,6 +95,9 @@ TEST(SettingsRecordTest, NamesThatReachTheLanguageAreRefused) {
     EXPECT_THROW(EncodeSettings(settings), RunTimeError);
     settings.PlayerNames[Black] = '\x7F';
     EXPECT_FALSE(NamesFit(settings));
+    settings.PlayerNames = {"", std::string(284, 'b')};
+    EXPECT_TRUE(DecodeSettings({Changed(EncodeSettings(Unusual()), "5=31", 6), {}}, settings));
+    EXPECT_TRUE(NamesFit(settings)) << "White's new name without what was Black's";
     EXPECT_THROW(settings.SetButtonSound(5), RunTimeError);
     EXPECT_THROW(settings.SetFlagSound(-1), RunTimeError);
 }
