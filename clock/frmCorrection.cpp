@@ -33,8 +33,8 @@ constexpr std::array Items{
     Caption(lblCorrectMove, 80),
     Field(txtCorrectMove, White, 80, ES_NUMBER),
     Field(txtCorrectMove, Black, 80, ES_NUMBER),
-    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {186, 126, 104, 30}, TextId::ButtonSetupOk},
-    DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {300, 126, 104, 30}, TextId::ButtonCancel},
+    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {184, 126, 104, 30}, TextId::ButtonSetupOk},
+    DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {298, 126, 104, 30}, TextId::ButtonCancel},
 };
 
 constexpr int LongestTime = 10, LongestNumber = 5;
