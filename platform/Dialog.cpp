@@ -80,7 +80,7 @@ void Dialog::Arrange() {
         const auto [left, top, right, bottom] = PlaceOf(item);
         SetWindowPos(Control(item.Id), nullptr, left, top, right - left, bottom - top, SWP_NOZORDER | SWP_NOACTIVATE);
         if (std::wstring_view(item.Kind) == WC_COMBOBOXW)
-            SetShutHeight(Control(item.Id), Scaled(DialogItem::ListHeight, fit.Dpi));
+            SetShutHeight(Control(item.Id), Scaled(DialogItem::FieldHeight, fit.Dpi));
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

@@ -24,8 +24,9 @@ struct DialogItem {
     std::optional<TextId> Text = std::nullopt;
     Look::TypeStyle Type = Look::Text;
 
-    // That of a drop-down list while it is shut, whatever its box says.
-    static constexpr int ListHeight = 23;
+    // That of a drop-down list while it is shut, whatever its box says, and of a field: a higher one would have its
+    // text too far up.
+    static constexpr int FieldHeight = 21;
 
     bool IsButton() const { return std::wstring_view(Kind) == WC_BUTTONW; }
     bool IsGroup() const { return IsButton() && (Style & BS_TYPEMASK) == BS_GROUPBOX; }

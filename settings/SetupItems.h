@@ -10,8 +10,8 @@ namespace SetupItems {
 
 constexpr int Width = 752, Height = 552;
 constexpr int LineHeight = 18, OpenListHeight = 240;
-// Fields and the buttons beside them have the height of a list. A label is this far above what it names.
-constexpr int FieldHeight = DialogItem::ListHeight, LabelPitch = 18;
+// Of fields, lists and the buttons beside them. A label is this far above what it names.
+constexpr int FieldHeight = DialogItem::FieldHeight, LabelPitch = 19;
 
 // Two columns of cards, what they hold, and the row of buttons.
 constexpr int Left = 12, LeftWidth = 416, Right = 438, RightWidth = 302;
@@ -76,24 +76,24 @@ constexpr std::array Items{
     Value(lblFirstPeriod, WhiteLeft, 227),
     Bar(hsbFirstPeriod + 1, BlackLeft, 227),
     Value(lblFirstPeriod + 1, BlackLeft, 227),
-    TimeCaption(lblSecondCaption, 284),
-    Unit(lblSecondUnit, 284, TextId::HoursMinutes),
-    Bar(hsbSecondPeriod, WhiteLeft, 306),
-    Value(lblSecondPeriod, WhiteLeft, 306),
-    Bar(hsbSecondPeriod + 1, BlackLeft, 306),
-    Value(lblSecondPeriod + 1, BlackLeft, 306),
-    TimeCaption(lblBonusCaption, 363),
-    Unit(lblBonusUnit, 363, TextId::MinutesSeconds),
-    Bar(hsbBonus, WhiteLeft, 385),
-    Value(lblBonusValue, WhiteLeft, 385),
-    Bar(hsbBonus + 1, BlackLeft, 385),
-    Value(lblBonusValue + 1, BlackLeft, 385),
+    TimeCaption(lblSecondCaption, 283),
+    Unit(lblSecondUnit, 283, TextId::HoursMinutes),
+    Bar(hsbSecondPeriod, WhiteLeft, 305),
+    Value(lblSecondPeriod, WhiteLeft, 305),
+    Bar(hsbSecondPeriod + 1, BlackLeft, 305),
+    Value(lblSecondPeriod + 1, BlackLeft, 305),
+    TimeCaption(lblBonusCaption, 362),
+    Unit(lblBonusUnit, 362, TextId::MinutesSeconds),
+    Bar(hsbBonus, WhiteLeft, 384),
+    Value(lblBonusValue, WhiteLeft, 384),
+    Bar(hsbBonus + 1, BlackLeft, 384),
+    Value(lblBonusValue + 1, BlackLeft, 384),
     Group(fraTimes, {Left, 432, LeftWidth, 66}, TextId::TimeControlGroup),
-    List(cmbTimes, InLeft, 460, 184),
-    Button(cmdKeepAs, {InLeft + 192, 460, 108, FieldHeight}, TextId::KeepAs, true),
-    Button(cmdRemoveTimes, {InLeft + 308, 460, 76, FieldHeight}, TextId::RemoveTimes),
+    List(cmbTimes, InLeft, 461, 184),
+    Button(cmdKeepAs, {InLeft + 192, 461, 108, FieldHeight}, TextId::KeepAs, true),
+    Button(cmdRemoveTimes, {InLeft + 308, 461, 76, FieldHeight}, TextId::RemoveTimes),
     Group(frameLanguage, {Right, 12, RightWidth, 66}, TextId::LanguageGroup),
-    List(cmbLanguage, InRight, 40, InRightWidth),
+    List(cmbLanguage, InRight, 41, InRightWidth),
     Group(fraScorlet, {Right, 88, RightWidth, 130}, TextId::ScorletGroup),
     CheckBox(chkOpenScorlet, 114, TextId::OpenScorlet),
     CheckBox(chkPGN, 136, TextId::SavePgn),
@@ -111,7 +111,7 @@ constexpr std::array Items{
     CheckBox(chkTurnClock, 416, TextId::TurnClock),
     CheckBox(chkCountTimeDown, 438, TextId::CountTimeDown),
     Label(lblLowTime, InRight, 464, InRightWidth - 112, TextId::LowTimeWarning),
-    List(cmbLowTime, InRight + InRightWidth - 104, 460, 104),
+    List(cmbLowTime, InRight + InRightWidth - 104, 461, 104),
     Button(cmdDefault, {Left, ButtonRow, 116, 30}, TextId::ButtonDefault, true),
     Button(cmdBlitz, {Left + 126, ButtonRow, 116, 30}, TextId::ButtonBlitz),
     DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {408, ButtonRow, 104, 30}, TextId::ButtonSetupOk},
