@@ -132,6 +132,9 @@ void ClockPanels::ArrangePanel(Side side) {
     place(lblBonus, panel.Bonus, painter.TextFont());
     place(lblBonusTime, panel.BonusTime, painter.TextFont());
     place(lblStage, panel.Stage, painter.TextFont());
+    const HWND stage = form.Control(ControlOf(lblStage, side));
+    const LONG_PTR style = GetWindowLongPtrW(stage, GWL_STYLE) & ~LONG_PTR{SS_TYPEMASK};
+    SetWindowLongPtrW(stage, GWL_STYLE, style | (panel.StageAtRight ? SS_RIGHT : SS_LEFT));
     for (int mark = 0; mark < TurnMarksPerSide; ++mark)
         move(TurnMark(side, mark), panel.TurnMarks()[static_cast<size_t>(mark)]);
 

@@ -13,6 +13,14 @@ Extent WindowOf(const Screen& screen, int width, int height, const Extent& frame
             std::min(scaled(height) + frame.Height, screen.WorkArea.Height)};
 }
 
+// As it was designed, or larger in the same proportions on a large screen: up to all its height and half its width.
+Extent WantedScorlet(Screen screen) {
+    const Extent room{screen.WorkArea.Width / 2 - screen.ScorletFrame.Width,
+                      screen.WorkArea.Height - screen.ScorletFrame.Height};
+    screen.Dpi = std::max(screen.Dpi, std::min(room.Width * 96 / ScorletWidth, room.Height * 96 / ScorletHeight));
+    return WindowOf(screen, ScorletWidth, ScorletHeight, screen.ScorletFrame);
+}
+
 bool Inside(const Box& box, const Box& area) {
     return box.Left >= area.Left && box.Top >= area.Top && box.Right() <= area.Right() && box.Bottom() <= area.Bottom();
 }
@@ -47,7 +55,7 @@ Box PlaceClock(const Screen& screen) {
 
 WindowPlaces PlaceBoth(const Screen& screen, const Box& clock) {
     const Box& area = screen.WorkArea;
-    const Extent wanted = WindowOf(screen, ScorletWidth, ScorletHeight, screen.ScorletFrame);
+    const Extent wanted = WantedScorlet(screen);
     const Extent least = LeastScorlet(screen);
     WindowPlaces places{BroughtInto(clock, area), {0, 0, wanted.Width, wanted.Height}};
     if (places.Clock.Width + wanted.Width > area.Width) {

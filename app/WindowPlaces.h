@@ -33,7 +33,8 @@ bool BothInSight(const WindowPlaces& places, const Box& clockArea, const Box& sc
 // The clock alone: as it was designed, in the middle of the work area.
 Box PlaceClock(const Screen& screen);
 
-// The Scorlet at the right of a clock that was there, which moves to the left as far as that asks for. Where the work
-// area is too narrow for both, they fill its width: first the clock becomes narrower and then the Scorlet, down to
-// their least widths. Where even these are too wide, the Scorlet covers the clock.
+// The Scorlet, which is larger on a large screen, at the right of a clock that was there, which moves to the left as
+// far as that asks for. Where the work area is too narrow for both, they fill its width: first the clock becomes
+// narrower and then the Scorlet, down to their least widths. Where even these are too wide, the Scorlet covers the
+// clock.
 WindowPlaces PlaceBoth(const Screen& screen, const Box& clock);

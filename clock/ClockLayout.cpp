@@ -14,7 +14,7 @@ constexpr double RowHeight = 1.3;
 constexpr double RowWidth = MoveNumberWidth + MoveCountWidth + CaptionWidth + TimeWidth;
 
 // A face is at least so wide, and at most, for its height: the first is as far as digits can be narrowed.
-constexpr double LeastFaceShape = 1.9, GreatestFaceShape = 4.6;
+constexpr double LeastFaceShape = 1.9, GreatestFaceShape = 4.8;
 
 // The widths of a panel's insides.
 struct Insides {
@@ -35,6 +35,7 @@ int LayOutTexts(PanelLayout& layout, const Insides& in, int bottom, int type, bo
     layout.Bonus = {captionLeft, bonusTop, fieldLeft - captionLeft, row};
     const int stageLeft = inTwoRows ? in.Left : layout.MoveCount.Right();
     layout.Stage = {stageLeft, inTwoRows ? bonusTop : top, (inTwoRows ? captionLeft : in.Right) - stageLeft, row};
+    layout.StageAtRight = !inTwoRows;
     layout.BonusTime = {fieldLeft, bonusTop, field, row};
     return top;
 }
@@ -58,7 +59,7 @@ void LayOutHeader(PanelLayout& layout, const Insides& in, int top, int height, i
     layout.Blink = {wordLeft, layout.Mark.Top + (mark - word) / 2, layout.Mark.Right() - Round(mark * 0.28) - wordLeft,
                     word};
     const int nameLeft = layout.Flag.Right() + gap;
-    layout.Name = {nameLeft, top, layout.Mark.Left - gap - nameLeft, height};
+    layout.Name = {nameLeft, top, layout.Mark.Left - 2 * gap - nameLeft, height};
 }
 
 PanelLayout LayOutPanel(const Box& panel, bool column, ClockLayout& all) {

@@ -21,7 +21,8 @@ struct PanelLayout {
     Box MoveNumber, MoveCount;
     Box Period, PeriodTime;
     Box Bonus, BonusTime;
-    Box Stage;  // the period and the moves that are left in it
+    Box Stage;          // the period and the moves that are left in it
+    bool StageAtRight;  // its text ends at the right
     // The sign, and the frame above and below.
     std::array<Box, 3> TurnMarks() const {
         return {Sign, Box{Panel.Left, Panel.Top, Panel.Width, Frame},

@@ -298,7 +298,7 @@ void ClockPainter::DrawFlag(const DRAWITEMSTRUCT& item, const Picture& flag, boo
     const RECT area = buffer.Area();
     Fill(buffer.Dc(), area, CardColour);
     const int side = static_cast<int>(std::min(area.right, area.bottom)), size = fallen ? side : side * 3 / 5;
-    flag.Draw(buffer.Dc(), (side - size) / 2, (side - size) / 2, size);
+    flag.Draw(buffer.Dc(), 0, (side - size) / 2, size);
 }
 
 void ClockPainter::DrawHand(const DRAWITEMSTRUCT& item, Side side, const Picture& hand, bool enabled) const {

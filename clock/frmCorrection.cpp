@@ -16,12 +16,12 @@ constexpr DialogItem Head(Side side) {
     return {
         ControlOf(lblCorrectionOf, side), WC_STATICW, SS_NOPREFIX | SS_ENDELLIPSIS, {166 + 126 * side, 16, 116, 20}};
 }
-constexpr DialogItem Caption(int id, int top) { return {id, WC_STATICW, SS_LEFT, {20, top + 3, 140, 20}}; }
+constexpr DialogItem Caption(int id, int top) { return {id, WC_STATICW, SS_LEFT, {20, top + 2, 140, 18}}; }
 constexpr DialogItem Field(int id, Side side, int top, DWORD style = 0) {
     return {ControlOf(id, side),
             WC_EDITW,
             WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL | style,
-            {166 + 126 * side, top, 110, 24}};
+            {166 + 126 * side, top, 110, DialogItem::FieldHeight}};
 }
 
 constexpr std::array Items{
@@ -33,8 +33,8 @@ constexpr std::array Items{
     Caption(lblCorrectMove, 80),
     Field(txtCorrectMove, White, 80, ES_NUMBER),
     Field(txtCorrectMove, Black, 80, ES_NUMBER),
-    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {186, 126, 104, 30}, TextId::ButtonSetupOk},
-    DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {300, 126, 104, 30}, TextId::ButtonCancel},
+    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {184, 126, 104, 30}, TextId::ButtonSetupOk},
+    DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {298, 126, 104, 30}, TextId::ButtonCancel},
 };
 
 constexpr int LongestTime = 10, LongestNumber = 5;

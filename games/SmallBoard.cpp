@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr Colour Edge{ColourOf(Look::CardEdge), COLOR_WINDOWTEXT};
+constexpr Colour Edge{ColourOf(Look::CardEdge), COLOR_WINDOWTEXT}, Ground{ColourOf(Look::Card), COLOR_BTNFACE};
 
 constexpr int IconSize = 48;  // the largest image of the pieces' icons
 
@@ -33,13 +33,16 @@ void SmallBoard::Draw(const DRAWITEMSTRUCT& item) const {
     const Buffered buffer(item);
     const RECT area = buffer.Area();
     const int room = static_cast<int>(std::min(area.right, area.bottom)), size = (room - 2) / 8;
-    Fill(buffer.Dc(), {0, 0, 8 * size + 2, 8 * size + 2}, Edge);
+    // Eight squares may leave a little of the room over.
+    const int whole = 8 * size + 2, origin = (room - whole) / 2;
+    Fill(buffer.Dc(), area, Ground);
+    Fill(buffer.Dc(), {origin, origin, origin + whole, origin + whole}, Edge);
     for (int index = 0; index < SquareIndexes; ++index) {
         if (!IsSquare(index)) continue;
         const Square square{index};
         const int column = blackBelow ? 8 - FileOf(square) : FileOf(square) - 1;
         const int row = blackBelow ? RankOf(square) - 1 : 8 - RankOf(square);
-        const int left = 1 + column * size, top = 1 + row * size;
+        const int left = origin + 1 + column * size, top = origin + 1 + row * size;
         DrawSquare(buffer.Dc(), {left, top, left + size, top + size}, IsLight(square));
         pieces[static_cast<size_t>(position.At(square))].Draw(buffer.Dc(), left, top, size);
     }

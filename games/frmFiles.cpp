@@ -15,52 +15,66 @@
 namespace {
 
 constexpr int Width = 768, Height = 396;
+// The names of the games, what is known of one, and the buttons.
+constexpr int Left = 16, LeftWidth = 350, Summary = 382, SummaryWidth = 228, Right = 626, RightWidth = 126;
+constexpr int InSummary = Summary + 17, InSummaryWidth = SummaryWidth - 34;
 
+constexpr DialogItem Panel(int id, int left, int width) {
+    return {id, WC_BUTTONW, BS_GROUPBOX | BS_FLAT, {left, 12, width, 372}};
+}
 constexpr DialogItem Label(int id, Box box, std::optional<TextId> text = std::nullopt) {
     return {id, WC_STATICW, SS_NOPREFIX, box, text};
 }
 constexpr DialogItem Button(int id, int top, TextId text, DWORD style = BS_PUSHBUTTON) {
-    return {id, WC_BUTTONW, WS_TABSTOP | style, {632, top, 112, 30}, text};
+    return {id, WC_BUTTONW, WS_TABSTOP | style, {Right, top, RightWidth, 30}, text};
 }
 
 constexpr DialogItem SortButton(int id, int left, TextId text, DWORD style = 0) {
-    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTORADIOBUTTON | style, {left, 348, 168, 22}, text};
+    return {id, WC_BUTTONW, WS_TABSTOP | BS_AUTORADIOBUTTON | style, {left, 362, 170, 22}, text};
 }
+// The players come first, and what is known of the game is quieter.
 constexpr DialogItem SummaryLine(int line) {
-    return {lblSummary + line, WC_STATICW, SS_NOPREFIX | SS_ENDELLIPSIS, {404, 236 + 22 * line, 196, 18}};
+    const bool player = line < 2;
+    return {lblSummary + line,
+            WC_STATICW,
+            SS_NOPREFIX | SS_ENDELLIPSIS,
+            {InSummary, 236 + 22 * line + (player ? 0 : 6), InSummaryWidth, 18},
+            std::nullopt,
+            player ? Look::Text : Look::QuietText};
 }
 
 // The three actions share a place: the mode shows one of them.
-constexpr int ActionTop = 26;
+constexpr int ActionTop = 12;
 
 // The texts over the field and the list begin with a blank.
 constexpr std::array Items{
-    DialogItem{fraGames, WC_BUTTONW, BS_GROUPBOX, {12, 12, 370, 372}},
-    Label(lblHint, {26, 24, 342, 36}),
-    Label(lblGameName, {22, 66, 346, 18}, TextId::SelectedGame),
-    DialogItem{txtGameName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {26, 86, 342, 23}},
-    Label(lblGames, {22, 122, 346, 18}, TextId::SavedGameList),
+    Panel(fraGames, Left, LeftWidth),
+    Label(lblHint, {Left, 14, LeftWidth, 36}),
+    Label(lblGameName, {Left - 4, 58, LeftWidth + 4, 18}, TextId::SelectedGame),
+    DialogItem{
+        txtGameName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {Left, 77, LeftWidth, DialogItem::FieldHeight}},
+    Label(lblGames, {Left - 4, 114, LeftWidth + 4, 18}, TextId::SavedGameList),
     DialogItem{lstGames,
                WC_LISTBOXW,
                WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
-               {26, 142, 342, 198}},
-    SortButton(optByName, 26, TextId::SortByName, WS_GROUP),
-    SortButton(optByDate, 200, TextId::SortByDate),
-    DialogItem{fraSummary, WC_BUTTONW, BS_GROUPBOX, {392, 12, 220, 372}},
-    Label(lblSummaryNote, {404, 26, 196, 196}),
-    DialogItem{picPosition, WC_STATICW, SS_OWNERDRAW, {405, 26, 194, 194}},
+               {Left, 133, LeftWidth, 221}},
+    SortButton(optByName, Left, TextId::SortByName, WS_GROUP),
+    SortButton(optByDate, Left + 180, TextId::SortByDate),
+    DialogItem{fraSummary, WC_BUTTONW, BS_GROUPBOX, {Summary, 12, SummaryWidth, 372}},
+    Label(lblSummaryNote, {InSummary, 29, InSummaryWidth, 196}),
+    DialogItem{picPosition, WC_STATICW, SS_OWNERDRAW, {InSummary, 29, InSummaryWidth, InSummaryWidth}},
     SummaryLine(0),
     SummaryLine(1),
     SummaryLine(2),
     SummaryLine(3),
     SummaryLine(4),
     SummaryLine(5),
-    DialogItem{fraActions, WC_BUTTONW, BS_GROUPBOX, {622, 12, 134, 372}},
+    Panel(fraActions, Right, RightWidth),
     Button(cmdLoad, ActionTop, TextId::ButtonLoad, BS_DEFPUSHBUTTON),
     Button(cmdSave, ActionTop, TextId::ButtonSave, BS_DEFPUSHBUTTON),
     Button(cmdDelete, ActionTop, TextId::ButtonDelete, BS_DEFPUSHBUTTON),
-    Button(cmdCancel, 64, TextId::ButtonClose),
-    Button(cmdHelp, 340, TextId::ButtonGamesHelp),
+    Button(cmdCancel, 52, TextId::ButtonClose),
+    Button(cmdHelp, 354, TextId::ButtonGamesHelp),
 };
 
 // What differs between the modes.

@@ -21,7 +21,7 @@ class frmFiles : public Dialog {
     // `store` and `game` must outlive the dialog. `openHelp` opens the help page of saved games over a window.
     frmFiles(const Surroundings& around, const GameStore& store, Game& game, FilesMode mode,
              std::function<void(HWND)> openHelp)
-        : Dialog(around, {around.System.Look.BackgroundColour, around.System.Look.BackgroundColour}),
+        : Dialog(around, {around.System.Look.BackgroundColour, Look::Card}),
           store(store),
           game(game),
           mode(mode),

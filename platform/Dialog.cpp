@@ -13,7 +13,6 @@ namespace {
 
 // Of the 96 dpi design.
 constexpr int ScrollStep = 20;
-constexpr int ListLine = 18;  // what a shut list shows
 
 Colour Own(uint32_t colour) { return {ColourOf(colour), COLOR_BTNFACE}; }
 
@@ -79,9 +78,9 @@ void Dialog::Arrange() {
         if (!font) font = MakeFont(Scaled(item.Type.Height, fit.Dpi), item.Type.Bold);
         SendMessageW(Control(item.Id), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
         const auto [left, top, right, bottom] = PlaceOf(item);
-        if (std::wstring_view(item.Kind) == WC_COMBOBOXW)
-            SendMessageW(Control(item.Id), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), Scaled(ListLine, fit.Dpi));
         SetWindowPos(Control(item.Id), nullptr, left, top, right - left, bottom - top, SWP_NOZORDER | SWP_NOACTIVATE);
+        if (std::wstring_view(item.Kind) == WC_COMBOBOXW)
+            SetShutHeight(Control(item.Id), Scaled(DialogItem::FieldHeight, fit.Dpi));
     }
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -91,7 +90,7 @@ void Dialog::DrawGround(HDC dc) const {
     GetClientRect(Window(), &client);
     FillRect(dc, &client, ground.get());
     for (const DialogItem& item : items) {
-        if (item.IsGroup()) DrawCard(dc, PlaceOf(item), Scaled(Look::CardCorner, fit.Dpi), cardColour);
+        if (item.IsCard()) DrawCard(dc, PlaceOf(item), Scaled(Look::CardCorner, fit.Dpi), cardColour);
     }
 }
 
@@ -102,7 +101,7 @@ HBRUSH Dialog::DrawOnGround(HDC dc, int id) const {
     if (found == items.end()) return ground.get();
     SetTextColor(dc, InkOf(found->Type));
     const bool onCard = std::any_of(items.begin(), items.end(), [&](const DialogItem& item) {
-        return item.IsGroup() && item.Box.Left <= found->Box.Left && found->Box.Right() <= item.Box.Right() &&
+        return item.IsCard() && item.Box.Left <= found->Box.Left && found->Box.Right() <= item.Box.Right() &&
                item.Box.Top <= found->Box.Top && found->Box.Top < item.Box.Bottom();
     });
     return onCard ? card.get() : ground.get();

@@ -24,11 +24,17 @@ struct DialogItem {
     std::optional<TextId> Text = std::nullopt;
     Look::TypeStyle Type = Look::Text;
 
+    // That of a drop-down list while it is shut, whatever its box says, and of a field: a higher one would have its
+    // text too far up.
+    static constexpr int FieldHeight = 21;
+
     bool IsButton() const { return std::wstring_view(Kind) == WC_BUTTONW; }
     bool IsGroup() const { return IsButton() && (Style & BS_TYPEMASK) == BS_GROUPBOX; }
+    // A flat group box only groups.
+    bool IsCard() const { return IsGroup() && !(Style & BS_FLAT); }
 };
 
-// The colours of a dialog and of the cards on it, which its group boxes become.
+// The colours of a dialog and of the cards on it, which its group boxes become unless they are flat.
 struct DialogColours {
     uint32_t Ground, Card;
 };

@@ -24,6 +24,14 @@ bool IsOfKind(HWND control, const wchar_t* kind) {
     return GetClassNameW(control, name, 32) && lstrcmpiW(name, kind) == 0;
 }
 
+void SetShutHeight(HWND list, int height) {
+    // Systems differ in what they add to the height that can be set.
+    RECT area{};
+    GetWindowRect(list, &area);
+    const LRESULT line = SendMessageW(list, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
+    SendMessageW(list, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), line + height - (area.bottom - area.top));
+}
+
 Form::~Form() {
     if (window) DestroyWindow(window);
 }

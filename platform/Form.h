@@ -15,6 +15,9 @@ RECT WorkArea(HWND window);
 // Whether a control is of that window class; null is of none.
 bool IsOfKind(HWND control, const wchar_t* kind);
 
+// Gives a drop-down list that height, in pixels, while it is shut.
+void SetShutHeight(HWND list, int height);
+
 // Base of every window of the program: one window class for each form, one virtual function for its messages, and the
 // one place where the exceptions of handlers end.
 class Form {

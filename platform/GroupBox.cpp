@@ -18,7 +18,7 @@ void DrawHeading(HWND box, HDC dc) {
     RECT area{};
     GetClientRect(box, &area);
     area.left += type.tmHeight * 8 / 7;
-    area.top += type.tmHeight * 2 / 3;
+    area.top += type.tmHeight / 2;
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, InkOf(Look::Heading));
     DrawTextW(dc, text, length, &area, DT_SINGLELINE | DT_NOCLIP);

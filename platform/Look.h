@@ -47,7 +47,7 @@ struct TypeStyle {
     uint32_t Ink;
 };
 inline constexpr TypeStyle Text{13, false, Ink}, QuietText{13, false, QuietInk};
-inline constexpr TypeStyle Heading{12, true, QuietInk}, Value{15, true, Ink}, Title{20, true, Ink};
+inline constexpr TypeStyle Heading{12, true, QuietInk}, Value{15, true, Ink};
 
 // The edge of a card in a dialog, and the radius of its corners, in the same pixels.
 inline constexpr uint32_t CardEdge = 0xA19D95;

@@ -59,6 +59,7 @@ void ScorletControls::Place(int width, int height, int dpi, bool turned) {
     place(lblSay, Layout.SayLabel);
     // The height of a drop-down list counts its open part.
     place(cmbSay, {Layout.Say.Left, Layout.Say.Top, Layout.Say.Width, 8 * Layout.Say.Height});
+    SetShutHeight(form.Control(cmbSay), Layout.Say.Height);
     place(lblWhoseMove, Layout.WhoseMove);
     for (Side side : BothSides) {
         place(ControlOf(lblPlayer, side), Layout.ListHeads[side]);

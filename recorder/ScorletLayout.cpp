@@ -78,7 +78,11 @@ class Arrangement {
         layout.WhoseMove = {left, layout.Say.Bottom() + gap, wide, whoseMove};
 
         const int okWidth = Unit(60), column = (wide - margin) / 2;
-        const int promotionLeft = below ? right - column : left, promotionTop = height - margin - picture;
+        // Both columns end on one line where that leaves little room empty.
+        const int trayBottom = layout.CapturedRows[Black].Bottom();
+        const bool aligned = !below && height - margin - trayBottom < 2 * field;
+        const int promotionLeft = below ? right - column : left;
+        const int promotionTop = (aligned ? trayBottom : height - margin) - picture;
         for (int i = 0; i < 4; ++i)
             layout.Promotion[static_cast<size_t>(i)] = {promotionLeft + i * (picture + gap), promotionTop, picture,
                                                         picture};
@@ -89,7 +93,9 @@ class Arrangement {
         layout.EditOk = {layout.Edit.Right() + gap, editTop, okWidth, field};
 
         const int sheetTop = layout.WhoseMove.Bottom() + gap;
-        layout.Sheet = {left, sheetTop, wide, std::min(layout.Edit.Top, layout.PromotionTitle.Top) - gap - sheetTop};
+        int sheetBottom = std::min(layout.Edit.Top, layout.PromotionTitle.Top) - gap;
+        if (aligned) sheetBottom = std::min(sheetBottom, layout.Board.Bottom());
+        layout.Sheet = {left, sheetTop, wide, sheetBottom - sheetTop};
         const int edge = Unit(1), listTop = sheetTop + edge + line, half = (wide - 3 * edge) / 2;
         for (Side side : BothSides) {
             const int listLeft = side == White ? left + edge : right - edge - half;
@@ -101,7 +107,7 @@ class Arrangement {
     const int width, height;
     const bool below;
     const int dpi, scale;  // dots per inch: of the screen, and those that the lengths are drawn for
-    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24), whoseMove = Unit(below ? 34 : 50);
+    const int margin = Unit(8), gap = Unit(4), line = Unit(18), field = Unit(24), whoseMove = Unit(below ? 34 : 46);
     const int picture = Yielding(36), leastSheet = line + Yielding(80);
     ScorletLayout layout{};
 };

@@ -8,6 +8,7 @@
 #include "resources/resource.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -15,6 +16,8 @@ constexpr Colour SheetColour{ColourOf(Look::Sheet), COLOR_WINDOW},
     ChosenColour{ColourOf(Look::Chosen), COLOR_HIGHLIGHT};
 constexpr Colour Ink{ColourOf(Look::Ink), COLOR_WINDOWTEXT}, QuietInk{ColourOf(Look::QuietInk), COLOR_WINDOWTEXT};
 constexpr Colour ChosenInk{ColourOf(Look::Ink), COLOR_HIGHLIGHTTEXT};
+constexpr Colour ChosenBeforeColour{ColourOf(Look::Tray), COLOR_BTNFACE},
+    ChosenBeforeInk{ColourOf(Look::Ink), COLOR_BTNTEXT};
 
 // Whether a message of a list is the choice of a row.
 bool ChoosesRow(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -76,7 +79,15 @@ size_t ScorletLists::RowsThatFit() const {
     return height > 0 ? static_cast<size_t>(client.bottom / height) : 0;
 }
 
-void ScorletLists::Choose(const ChosenLine& line) const { SendMessageW(List(line.List), LB_SETCURSEL, line.Index, 0); }
+void ScorletLists::Choose(const ChosenLine& line) {
+    SendMessageW(List(line.List), LB_SETCURSEL, line.Index, 0);
+    Prefer(line.List);
+}
+
+void ScorletLists::Prefer(Side side) {
+    if (std::exchange(latest, side) == side) return;
+    for (Side each : BothSides) InvalidateRect(List(each), nullptr, FALSE);
+}
 
 void ScorletLists::ChooseNone() const {
     for (Side side : BothSides) SendMessageW(List(side), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
@@ -97,7 +108,7 @@ ChosenLines ScorletLists::Chosen() const {
     return lines;
 }
 
-std::optional<Side> ScorletLists::Step(bool forward) const {
+std::optional<Side> ScorletLists::Step(bool forward) {
     const Side from = GetFocus() == List(White) ? White : Black, to = Other(from);
     const auto chosen = Chosen(from);
     if (!chosen) return std::nullopt;
@@ -113,21 +124,22 @@ std::optional<Side> ScorletLists::Step(bool forward) const {
     return to;
 }
 
-void ScorletLists::OnChoice(Side side) const {
+void ScorletLists::OnChoice(Side side) {
     if (!Chosen(side)) Choose({side, recorder.List(side).Entries().size() - 1});
+    Prefer(side);
 }
 
 void ScorletLists::Draw(const DRAWITEMSTRUCT& item, Side side) const {
     const Buffered buffer(item);
     const RECT area = buffer.Area();
-    const bool chosen = item.itemState & ODS_SELECTED;
-    ::Fill(buffer.Dc(), area, chosen ? ChosenColour : SheetColour);
+    const bool chosen = item.itemState & ODS_SELECTED, standsOut = chosen && side == latest;
+    ::Fill(buffer.Dc(), area, standsOut ? ChosenColour : chosen ? ChosenBeforeColour : SheetColour);
     const auto& entries = recorder.List(side).Entries();
     const auto index = static_cast<size_t>(item.itemID);
     if (index < entries.size()) {
         const Selection font(buffer.Dc(), reinterpret_cast<HGDIOBJ>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0)));
         const auto write = [&](const std::wstring& text, RECT place, UINT alignment, bool quiet) {
-            SetTextColor(buffer.Dc(), chosen ? ChosenInk : quiet ? QuietInk : Ink);
+            SetTextColor(buffer.Dc(), standsOut ? ChosenInk : chosen ? ChosenBeforeInk : quiet ? QuietInk : Ink);
             DrawTextW(buffer.Dc(), text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | alignment);
         };
         // The moves begin one below the other, whatever the number of digits before them.
@@ -136,13 +148,9 @@ void ScorletLists::Draw(const DRAWITEMSTRUCT& item, Side side) const {
         GetTextExtentPoint32W(buffer.Dc(), last.c_str(), static_cast<int>(last.size()), &widest);
         const LONG edge = area.bottom / 8;
         RECT number{edge, 0, edge + widest.cx, area.bottom}, move{number.right, 0, area.right, area.bottom};
-        const std::wstring line = FromAnsi(recorder.List(side).Line(index, side));
-        const size_t point = line.find(L". ");
-        if (point != std::wstring::npos)
-            write(line.substr(0, point + 2), number, DT_RIGHT, entries[index].IsWaiting());
-        else if (!entries[index].IsResult())
-            write(std::to_wstring(index + 1) + L"  ", number, DT_RIGHT, true);
-        write(point != std::wstring::npos ? line.substr(point + 2) : line, move, DT_LEFT, entries[index].IsWaiting());
+        const MoveEntry& entry = entries[index];
+        if (!entry.IsResult()) write(std::to_wstring(entry.Number) + L". ", number, DT_RIGHT, true);
+        write(FromAnsi(entry.Text), move, DT_LEFT, entry.IsWaiting());
     }
     if (item.itemState & ODS_FOCUS && !(item.itemState & ODS_NOFOCUSRECT)) DrawFocusRect(buffer.Dc(), &area);
 }

@@ -19,7 +19,7 @@ class ScorletLists {
     // Scrolls to the last row, whatever is chosen.
     void ShowLast() const;
     // Chooses a line and shows it.
-    void Choose(const ChosenLine& line) const;
+    void Choose(const ChosenLine& line);
     void ChooseNone() const;
     // The chosen line of a list; no value where that holds no entry.
     std::optional<size_t> Chosen(Side side) const;
@@ -27,10 +27,10 @@ class ScorletLists {
     ChosenLines Chosen() const;
     // Goes from the chosen line of the list that has the focus to the half-move after it, or with false before it: it
     // is chosen, and its list has the focus. Returns its list; no value where there is none.
-    std::optional<Side> Step(bool forward) const;
+    std::optional<Side> Step(bool forward);
     // The players have chosen a row: of the empty ones, that is the last entry.
-    void OnChoice(Side side) const;
-    // Draws a row: a line as its list has it, and in Black's list the number of the row before it.
+    void OnChoice(Side side);
+    // Draws a row, with its number in both lists. Of two chosen lines the one that was chosen last stands out.
     void Draw(const DRAWITEMSTRUCT& item, Side side) const;
 
   private:
@@ -39,10 +39,12 @@ class ScorletLists {
     size_t Rows() const;
     size_t RowsThatFit() const;
     void Follow(HWND list) const;
+    void Prefer(Side side);
 
     static LRESULT CALLBACK Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                       DWORD_PTR self);
 
     Form& form;
     const Recorder& recorder;
+    Side latest = White;  // the list in which a line was chosen last
 };

@@ -16,7 +16,7 @@ constexpr Colour Own(uint32_t redGreenBlue, int system) { return {ColourOf(redGr
 constexpr Colour MarkedColour = Own(Look::LightLast, COLOR_WINDOW);
 constexpr Colour PickedColour = Own(Look::Picked, COLOR_HIGHLIGHT), LastColour = Own(Look::LastMark, COLOR_WINDOWTEXT);
 constexpr Colour TrayColour = Own(Look::Tray, COLOR_WINDOW), SheetColour = Own(Look::Sheet, COLOR_WINDOW);
-constexpr Colour LineColour = Own(Look::Line, COLOR_WINDOWTEXT);
+constexpr Colour LineColour = Own(Look::Line, COLOR_WINDOWTEXT), InkColour = Own(Look::Ink, COLOR_WINDOWTEXT);
 
 struct LineColours {
     Colour Ground, Edge, Ink;
@@ -122,9 +122,9 @@ void ScorletPainter::DrawCell(const DRAWITEMSTRUCT& item, Square square, const C
     if (look.Origin || look.Target) ThickFrame(buffer.Dc(), area, PickedColour, thickness + 1);
     if (!look.Lifted) PictureOf(look.Shown).Draw(buffer.Dc(), 0, 0, size);
     if (look.Cursor) {
-        InflateRect(&area, -thickness, -thickness);
-        SetTextColor(buffer.Dc(), RGB(0, 0, 0));
-        DrawFocusRect(buffer.Dc(), &area);
+        // Inside the frame of a picked piece.
+        InflateRect(&area, -thickness - 1, -thickness - 1);
+        ThickFrame(buffer.Dc(), area, InkColour, thickness);
     }
 }
 

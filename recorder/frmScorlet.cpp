@@ -79,7 +79,9 @@ void frmScorlet::ShowRecord(std::optional<ChosenLine> chosen) {
 
 void frmScorlet::RecordChanged(const ChosenLines& chosen) {
     ShowRecord();
-    for (Side side : BothSides) {
+    // The later move last.
+    const bool whiteIsLater = chosen[White] > chosen[Black];
+    for (const Side side : {whiteIsLater ? Black : White, whiteIsLater ? White : Black}) {
         if (chosen[side]) controls.Lists.Choose({side, *chosen[side]});
     }
     controls.Lists.ShowLast();

@@ -10,6 +10,8 @@ namespace SetupItems {
 
 constexpr int Width = 752, Height = 552;
 constexpr int LineHeight = 18, OpenListHeight = 240;
+// Of fields, lists and the buttons beside them. A label is this far above what it names.
+constexpr int FieldHeight = DialogItem::FieldHeight, LabelPitch = 19;
 
 // Two columns of cards, what they hold, and the row of buttons.
 constexpr int Left = 12, LeftWidth = 416, Right = 438, RightWidth = 302;
@@ -40,7 +42,7 @@ constexpr DialogItem Button(int id, Box box, TextId text, bool first = false) {
     return {id, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON | (first ? DWORD{WS_GROUP} : 0), box, text};
 }
 constexpr DialogItem Name(int id, int left, int top) {
-    return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, SideWidth, 23}};
+    return {id, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {left, top, SideWidth, FieldHeight}};
 }
 // A caption over the scroll bars of both sides; what it says, and whether there is anything, depends on the clock type.
 constexpr DialogItem TimeCaption(int id, int top) {
@@ -50,65 +52,66 @@ constexpr DialogItem Unit(int id, int top, TextId text) {
     return {id,   WC_STATICW,     SS_RIGHT | SS_NOTIFY, {InLeft + InLeftWidth - 84, top, 84, LineHeight},
             text, Look::QuietText};
 }
+// Its edge shows how far it reaches: in some styles of the system the track has the colour of the card.
 constexpr DialogItem Bar(int id, int left, int top) {
-    return {id, WC_SCROLLBARW, WS_TABSTOP | SBS_HORZ, {left, top, 100, 20}};
+    return {id, WC_SCROLLBARW, WS_TABSTOP | WS_BORDER | SBS_HORZ, {left, top, 100, 22}};
 }
 // As wide as the longest time that a settings file can hold.
 constexpr DialogItem Value(int id, int left, int top) {
-    return {id, WC_STATICW, SS_RIGHT, {left + 104, top, SideWidth - 104, 20}, std::nullopt, Look::Value};
+    return {id, WC_STATICW, SS_RIGHT, {left + 104, top + 2, SideWidth - 104, 20}, std::nullopt, Look::Value};
 }
 
 constexpr std::array Items{
-    Group(fraClockType, {Left, 12, LeftWidth, 92}, TextId::ClockTypeGroup),
-    BlankLabel(lblClockType, InLeft, 42, InLeftWidth, TextId::SelectClockType),
-    List(cmbClockType, InLeft, 62, InLeftWidth),
-    Group(fraPlayers, {Left, 114, LeftWidth, 302}, TextId::PlayersGroup),
-    BlankLabel(lblName, WhiteLeft, 142, SideWidth, TextId::WhiteName),
-    Name(txtName, WhiteLeft, 162),
-    BlankLabel(lblName + 1, BlackLeft, 142, SideWidth, TextId::BlackName),
-    Name(txtName + 1, BlackLeft, 162),
-    TimeCaption(lblFirstCaption, 208),
-    Unit(lblFirstUnit, 208, TextId::HoursMinutes),
-    Bar(hsbFirstPeriod, WhiteLeft, 230),
-    Value(lblFirstPeriod, WhiteLeft, 230),
-    Bar(hsbFirstPeriod + 1, BlackLeft, 230),
-    Value(lblFirstPeriod + 1, BlackLeft, 230),
-    TimeCaption(lblSecondCaption, 276),
-    Unit(lblSecondUnit, 276, TextId::HoursMinutes),
-    Bar(hsbSecondPeriod, WhiteLeft, 298),
-    Value(lblSecondPeriod, WhiteLeft, 298),
-    Bar(hsbSecondPeriod + 1, BlackLeft, 298),
-    Value(lblSecondPeriod + 1, BlackLeft, 298),
-    TimeCaption(lblBonusCaption, 344),
-    Unit(lblBonusUnit, 344, TextId::MinutesSeconds),
-    Bar(hsbBonus, WhiteLeft, 366),
-    Value(lblBonusValue, WhiteLeft, 366),
-    Bar(hsbBonus + 1, BlackLeft, 366),
-    Value(lblBonusValue + 1, BlackLeft, 366),
-    Group(fraTimes, {Left, 426, LeftWidth, 72}, TextId::TimeControlGroup),
-    List(cmbTimes, InLeft, 455, 184),
-    Button(cmdKeepAs, {InLeft + 192, 454, 108, 24}, TextId::KeepAs, true),
-    Button(cmdRemoveTimes, {InLeft + 308, 454, 76, 24}, TextId::RemoveTimes),
-    Group(frameLanguage, {Right, 12, RightWidth, 68}, TextId::LanguageGroup),
-    List(cmbLanguage, InRight, 42, InRightWidth),
-    Group(fraScorlet, {Right, 90, RightWidth, 132}, TextId::ScorletGroup),
-    CheckBox(chkOpenScorlet, 118, TextId::OpenScorlet),
-    CheckBox(chkPGN, 141, TextId::SavePgn),
-    Label(lblMoveAmount, InRight, 167, InRightWidth, TextId::MoveAmount),
-    List(cmbMoveAmount, InRight, 186, 100),
-    Group(fraSound, {Right, 232, RightWidth, 128}, TextId::SoundGroup),
-    Label(lblButtonSound, InRight, 260, InRightWidth, TextId::ButtonSound),
-    List(cmbButtonSound, InRight, 279, 170),
-    Button(cmdPreviewButton, {InRight + InRightWidth - 92, 278, 92, 24}, TextId::Preview, true),
-    Label(lblFlagSound, InRight, 307, InRightWidth, TextId::FlagSound),
-    List(cmbFlagSound, InRight, 326, 170),
-    Button(cmdPreviewFlag, {InRight + InRightWidth - 92, 325, 92, 24}, TextId::Preview, true),
-    Group(fraMiscellaneous, {Right, 370, RightWidth, 128}, TextId::MiscellaneousGroup),
-    CheckBox(chkShowMoveNumber, 396, TextId::ShowMoveNumber),
-    CheckBox(chkTurnClock, 419, TextId::TurnClock),
-    CheckBox(chkCountTimeDown, 442, TextId::CountTimeDown),
-    Label(lblLowTime, InRight, 470, InRightWidth - 112, TextId::LowTimeWarning),
-    List(cmbLowTime, InRight + InRightWidth - 104, 466, 104),
+    Group(fraClockType, {Left, 12, LeftWidth, 82}, TextId::ClockTypeGroup),
+    BlankLabel(lblClockType, InLeft, 38, InLeftWidth, TextId::SelectClockType),
+    List(cmbClockType, InLeft, 38 + LabelPitch, InLeftWidth),
+    Group(fraPlayers, {Left, 104, LeftWidth, 318}, TextId::PlayersGroup),
+    BlankLabel(lblName, WhiteLeft, 130, SideWidth, TextId::WhiteName),
+    Name(txtName, WhiteLeft, 130 + LabelPitch),
+    BlankLabel(lblName + 1, BlackLeft, 130, SideWidth, TextId::BlackName),
+    Name(txtName + 1, BlackLeft, 130 + LabelPitch),
+    TimeCaption(lblFirstCaption, 205),
+    Unit(lblFirstUnit, 205, TextId::HoursMinutes),
+    Bar(hsbFirstPeriod, WhiteLeft, 227),
+    Value(lblFirstPeriod, WhiteLeft, 227),
+    Bar(hsbFirstPeriod + 1, BlackLeft, 227),
+    Value(lblFirstPeriod + 1, BlackLeft, 227),
+    TimeCaption(lblSecondCaption, 283),
+    Unit(lblSecondUnit, 283, TextId::HoursMinutes),
+    Bar(hsbSecondPeriod, WhiteLeft, 305),
+    Value(lblSecondPeriod, WhiteLeft, 305),
+    Bar(hsbSecondPeriod + 1, BlackLeft, 305),
+    Value(lblSecondPeriod + 1, BlackLeft, 305),
+    TimeCaption(lblBonusCaption, 362),
+    Unit(lblBonusUnit, 362, TextId::MinutesSeconds),
+    Bar(hsbBonus, WhiteLeft, 384),
+    Value(lblBonusValue, WhiteLeft, 384),
+    Bar(hsbBonus + 1, BlackLeft, 384),
+    Value(lblBonusValue + 1, BlackLeft, 384),
+    Group(fraTimes, {Left, 432, LeftWidth, 66}, TextId::TimeControlGroup),
+    List(cmbTimes, InLeft, 461, 184),
+    Button(cmdKeepAs, {InLeft + 192, 461, 108, FieldHeight}, TextId::KeepAs, true),
+    Button(cmdRemoveTimes, {InLeft + 308, 461, 76, FieldHeight}, TextId::RemoveTimes),
+    Group(frameLanguage, {Right, 12, RightWidth, 66}, TextId::LanguageGroup),
+    List(cmbLanguage, InRight, 41, InRightWidth),
+    Group(fraScorlet, {Right, 88, RightWidth, 130}, TextId::ScorletGroup),
+    CheckBox(chkOpenScorlet, 114, TextId::OpenScorlet),
+    CheckBox(chkPGN, 136, TextId::SavePgn),
+    Label(lblMoveAmount, InRight, 162, InRightWidth, TextId::MoveAmount),
+    List(cmbMoveAmount, InRight, 162 + LabelPitch, 100),
+    Group(fraSound, {Right, 228, RightWidth, 130}, TextId::SoundGroup),
+    Label(lblButtonSound, InRight, 254, InRightWidth, TextId::ButtonSound),
+    List(cmbButtonSound, InRight, 254 + LabelPitch, 170),
+    Button(cmdPreviewButton, {InRight + InRightWidth - 92, 254 + LabelPitch, 92, FieldHeight}, TextId::Preview, true),
+    Label(lblFlagSound, InRight, 302, InRightWidth, TextId::FlagSound),
+    List(cmbFlagSound, InRight, 302 + LabelPitch, 170),
+    Button(cmdPreviewFlag, {InRight + InRightWidth - 92, 302 + LabelPitch, 92, FieldHeight}, TextId::Preview, true),
+    Group(fraMiscellaneous, {Right, 368, RightWidth, 130}, TextId::MiscellaneousGroup),
+    CheckBox(chkShowMoveNumber, 394, TextId::ShowMoveNumber),
+    CheckBox(chkTurnClock, 416, TextId::TurnClock),
+    CheckBox(chkCountTimeDown, 438, TextId::CountTimeDown),
+    Label(lblLowTime, InRight, 464, InRightWidth - 112, TextId::LowTimeWarning),
+    List(cmbLowTime, InRight + InRightWidth - 104, 461, 104),
     Button(cmdDefault, {Left, ButtonRow, 116, 30}, TextId::ButtonDefault, true),
     Button(cmdBlitz, {Left + 126, ButtonRow, 116, 30}, TextId::ButtonBlitz),
     DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {408, ButtonRow, 104, 30}, TextId::ButtonSetupOk},

@@ -12,17 +12,20 @@ namespace {
 constexpr std::array KnightNames{"WN", "BN", "BNR", "WNR"};
 
 // The knights of both columns face the texts.
-constexpr int Width = 726, Height = 250, Knight = 96, Row = 44;
+constexpr int Width = 726, Height = 250, Knight = 96, FirstRow = 50, Row = 44;
 
 constexpr DialogItem KnightAt(int index, int left, int top) {
     return {imgKnight + index, WC_STATICW, SS_OWNERDRAW, {left, top, Knight, Knight}};
 }
 constexpr DialogItem CaptionAt(int row, TextId text) {
-    return {lblAboutCaption + row,          WC_STATICW, SS_NOPREFIX | SS_RIGHT,
-            {124, 44 + Row * row, 130, 36}, text,       Look::QuietText};
+    return {lblAboutCaption + row, WC_STATICW, SS_NOPREFIX | SS_RIGHT, {124, FirstRow + Row * row, 130, 36}, text,
+            Look::QuietText};
 }
 constexpr DialogItem ValueAt(int row, Look::TypeStyle type = Look::Text) {
-    return {lblAboutValue + row, WC_STATICW, SS_NOPREFIX, {266, 44 + Row * row, 338, 36}, std::nullopt, type};
+    // The larger type reaches further up from the line that it shares with its caption.
+    const int up = type.Height - Look::Text.Height;
+    return {lblAboutValue + row, WC_STATICW, SS_NOPREFIX, {266, FirstRow + Row * row - up, 338, 36},
+            std::nullopt,        type};
 }
 
 constexpr std::array Items{

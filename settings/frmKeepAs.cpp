@@ -8,14 +8,14 @@
 
 namespace {
 
-constexpr int Width = 360, Height = 140;
+constexpr int Width = 360, Height = 136;
 
 constexpr std::array Items{
-    DialogItem{fraTimesName, WC_BUTTONW, BS_GROUPBOX, {12, 12, 336, 74}},
+    DialogItem{fraTimesName, WC_BUTTONW, BS_GROUPBOX, {12, 12, 336, 70}},
     DialogItem{lblTimesName, WC_STATICW, SS_NOPREFIX, {28, 24, 304, 18}, TextId::TimeControlName},
-    DialogItem{txtTimesName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {28, 46, 304, 23}},
-    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {130, 98, 104, 30}, TextId::ButtonSetupOk},
-    DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {244, 98, 104, 30}, TextId::ButtonCancel},
+    DialogItem{txtTimesName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {28, 45, 304, DialogItem::FieldHeight}},
+    DialogItem{cmdOK, WC_BUTTONW, WS_TABSTOP | BS_DEFPUSHBUTTON, {130, 94, 104, 30}, TextId::ButtonSetupOk},
+    DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {244, 94, 104, 30}, TextId::ButtonCancel},
 };
 
 }  // namespace

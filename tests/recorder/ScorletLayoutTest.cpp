@@ -92,12 +92,12 @@ TEST(ScorletLayoutTest, IsLaidOutAsItWasDrawn) {
 TEST(ScorletLayoutTest, TheBoardTakesTheRoomInEitherForm) {
     ExpectRows(Measures, R"(
         As it was drawn, larger, and at other resolutions.
-        720 590 96 => beside 57 31 13 13% | 1080 885 144 => beside 86 47 20 13% | 1440 1180 192 => beside 115 63 26 12%
-        1440 1180 96 => beside 115 63 26 12% | 1600 1000 96 => beside 99 53 22 13% | 640 730 96 => beside 47 26 13 32%
+        720 590 96 => beside 57 31 13 14% | 1080 885 144 => beside 86 47 20 13% | 1440 1180 192 => beside 115 63 26 13%
+        1440 1180 96 => beside 115 63 26 13% | 1600 1000 96 => beside 99 53 22 14% | 640 730 96 => beside 47 26 13 32%
         Low, narrow and small, down to the least, where all but the board shrinks.
-        1600 420 96 => beside 40 22 12 20% | 500 730 96 => below 48 26 13 27% | 360 730 96 => below 40 22 13 18%
+        1600 420 96 => beside 40 22 12 21% | 500 730 96 => below 48 26 13 27% | 360 730 96 => below 40 22 13 18%
         360 1200 96 => below 40 22 13 13% | 400 720 96 => below 45 25 13 18% | 351 433 96 => below 26 14 10 38%
         304 384 96 => below 21 12 10 41% | 456 576 144 => below 32 18 15 41% | 608 768 192 => below 43 23 20 41%
-        640 384 96 => beside 36 20 11 18% | 720 840 192 => below 51 27 20 41% | 1500 384 96 => beside 36 20 11 20%
+        640 384 96 => beside 36 20 11 18% | 720 840 192 => below 51 27 20 41% | 1500 384 96 => beside 36 20 11 21%
     )");
 }
