@@ -29,9 +29,11 @@ std::optional<Declaration> SayList::OnNotification(int notification) const {
 
 // While the list is closed, a key must not declare the entries that it passes over: it opens the list.
 LRESULT CALLBACK SayList::Procedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
-    if (!SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0)) {
-        if (message == WM_CHAR || message == WM_MOUSEWHEEL) return 0;
-        if (message == WM_KEYDOWN && wParam != VK_TAB && wParam != VK_F4) {
+    // Asked for these only: the question is a message too.
+    const bool isInput = message == WM_CHAR || message == WM_KEYDOWN || message == WM_MOUSEWHEEL;
+    if (isInput && !SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0)) {
+        if (message != WM_KEYDOWN) return 0;
+        if (wParam != VK_TAB && wParam != VK_F4) {
             if (wParam == VK_DOWN || wParam == VK_UP) SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
             return 0;
         }
