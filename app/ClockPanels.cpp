@@ -89,6 +89,7 @@ void ClockPanels::Arrange() {
     arranged = client;
     layout = LayOutClock(static_cast<int>(client.right), static_cast<int>(client.bottom));
     painter.SetLayout(layout);
+    painter.FitNames({ShownName(settings, texts, White), ShownName(settings, texts, Black)});
     for (Side side : BothSides) ArrangePanel(side);
     // Drawn controls show more or less at another size, so what they showed is no longer good.
     RedrawWindow(form.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -113,7 +114,7 @@ void ClockPanels::ArrangePanel(Side side) {
         if (font) SendMessageW(form.Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         move(id, box);
     };
-    place(lblSide, panel.Name, painter.NameFont(side, ShownName(settings, texts, side), panel.Name.Width));
+    place(lblSide, panel.Name, painter.NameFont());
     place(lblBlink, panel.Blink, painter.BlinkFont());
     place(lblFace, panel.Face);
     place(imgFlagUp, panel.Flag);
@@ -300,7 +301,11 @@ void ClockPanels::Draw(const DRAWITEMSTRUCT& item) {
     const std::wstring text = DrawnText(item.hwndItem);
     switch (pair) {
         case lblFace: return painter.DrawFace(item, side, look, commands.MarkOf(side), text);
-        case lblBlink: return painter.DrawMarkWord(item, look, text.empty() ? MarkWord(side) : text);
+        case lblBlink: {
+            // The mark of a paused clock keeps its word while the caption blinks.
+            const bool own = look == PanelLook::Paused || text.empty();
+            return painter.DrawMarkWord(item, look, own ? MarkWord(side) : text);
+        }
         case shpTurn: return painter.DrawTurnMark(item, side, static_cast<size_t>(id - TurnMark(side, 0)));
         case imgFlagUp: return painter.DrawFlag(item, flagUp, false);
         case imgFlagDown: return painter.DrawFlag(item, flagDown, true);

@@ -83,8 +83,9 @@ void WriteCentred(HDC dc, RECT area, HFONT font, COLORREF colour, const std::wst
 void DrawFocus(HDC dc, const RECT& top, COLORREF colour) {
     const int width = static_cast<int>(top.right - top.left), height = static_cast<int>(top.bottom - top.top);
     const int bar = std::max(height / 18, 2);
-    const LONG left = top.left + width * 5 / 12, bottom = top.bottom - height / 9;
-    FillRounded(dc, {left, bottom - bar, top.right - width * 5 / 12, bottom}, bar / 2, colour);
+    const int length = std::min(width / 3, height);
+    const LONG left = top.left + (width - length) / 2, bottom = top.bottom - height / 9;
+    FillRounded(dc, {left, bottom - bar, left + length, bottom}, bar / 2, colour);
 }
 
 // An arrow for a clock that runs, two bars for one that is paused.
@@ -126,16 +127,17 @@ void ClockPainter::SetLayout(const ClockLayout& newLayout) {
     faceType = {};
 }
 
-HFONT ClockPainter::NameFont(Side side, const std::wstring& name, int width) {
-    UniqueFont& font = nameFonts[side];
-    font = MakeFont(layout.NameType, true);
+void ClockPainter::FitNames(const std::array<std::wstring, 2>& names) {
+    nameFont = MakeFont(layout.NameType, true);
     const UniqueDc dc(CreateCompatibleDC(nullptr));
-    const int wanted = static_cast<int>(ExtentOf(dc.get(), font.get(), name).cx);
+    const int width = layout.Panels[White].Name.Width;
+    int wanted = width;
+    for (const std::wstring& name : names)
+        wanted = std::max(wanted, static_cast<int>(ExtentOf(dc.get(), nameFont.get(), name).cx));
     // A text's width does not shrink in exact proportion to its type. Below two thirds a name is cut rather than made
     // unreadable.
     if (wanted > width)
-        font = MakeFont(std::max(MulDiv(layout.NameType, width, wanted) - 1, layout.NameType * 2 / 3), true);
-    return font.get();
+        nameFont = MakeFont(std::max(MulDiv(layout.NameType, width, wanted) - 1, layout.NameType * 2 / 3), true);
 }
 
 int ClockPainter::TextWidth(const std::wstring& text) const {

@@ -21,8 +21,9 @@ class ClockPainter {
     // Takes the places and sizes of a new layout.
     void SetLayout(const ClockLayout& newLayout);
 
-    // The font of a name, smaller for a name that is too long for the width.
-    HFONT NameFont(Side side, const std::wstring& name, int width);
+    // Both names have one font, smaller where one of them is too long for its place.
+    void FitNames(const std::array<std::wstring, 2>& names);
+    HFONT NameFont() const { return nameFont.get(); }
     HFONT BlinkFont() const { return blinkFont.get(); }
     HFONT ButtonFont() const { return buttonFont.get(); }
     HFONT PauseFont() const { return pauseFont.get(); }
@@ -68,7 +69,7 @@ class ClockPainter {
 
     Brush backgroundBrush, cardBrush;
     ClockLayout layout{};
-    std::array<UniqueFont, 2> nameFonts;
+    UniqueFont nameFont;
     UniqueFont blinkFont, buttonFont, pauseFont, textFont;
     FaceType faceType;
 };

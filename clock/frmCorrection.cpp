@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int Width = 430, Height = 176;
+constexpr int Width = 422, Height = 176;
 
 constexpr DialogItem Head(Side side) {
     return {

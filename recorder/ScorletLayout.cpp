@@ -63,10 +63,12 @@ class Arrangement {
         const int typedLeft = std::min(left + layout.Edge, width - margin - typedWidth);
         layout.TypedMove = {typedLeft, margin, typedWidth / 2, field};
         layout.TypedReason = {typedLeft, layout.TypedMove.Bottom(), typedWidth, Unit(32)};
-        layout.CapturedTitle = {left, layout.Board.Bottom() + margin, boardSize, line};
-        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, 1, boardSize / MostCaptured);
+        // As wide as the squares above them.
+        const int trayLeft = left + layout.Edge, trayWidth = 8 * layout.CellSize;
+        layout.CapturedTitle = {trayLeft, layout.Board.Bottom() + margin, trayWidth, line};
+        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, 1, trayWidth / MostCaptured);
         for (Side side : BothSides)
-            layout.CapturedRows[side] = {left, layout.CapturedTitle.Bottom() + side * layout.Slot, boardSize,
+            layout.CapturedRows[side] = {trayLeft, layout.CapturedTitle.Bottom() + side * layout.Slot, trayWidth,
                                          layout.Slot};
     }
 
