@@ -15,8 +15,10 @@ bool ClockState::CountsOutOfStep() const {
 }
 
 bool ClockState::InSecondPeriod(Side side) const {
+    // One that began before its moves were made can be due once more, and a saved game says of neither that it began.
     const bool used = MoveCount[White] > 0 && !SecondPeriodArmed[side] && !SecondPeriodDue[side];
-    return Control.SecondPeriodEnabled && (used || MoveCount[side] > Control.MovesFirstPeriod);
+    const bool begun = SecondPeriodBegun[side] || used || MoveCount[side] > Control.MovesFirstPeriod;
+    return Control.SecondPeriodEnabled && begun;
 }
 
 int64_t ClockState::TimeLeft(Side side) const {
@@ -79,6 +81,7 @@ TickOutcome Clock::CountDown(Side side) {
     if (granted) {
         time = state.Control.SecondPeriodTime[side];
         state.SecondPeriodDue[side] = false;
+        state.SecondPeriodBegun[side] = true;
     }
     // A second period of no time is none: the time must not run on below zero.
     return time == 0 ? TickOutcome::FlagFell : granted ? TickOutcome::PeriodBegan : TickOutcome::Counted;
@@ -95,6 +98,7 @@ TickOutcome Clock::CountUp(Side side) {
     if (granted) {
         limit = CheckedAdd(limit, state.Control.SecondPeriodTime[side]);
         state.SecondPeriodDue[side] = false;
+        state.SecondPeriodBegun[side] = true;
     }
     state.PlayerTime[side] = used;
     return granted ? TickOutcome::PeriodBegan : passed ? TickOutcome::FlagFell : TickOutcome::Counted;

@@ -21,6 +21,7 @@ struct ClockState {
     std::array<int32_t, 2> PlayerTime{};      // seconds left, or used when counting up
     std::array<bool, 2> SecondPeriodDue{};    // earned and not yet begun
     std::array<bool, 2> SecondPeriodArmed{};  // the second period may still be earned by the time rule
+    std::array<bool, 2> SecondPeriodBegun{};  // since the game began or was loaded
     std::array<int32_t, 2> MoveCount{};
 
     // The parts of the time that the face shows.

@@ -56,7 +56,8 @@ std::string Played(const std::string& row) {
     std::ostringstream text;
     for (Side side : BothSides)
         text << clock.Face(side) << ' ' << state.MoveCount[side] << (state.SecondPeriodDue[side] ? " due" : "")
-             << (state.SecondPeriodArmed[side] ? " armed" : "") << (side == White ? ", " : "; ");
+             << (state.SecondPeriodArmed[side] ? " armed" : "") << (state.InSecondPeriod(side) ? " second" : "")
+             << (side == White ? ", " : "; ");
     text << (state.TurnFlag ? "White" : "Black") << (state.TimerRunning ? " runs" : state.GameStarted ? "" : " over");
     if (state.TimerHandle != 32767) text << ' ' << state.TimerHandle;
     return text.str() + said;
@@ -82,20 +83,23 @@ TEST(modClockTest, Games) {
         The second period is earned at 3 moves of Black's and at 4 of White's.
         down 600 900 0 3: press press press press press => 00:10:00 3 armed, 00:10:00 2 armed; White runs
         down 600 900 0 3: press press press press press press => 00:10:00 3 armed, 00:10:00 3 due; Black runs
-        down 600 900 0 3: press press press press press press press => 00:10:00 4 due, 00:10:00 3 due; White runs
+        down 600 900 0 3: press press press press press press press => 00:10:00 4 due second, 00:10:00 3 due; White runs
         It takes the place of the flag, once; counting up the limit grows.
-        down 60 120 0 1: press press 60s => 00:01:00 1 armed, 00:02:00 1; Black runs
-        down 60 120 0 1: press press 180s => 00:01:00 1 armed, 00:00:00 1; Black over 1, flag
-        up 60 120 0 1: press press 61s => 00:00:00 1 armed, 00:01:01 1; Black runs
-        up 60 120 0 1: press press 181s => 00:00:00 1 armed, 00:03:01 1; Black over 1, flag
+        down 60 120 0 1: press press 60s => 00:01:00 1 armed, 00:02:00 1 second; Black runs
+        down 60 120 0 1: press press 180s => 00:01:00 1 armed, 00:00:00 1 second; Black over 1, flag
+        up 60 120 0 1: press press 61s => 00:00:00 1 armed, 00:01:01 1 second; Black runs
+        up 60 120 0 1: press press 181s => 00:00:00 1 armed, 00:03:01 1 second; Black over 1, flag
         More time left than it has earns it too, at a side's first move, once.
         down 600 300: press => 00:10:00 1 due, 00:10:00 0 armed; White runs
         down 300 300: press => 00:05:00 1 armed, 00:05:00 0 armed; White runs
-        down 600 300 0 9: press 600s press 1s press => 00:05:00 2, 00:09:59 1 due; White runs
+        down 600 300 0 9: press 600s press 1s press => 00:05:00 2 second, 00:09:59 1 due; White runs
+        It is the second one from there on, though the moves of the first earn it once more.
+        down 60 30 0 3: press press 60s press press press press => 00:01:00 3 due, 00:00:30 3 due second; Black runs
+        down 60 30 0 3: press press 60s press press press press 30s => 00:01:00 3 due, 00:00:30 3 second; Black runs
         One of no time is none, one of a second is one.
-        down 60 0 0 1: press second=1 resume press 60s => 00:01:00 1 armed, 00:00:00 1; Black over 1, flag
-        up 60 0 0 1: press second=1 resume press 1s press press 60s => 00:00:00 2 armed, 00:01:01 2 due; Black over 1, flag
-        up 60 1 0 1: press press 61s => 00:00:00 1 armed, 00:01:01 1; Black runs
+        down 60 0 0 1: press second=1 resume press 60s => 00:01:00 1 armed, 00:00:00 1 second; Black over 1, flag
+        up 60 0 0 1: press second=1 resume press 1s press press 60s => 00:00:00 2 armed second, 00:01:01 2 due second; Black over 1, flag
+        up 60 1 0 1: press press 61s => 00:00:00 1 armed, 00:01:01 1 second; Black runs
         The bonus is the presser's, in both directions, and there is none at the first press.
         down 60 60 5: press => 00:01:00 1 armed, 00:01:00 0 armed; White runs
         down 60 60 5: press press => 00:01:05 1 armed, 00:01:00 1 armed; Black runs
@@ -120,6 +124,6 @@ TEST(modClockTest, Games) {
         down 60 0 5: press time=2147483645 resume press => 596523:14:05 1, 00:01:00 0; White runs, overflow
         down 60: press black=2147483647 white=2147483647 resume press => 00:01:00 2147483647, 00:01:00 2147483647; White runs, overflow
         up 60 0 5: press limit=2147483647 time=2147483642 resume 1s => 596523:14:02 1, 00:00:00 0; White runs, overflow
-        up 60 5 0 1: press press press press limit=2147483646 time=2147483646 resume press 1s => 596523:14:06 3 due, 00:00:00 2 due; White runs, overflow
+        up 60 5 0 1: press press press press limit=2147483646 time=2147483646 resume press 1s => 596523:14:06 3 due second, 00:00:00 2 due second; White runs, overflow
     )");
 }
