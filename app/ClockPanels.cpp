@@ -2,6 +2,7 @@
 
 #include "base/TimeText.h"
 #include "platform/Ansi.h"
+#include "platform/Painting.h"
 #include "platform/modResource.h"
 #include "resources/resource.h"
 #include "settings/ShownName.h"
@@ -140,7 +141,7 @@ void ClockPanels::ArrangePanel(Side side) {
         move(TurnMark(side, mark), panel.TurnMarks()[static_cast<size_t>(mark)]);
 
     const auto tip = [&](int pair, const Box& box, TextId row) {
-        toolTips.SetArea(ControlOf(pair, side), {box.Left, box.Top, box.Right(), box.Bottom()}, texts(row));
+        toolTips.SetArea(ControlOf(pair, side), RectOf(box), texts(row));
     };
     tip(imgFlagUp, panel.Flag, TextId::TipFlag);
     tip(imgHand, panel.Hand, TextId::TipHand);
@@ -210,8 +211,7 @@ void ClockPanels::ShowPhase() {
     for (Side side : BothSides) {
         ShowMark(side);
         if (std::exchange(shown[side], commands.LookOf(side)) == commands.LookOf(side)) continue;
-        const Box& panel = layout.Panels[side].Panel;
-        const RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
+        const RECT area = RectOf(layout.Panels[side].Panel);
         RedrawWindow(form.Window(), &area, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     }
     // At once: what follows may take time, the flag's sound for example.
@@ -328,8 +328,7 @@ void ClockPanels::PaintBackground() const {
     const HDC dc = BeginPaint(form.Window(), &paint);
     FillRect(dc, &paint.rcPaint, painter.BackgroundBrush());
     for (Side side : BothSides) {
-        const Box& panel = layout.Panels[side].Panel;
-        const RECT area{panel.Left, panel.Top, panel.Right(), panel.Bottom()};
+        const RECT area = RectOf(layout.Panels[side].Panel);
         if (RectVisible(dc, &area)) painter.DrawPanel(dc, side, commands.LookOf(side), MarkWord(side));
     }
     EndPaint(form.Window(), &paint);

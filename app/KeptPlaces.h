@@ -4,7 +4,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 // The places of the windows as the user has left them.
 struct KeptPlaces {

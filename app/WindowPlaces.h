@@ -2,10 +2,6 @@
 
 #include "base/Box.h"
 
-#include <optional>
-#include <string>
-#include <string_view>
-
 // Where the clock window and the Scorlet are: whole windows with their frames, in pixels.
 
 // The screen that the windows are on.

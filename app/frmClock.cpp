@@ -156,7 +156,7 @@ void frmClock::ShowFiles(FilesMode mode) {
 }
 
 void frmClock::TakeGame(const SavedGame& saved, const std::wstring& name, bool opensScorlet) {
-    // First what can fail. No message may come between: the running game goes on behind one.
+    // First what can fail. No message may come between: the running game goes on while one is open.
     if (opensScorlet) LeaveFullScreen();
     const std::wstring problem = opensScorlet ? scorlet.Open() : L"";
     game.TakeLoadedGame(saved, name);

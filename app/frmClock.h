@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-// The main window: two clock panels side by side and the menus.
+// The main window: two clock panels and the menus.
 class frmClock : public Form, private ClockView {
   public:
     // All of them must outlive the window, which shows the game and calls it at each tick of the timer. `settings` are

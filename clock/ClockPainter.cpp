@@ -62,8 +62,6 @@ constexpr KeyColours DeadKey{Own(Look::DeadKey, COLOR_BTNFACE), Own(Look::DeadKe
 constexpr std::array MarkColours{Own(Look::PeriodLine, COLOR_HIGHLIGHT), Own(Look::LowTimeLine, COLOR_HIGHLIGHT)};
 constexpr BYTE DeadPicture = 120;  // the strength of the hand on a key that cannot be pressed
 
-RECT RectOf(const Box& box) { return {box.Left, box.Top, box.Right(), box.Bottom()}; }
-
 // A key of that size. It stands out while it can be pressed and lies flat while it cannot. Returns its top.
 RECT DrawKey(HDC dc, const Box& key, int corner, const KeyColours& colours, bool enabled) {
     const int rise = std::max(key.Height / 14, 2), line = std::max(key.Height / 60, 1);
@@ -264,7 +262,7 @@ void ClockPainter::DrawPanel(HDC dc, Side side, PanelLook look, const std::wstri
     if (!state) return;
     FillRounded(dc, RectOf(panel.Mark), panel.Mark.Height / 2, state->Mark);
     DrawSign(dc, RectOf(panel.Sign), look, state->Mark, state->Ink);
-    // No sign stands before the word of a flag that has fallen.
+    // The word of a flag that has fallen has no sign before it.
     RECT place = RectOf(panel.Blink);
     if (look == PanelLook::Fallen) place.left = panel.Sign.Left;
     WriteWord(dc, place, look, word);

@@ -22,14 +22,7 @@ GameFiles Split(std::string_view input) {
     return files;
 }
 
-bool Load(const GameFiles& files, SavedGame& game) {
-    const auto read = [&](GameFile file, size_t limit) -> std::optional<std::vector<uint8_t>> {
-        if (!files[file]) return std::nullopt;
-        const std::string bytes = files[file]->substr(0, limit);
-        return std::vector<uint8_t>(bytes.begin(), bytes.end());
-    };
-    return !DecodeGame(read, Settings(), game);
-}
+bool Load(const GameFiles& files, SavedGame& game) { return !DecodeGame(ReaderOf(files), Settings(), game); }
 
 // Uses a loaded game as the program does: moves, a promotion, declarations, and a missing line.
 void PlayOn(Recorder& recorder) {

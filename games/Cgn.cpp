@@ -37,7 +37,7 @@ size_t FindMovetext(std::string_view bytes) {
     return move == std::string_view::npos ? start : move;
 }
 
-// The words of a text one after the other, with the places where they stand.
+// The words of a text one after the other, with the places where they are.
 class Words {
   public:
     Words(std::string_view bytes, size_t start) : bytes(bytes), end(start) {}

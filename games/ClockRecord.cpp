@@ -7,7 +7,8 @@
 
 namespace {
 
-// Whether a side's flag is down by the test that a tick makes.
+// Whether a side's flag is down by the test that a tick makes, except that a second period of no time counts here once
+// it is earned: games of earlier versions went on past the limit with one.
 bool OutOfTime(const modClock::ClockState& clock, Side side) {
     if (clock.Control.CountTimeDown) return clock.PlayerTime[side] == 0;
     const bool granted = clock.SecondPeriodDue[side] && clock.Control.SecondPeriodEnabled;

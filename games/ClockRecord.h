@@ -13,7 +13,7 @@ inline constexpr int32_t MaxSavedName = 128;
 
 // A clock as it stood, with what the players had set.
 struct ClockRecord {
-    Settings Options;            // all but the language; its time control is Clock's
+    Settings Options;            // all but the language, the turned board and low time; its time control is Clock's
     modClock::ClockState Clock;  // all but what the faces show and the timer
     Side SideToMove = White;     // the Scorlet's
     bool ScorletLoaded = false;  // the game has its other files
@@ -24,9 +24,9 @@ struct ClockRecord {
 std::string EncodeClockRecord(const ClockRecord& saved);
 
 // Reads the record at the start of the bytes; what follows it is ignored. What the record does not hold, the
-// language, is as in `present`, and so is the second period of an unknown clock type. A record without the last five
-// fields is read as one of an earlier form: turn, progress and the armed second periods follow from the rest, and the
-// other files are read where they exist.
+// language, the turned board and low time, is as in `present`, and so is the second period of an unknown clock type. A
+// record without the last five fields is read as one of an earlier form: turn, progress and the armed second periods
+// follow from the rest, and the other files are read where they exist.
 std::optional<GameFileError> DecodeClockRecord(std::span<const uint8_t> bytes, const Settings& present,
                                                ClockRecord& saved);
 

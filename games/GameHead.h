@@ -17,5 +17,5 @@ struct GameHead {
 std::string_view ResultToken(const MoveLists& lists);
 
 // The seven lines of tag pairs, each with its line end: Event, Site, Date, Round, White, Black and Result. Quotes in a
-// name are written as they stand; it has no line ends, which readers count.
+// name are written as they are; it has no line ends, which readers count.
 std::string EncodeHead(const GameHead& head, std::string_view result);

@@ -182,7 +182,7 @@ SectionEnd
   ${GetFileAttributes} "$INSTDIR\${folder}" REPARSE_POINT $0
 !macroend
 
-; Only what the program has written, or may have left behind in a crash: the folders may hold files of the user's own.
+; Only what the program has written, or may have left in a crash: the folders may hold files of the user's own.
 Section /o "un.$(GamesAndSettings)" GamesAndSettings
   !insertmacro IsLink SavedGames
   ${If} $0 <> 1

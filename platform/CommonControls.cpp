@@ -22,6 +22,7 @@ bool Load() {
 }  // namespace
 
 CommonControls::CommonControls() {
+    // Static: one record serves all windows, and the library is loaded once.
     static const HANDLE context = ContextOfControls();
     if (!ActivateActCtx(context, &cookie)) cookie = 0;
     [[maybe_unused]] static const bool loaded = Load();

@@ -1,7 +1,7 @@
 #include "platform/Dpi.h"
 
 int DpiOf(HWND window) {
-    // Windows before 10 has one resolution for all screens, and no GetDpiForWindow.
+    // Windows before 10 has one resolution for all screens, and no GetDpiForWindow. Static, to be looked up once.
     using Function = UINT(WINAPI*)(HWND);
     static const auto getDpiForWindow = reinterpret_cast<Function>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
@@ -15,7 +15,7 @@ int DpiOf(HWND window) {
 }
 
 RECT FrameOf(DWORD style, bool menu, int dpi) {
-    // Since Windows 10 the frame has the resolution of the window's screen.
+    // Since Windows 10 the frame has the resolution of the window's screen. Static, to be looked up once.
     using Function = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
     static const auto adjustForDpi = reinterpret_cast<Function>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "AdjustWindowRectExForDpi")));

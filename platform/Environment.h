@@ -9,7 +9,7 @@
 // Where everything lies, and what system this is; established once at the start. Every folder path ends with a
 // backslash.
 struct Environment {
-    std::wstring ProductTitle;  // title of message boxes
+    std::wstring ProductTitle;  // the name of the program
     std::string OsName;         // "WINDOWSXP", or "NONE"
     Appearance Look{};
 

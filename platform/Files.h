@@ -44,8 +44,8 @@ void MakeFolder(const std::wstring& path);
 // Deletes a file if there is one.
 void DeleteFileAt(const std::wstring& path);
 
-// Throws SystemError when an existing file could not be replaced or deleted as things stand: it is write-protected, or
-// another program has it open.
+// Throws SystemError when an existing file could not be replaced or deleted now: it is write-protected, or another
+// program has it open.
 void ExpectReplaceable(const std::wstring& path);
 
 // Gives a file the name of another one, whose place it takes in one step.

@@ -48,6 +48,7 @@ class ButtonTexts {
         if (const HWND control = GetDlgItem(box, button)) SetWindowTextW(control, texts(text).c_str());
     }
 
+    // A hook hands its procedure no context.
     static thread_local ButtonTexts* current;
     const Texts& texts;
     ButtonTexts* previous;

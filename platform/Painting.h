@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Box.h"
 #include "platform/Handles.h"
 #include "platform/TopDownBitmap.h"
 
@@ -8,6 +9,8 @@
 #include <string>
 
 // What the forms' painters share.
+
+inline RECT RectOf(const Box& box) { return {box.Left, box.Top, box.Right(), box.Bottom()}; }
 
 // Arial of that height in pixels, at least 1. With an average width of its characters, in pixels too, it is narrowed or
 // widened to that; 0 leaves it as it is.

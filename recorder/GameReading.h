@@ -10,7 +10,7 @@
 enum class GameFinding {
     Whole,          // the lists are a game of legal moves that ends in the position of the board
     SeveralWays,    // more than one such game
-    NotUnderstood,  // none: a half-move is illegal, missing or unreadable, or can't be told from another
+    NotUnderstood,  // none: a half-move is illegal, missing or unreadable, or cannot be told from another
     OtherPosition,  // the moves are legal and clear, but they lead to another position
 };
 

@@ -1,11 +1,10 @@
 #include "recorder/ScorletLayout.h"
 
+#include "recorder/Board.h"
+
 #include <algorithm>
 
 namespace {
-
-// The most pieces that a side can lose.
-constexpr int MostCaptured = 15;
 
 // Sizes of the window at 96 dpi, for the lists beside the board and below it: from the one on the lengths grow, and
 // under the other they shrink.
@@ -66,7 +65,7 @@ class Arrangement {
         // As wide as the squares above them.
         const int trayLeft = left + layout.Edge, trayWidth = 8 * layout.CellSize;
         layout.CapturedTitle = {trayLeft, layout.Board.Bottom() + margin, trayWidth, line};
-        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, 1, trayWidth / MostCaptured);
+        layout.Slot = std::clamp((roomHeight - 8 * layout.CellSize) / 2, 1, trayWidth / SlotsPerSide);
         for (Side side : BothSides)
             layout.CapturedRows[side] = {trayLeft, layout.CapturedTitle.Bottom() + side * layout.Slot, trayWidth,
                                          layout.Slot};

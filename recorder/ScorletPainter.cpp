@@ -35,8 +35,6 @@ constexpr LineColours ColoursOf(LineLook look) {
     }
 }
 
-RECT RectOf(const Box& box) { return {box.Left, box.Top, box.Right(), box.Bottom()}; }
-
 // A frame inside the edges of a square.
 void ThickFrame(HDC dc, RECT area, COLORREF colour, int thickness) {
     for (int i = 0; i < thickness; ++i) {

@@ -50,13 +50,13 @@ enum ClockControl : int {
     mnuTakeBack,
     mnuRedo,
     mnuGoOn,
+    mnuTurnBoard,
+    mnuFullScreen,
+    mnuCorrect,
     // These have no menu entry.
     mnuNextWindow,
     mnuSetupByKey,
     mnuScorletHelp,
-    mnuTurnBoard,  // in the Scorlet menu
-    mnuFullScreen,
-    mnuCorrect,
 };
 
 // The Scorlet.

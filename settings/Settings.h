@@ -43,7 +43,8 @@ struct Settings {
     void SetFlagSound(int32_t index);
 };
 
-// A fixed choice of everything except the names, the language and the PGN option.
+// A fixed choice of everything except the names, the language, the PGN option, the low-time warning and the turned
+// board.
 struct Preset {
     int32_t ClockType;
     int32_t FirstPeriodMinutes;

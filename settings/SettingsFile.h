@@ -2,9 +2,7 @@
 
 #include "settings/SettingsRecord.h"
 
-#include <optional>
 #include <string>
-#include <variant>
 
 class Texts;
 

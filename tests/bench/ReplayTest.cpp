@@ -28,7 +28,7 @@ std::vector<std::vector<std::string>> PublishedGames() {
 
 TEST(ReplayTest, RealGamesAreWrittenAsPublished) {
     // Where the notation's own rules give another text than the score: game and half-move, from 0. The rank is never
-    // written, and in the first one the other knight stands where the first jump looks on the wrong rank.
+    // written, and in the first one the other knight is where the first jump looks on the wrong rank.
     const std::map<std::pair<size_t, size_t>, std::string> intended{
         {{0, 26}, "Nf3"}, {{1, 60}, "Raa2"}, {{4, 43}, "Nge5"}, {{5, 12}, "Ngf3"}};
     const std::vector<RealGame> games = RealGames();

@@ -69,7 +69,7 @@ size_t GdiObjects(HANDLE process) {
         std::count_if(entries.begin(), entries.end(), [](const GdiEntry& entry) { return entry.Type != 0; }));
 }
 
-// New objects fill the gaps of the table before one lands behind all others, which its generation tells: the high word,
+// New objects fill the gaps of the table before one lands after all others, which its generation tells: the high word,
 // 1 at first and more in an entry that has been used before.
 size_t UserObjects(HANDLE process) {
     if (const DWORD counted = GetGuiResources(process, GR_USEROBJECTS)) return counted;
@@ -95,7 +95,7 @@ size_t Handles(HANDLE process) {
                            static_cast<ULONG>(buffer.size() * sizeof(uintptr_t)), nullptr)) == InfoLengthMismatch)
         buffer.resize(buffer.size() * 2);
     EXPECT_GE(status, 0) << "the handles cannot be listed";
-    // The number of handles and a reserved word stand before them.
+    // The number of handles and a reserved word come before them.
     const auto* list = reinterpret_cast<const SystemHandle*>(buffer.data() + 2);
     const DWORD id = GetProcessId(process);
     return static_cast<size_t>(

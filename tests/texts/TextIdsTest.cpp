@@ -42,7 +42,7 @@ TEST(TextIdsTest, EveryRowHasEveryLanguageAndIdentifiersOfItsOwn) {
             const bool mayBeBlank = language == 0 && (id == TextId::GameBefore || id == TextId::SecondTimeBefore);
             const std::string& text = row.Texts[language];
             EXPECT_EQ(Stripped(text).empty(), mayBeBlank) << row.Name;
-            for (const char* part : {"%1", "%2", "&&", "::", "[Ctrl+"})
+            for (const char* part : {"%1", "%2", "%3", "%4", "%5", "%6", "&&", "::", "[Ctrl+"})
                 EXPECT_EQ(Count(text, part), Count(row.Texts[English - 1], part)) << row.Name << ": " << text;
         }
     }
@@ -53,8 +53,8 @@ TEST(TextIdsTest, AccessKeysAreTakenOnceInEachMenu) {
         {TextId::MenuGame, TextId::MenuClock, TextId::MenuScorlet, TextId::MenuHelp},
         {TextId::MenuStart, TextId::MenuLoad, TextId::MenuSave, TextId::MenuDelete, TextId::MenuBringBack,
          TextId::MenuExit},
-        {TextId::MenuReset, TextId::MenuPause, TextId::MenuSetup},
-        {TextId::MenuReset, TextId::MenuResume, TextId::MenuSetup},
+        {TextId::MenuReset, TextId::MenuPause, TextId::MenuCorrect, TextId::MenuSetup, TextId::MenuFullScreen},
+        {TextId::MenuReset, TextId::MenuResume, TextId::MenuCorrect, TextId::MenuSetup, TextId::MenuFullScreen},
         {TextId::MenuShow, TextId::MenuClose, TextId::MenuPrint, TextId::MenuTakeBack, TextId::MenuRedo,
          TextId::MenuGoOn, TextId::MenuCopyGame, TextId::MenuCopyPosition, TextId::MenuExportPgn,
          TextId::MenuTurnBoard},
