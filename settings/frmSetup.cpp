@@ -2,6 +2,7 @@
 
 #include "base/TimeText.h"
 #include "platform/Ansi.h"
+#include "platform/DialogSizes.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
@@ -61,8 +62,7 @@ frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Setting
 }
 
 void frmSetup::Open(HWND owner) {
-    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", SetupItems::Width, SetupItems::Height,
-           SetupItems::Items);
+    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", DialogSize::Setup, SetupItems::Items);
     if (const std::wstring problem = timeControls.Load(); !problem.empty()) messageBoxes.Inform(owner, problem);
     for (int list : Lists) Subclass<ListProcedure>(Control(list), Window());
     for (int bar = hsbFirstPeriod; bar <= hsbBonus + 1; ++bar) Subclass<BarProcedure>(Control(bar), this);
