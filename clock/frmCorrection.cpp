@@ -37,7 +37,7 @@ constexpr std::array Items{
     DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {298, 126, 104, 30}, TextId::ButtonCancel},
 };
 
-constexpr int LongestTime = 10, LongestNumber = 5;
+constexpr int LongestTime = 12, LongestNumber = 5;
 
 }  // namespace
 
