@@ -413,13 +413,15 @@ LRESULT CALLBACK frmSetup::BarProcedure(HWND bar, UINT message, WPARAM wParam, L
     return DefSubclassProc(bar, message, wParam, lParam);
 }
 
-// Turns the scroll bar under the mouse, else the one with the focus: a notch is a small step, forwards is more.
+// Turns the scroll bar that is seen under the mouse, else the one with the focus: a notch is a small step, forwards is
+// more.
 bool frmSetup::OnWheel(short delta, POINT screenPoint) {
     HWND bar = nullptr;
     for (int id = hsbFirstPeriod; id <= hsbBonus + 1; ++id) {
         RECT area{};
         GetWindowRect(Control(id), &area);
-        if (PtInRect(&area, screenPoint) || (!bar && Control(id) == GetFocus())) bar = Control(id);
+        const bool pointedAt = IsWindowVisible(Control(id)) && PtInRect(&area, screenPoint);
+        if (pointedAt || (!bar && Control(id) == GetFocus())) bar = Control(id);
     }
     if (!bar || !IsWindowEnabled(bar)) return false;
     wheelRest += delta;
