@@ -33,12 +33,13 @@ void KeptGames::Offer(const Take& take) {
         const bool settled = Try([&] {
             const std::optional<SavedGame> saved = Read(orphan.Path);
             if (!saved) return;
-            taken = IsUnderWay(*saved) && Ask(*saved, orphan.Path);
-            if (!taken) return keeper.MakeLast(orphan);
-            keeper.Adopt(orphan);
+            if (!IsUnderWay(*saved) || !Ask(*saved, orphan.Path)) return keeper.MakeLast(orphan);
             take(*saved);
+            taken = true;
+            // Not before it is taken: where it cannot be, what comes to be kept next would replace it.
+            keeper.Adopt(orphan);
         });
-        // A new game must not take the place of one that could be neither read nor put aside.
+        // A new game must not take the place of one that could be neither read, taken nor put aside.
         if (!settled && !orphan.Lock) return;
         if (taken) break;
     }

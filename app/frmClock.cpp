@@ -100,7 +100,10 @@ bool frmClock::TakeMessage(MSG& message) {
     }
     // A held Ctrl+T must not ask to reset the game that it has just started.
     const bool repeated = message.message == WM_KEYDOWN && HIWORD(message.lParam) & KF_REPEAT;
-    if (!repeated && !IsForField(message) && TranslateAcceleratorW(Window(), accelerators.get(), &message)) return true;
+    // A minimised window is not sent the keys of its menu's entries. The Scorlet's window, which has no menu, passes
+    // them on.
+    const HWND target = IsIconic(Window()) && scorlet.Window() ? scorlet.Window() : Window();
+    if (!repeated && !IsForField(message) && TranslateAcceleratorW(target, accelerators.get(), &message)) return true;
     if (scorlet.Loaded() && scorlet.Loaded()->TakeMessage(message)) return true;
     return IsDialogMessageW(Window(), &message);
 }
@@ -412,6 +415,7 @@ void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {
 
 void frmClock::ToggleFullScreen() {
     if (fullScreen.On()) return LeaveFullScreen();
+    if (IsIconic(Window())) ShowWindow(Window(), SW_RESTORE);
     fullScreen.Begin();
     SetForegroundWindow(Window());
 }

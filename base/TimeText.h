@@ -18,6 +18,6 @@ std::string HoursMinutesSecondsText(int32_t seconds);
 // Seconds as "MM:SS" for times under an hour; minutes are not limited to two digits.
 std::string MinutesSecondsText(int32_t seconds);
 
-// Seconds of a time that is written as "H:MM:SS" or "MM:SS"; the first part has up to four digits. With blanks around
+// Seconds of a time that is written as "H:MM:SS" or "MM:SS"; the first part has up to six digits. With blanks around
 // it or none. No value where the text is something else.
 std::optional<int32_t> ReadTime(std::string_view text);

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int Width = 422, Height = 176;
+constexpr Extent Size{422, 176};
 
 constexpr DialogItem Head(Side side) {
     return {
@@ -37,7 +37,7 @@ constexpr std::array Items{
     DialogItem{cmdCancel, WC_BUTTONW, WS_TABSTOP | BS_PUSHBUTTON, {298, 126, 104, 30}, TextId::ButtonCancel},
 };
 
-constexpr int LongestTime = 10, LongestNumber = 5;
+constexpr int LongestTime = 12, LongestNumber = 5;
 
 }  // namespace
 
@@ -46,7 +46,7 @@ TextId frmCorrection::TimeCaption() const {
 }
 
 void frmCorrection::Open(HWND owner) {
-    Create(owner, L"frmCorrection", TextId::CorrectionTitle, L"AAATORVANIX", Width, Height, Items);
+    Create(owner, L"frmCorrection", TextId::CorrectionTitle, L"AAATORVANIX", Size, Items);
     SetText(lblCorrectTime, captions(TimeCaption()));
     SetText(lblCorrectMove, captions(TextId::CorrectMove));
     const Correction shown = CorrectionOf(state);

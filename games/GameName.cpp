@@ -2,6 +2,7 @@
 
 #include "base/AsciiCase.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -48,7 +49,7 @@ bool GameName::TakesKey(wchar_t character, std::wstring_view text) const {
 }
 
 std::wstring GameName::Changed(const std::wstring& text) {
-    if (text.find_first_of(Forbidden) == std::wstring::npos) lastGood = text;
+    if (std::ranges::all_of(text, MayHold)) lastGood = text;
     return lastGood;
 }
 

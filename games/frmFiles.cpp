@@ -2,6 +2,7 @@
 
 #include "games/ProposedName.h"
 #include "platform/Ansi.h"
+#include "platform/DialogSizes.h"
 #include "platform/SystemError.h"
 #include "platform/Today.h"
 #include "settings/ShownName.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr int Width = 768, Height = 396;
 // The names of the games, what is known of one, and the buttons.
 constexpr int Left = 16, LeftWidth = 350, Summary = 382, SummaryWidth = 228, Right = 626, RightWidth = 126;
 constexpr int InSummary = Summary + 17, InSummaryWidth = SummaryWidth - 34;
@@ -92,7 +92,7 @@ constexpr const ModeTexts& Of(FilesMode mode) { return Modes[static_cast<size_t>
 }  // namespace
 
 void frmFiles::Open(HWND owner) {
-    Create(owner, L"frmFiles", Of(mode).Title, L"DISKETTE.ICO", Width, Height, Items);
+    Create(owner, L"frmFiles", Of(mode).Title, L"DISKETTE.ICO", DialogSize::Files, Items);
     for (const ModeTexts& texts : Modes) SetVisible(texts.Button, texts.Button == Of(mode).Button);
     SetText(lblHint, captions(Of(mode).Hint));
     nameField.Attach();

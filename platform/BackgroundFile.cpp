@@ -23,11 +23,12 @@ void BackgroundFile::Remove() {
 }
 
 void BackgroundFile::Order(Content content) {
+    // First what can fail: Finish would wait for ever for an order that no thread takes.
+    if (!thread.joinable()) thread = std::thread([this] { Run(); });
     {
         const std::lock_guard lock(mutex);
         ordered = std::move(content);
     }
-    if (!thread.joinable()) thread = std::thread([this] { Run(); });
     changed.notify_all();
 }
 

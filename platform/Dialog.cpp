@@ -21,7 +21,7 @@ Colour Own(uint32_t colour) { return {ColourOf(colour), COLOR_BTNFACE}; }
 Dialog::Dialog(const Surroundings& around, DialogColours colours)
     : Form(around), ground(Own(colours.Ground)), card(Own(colours.Card)), cardColour(Own(colours.Card)) {}
 
-void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
+void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, Extent size,
                     std::span<const DialogItem> controls) {
     items = controls;
     Form::Create(name, captions(caption), WS_POPUP | WS_CAPTION | WS_SYSMENU,
@@ -33,7 +33,7 @@ void Dialog::Create(HWND owner, const wchar_t* name, TextId caption, const wchar
         if (item.IsGroup()) DrawHeadingOnly(Control(item.Id));
         if (item.Text) SetText(item.Id, captions(*item.Text));
     }
-    design = {width, height};
+    design = size;
     Place(owner);
 }
 

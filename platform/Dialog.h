@@ -51,9 +51,9 @@ class Dialog : public Form {
   protected:
     Dialog(const Surroundings& around, DialogColours colours);
 
-    // Creates the window over its owner, hidden. The order of the items is that of reading and of the tab key. `width`
-    // and `height` are in pixels of the 96 dpi design. The items must outlive the dialog. Throws SystemError.
-    void Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, int width, int height,
+    // Creates the window over its owner, hidden. The order of the items is that of reading and of the tab key. `size`
+    // is in pixels of the 96 dpi design. The items must outlive the dialog. Throws SystemError.
+    void Create(HWND owner, const wchar_t* name, TextId caption, const wchar_t* icon, Extent size,
                 std::span<const DialogItem> items);
 
     void Close();

@@ -18,6 +18,8 @@ namespace {
 constexpr wchar_t ClassName[] = L"frmScorlet";
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
+constexpr WORD OfAccelerator = 1;  // a WM_COMMAND: see there in the Win32 documentation
+
 }  // namespace
 
 frmScorlet::~frmScorlet() {
@@ -168,7 +170,12 @@ bool frmScorlet::TakeMessage(MSG& message) {
 
 LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
+        case WM_COMMAND:
+            if (!lParam && HIWORD(wParam) == OfAccelerator)
+                SendMessageW(shell, WM_COMMAND, wParam, 0);
+            else
+                OnCommand(LOWORD(wParam), HIWORD(wParam));
+            return 0;
         case WM_LBUTTONDOWN: OnMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); return 0;
         case WM_MOUSEMOVE:
             mouse.Move({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});

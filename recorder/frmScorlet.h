@@ -12,8 +12,8 @@
 class frmScorlet : public Form, private RecordView {
   public:
     // The game must outlive the window; it keeps a record for as long as there is the window. `shell` is the window
-    // that closes this one and prints its lists: it is sent the commands mnuCloseScorlet and mnuPrint, and
-    // WM_SCORLETGONE at the end.
+    // that closes this one and prints its lists: it is sent the commands mnuCloseScorlet and mnuPrint and those of
+    // accelerators, and WM_SCORLETGONE at the end.
     frmScorlet(const Surroundings& around, ScorletGame& game, HWND shell)
         : Form(around), game(game), recorder(game.OpenRecord(*this)), shell(shell) {}
     ~frmScorlet() override;

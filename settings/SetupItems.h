@@ -8,7 +8,6 @@
 // The controls of the setup dialog and where they are.
 namespace SetupItems {
 
-constexpr int Width = 752, Height = 552;
 constexpr int LineHeight = 18, OpenListHeight = 240;
 // Of fields, lists and the buttons beside them. A label is this far above what it names.
 constexpr int FieldHeight = DialogItem::FieldHeight, LabelPitch = 19;

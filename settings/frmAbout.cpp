@@ -1,5 +1,6 @@
 #include "settings/frmAbout.h"
 
+#include "platform/DialogSizes.h"
 #include "platform/SystemError.h"
 #include "platform/modResource.h"
 #include "resources/resource.h"
@@ -12,7 +13,7 @@ namespace {
 constexpr std::array KnightNames{"WN", "BN", "BNR", "WNR"};
 
 // The knights of both columns face the texts.
-constexpr int Width = 726, Height = 250, Knight = 96, FirstRow = 50, Row = 44;
+constexpr int Knight = 96, RightKnight = DialogSize::About.Width - 16 - Knight, FirstRow = 50, Row = 44;
 
 constexpr DialogItem KnightAt(int index, int left, int top) {
     return {imgKnight + index, WC_STATICW, SS_OWNERDRAW, {left, top, Knight, Knight}};
@@ -39,14 +40,14 @@ constexpr std::array Items{
     ValueAt(2),
     CaptionAt(3, TextId::LegalTrademarks),
     ValueAt(3),
-    KnightAt(0, Width - 16 - Knight, 20),
-    KnightAt(1, Width - 16 - Knight, 134),
+    KnightAt(0, RightKnight, 20),
+    KnightAt(1, RightKnight, 134),
 };
 
 }  // namespace
 
 void frmAbout::Open(HWND owner) {
-    Create(owner, L"frmAbout", TextId::ProductTitle, L"AAATORVANIX", Width, Height, Items);
+    Create(owner, L"frmAbout", TextId::ProductTitle, L"AAATORVANIX", DialogSize::About, Items);
     const VersionInformation version = ReadVersionInformation(language);
     SetText(lblAboutValue, version.Comments);
     SetText(lblAboutValue + 1, version.ProductName);

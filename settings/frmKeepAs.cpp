@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int Width = 360, Height = 136;
+constexpr Extent Size{360, 136};
 
 constexpr std::array Items{
     DialogItem{fraTimesName, WC_BUTTONW, BS_GROUPBOX, {12, 12, 336, 70}},
@@ -21,7 +21,7 @@ constexpr std::array Items{
 }  // namespace
 
 void frmKeepAs::Open(HWND owner, const std::wstring& name) {
-    Create(owner, L"frmKeepAs", TextId::KeepAsTitle, L"AAATORVANIX", Width, Height, Items);
+    Create(owner, L"frmKeepAs", TextId::KeepAsTitle, L"AAATORVANIX", Size, Items);
     SendMessageW(Control(txtTimesName), EM_SETLIMITTEXT, TimeControlText::LongestName, 0);
     SetText(txtTimesName, name);
     SendMessageW(Control(txtTimesName), EM_SETSEL, 0, -1);

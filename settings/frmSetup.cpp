@@ -2,6 +2,7 @@
 
 #include "base/TimeText.h"
 #include "platform/Ansi.h"
+#include "platform/DialogSizes.h"
 #include "platform/Subclass.h"
 #include "platform/SystemError.h"
 #include "platform/modSound.h"
@@ -61,8 +62,7 @@ frmSetup::frmSetup(const Surroundings& around, const SettingsFile& file, Setting
 }
 
 void frmSetup::Open(HWND owner) {
-    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", SetupItems::Width, SetupItems::Height,
-           SetupItems::Items);
+    Create(owner, L"frmSetup", TextId::SetupTitle, L"AAATORVANIX", DialogSize::Setup, SetupItems::Items);
     if (const std::wstring problem = timeControls.Load(); !problem.empty()) messageBoxes.Inform(owner, problem);
     for (int list : Lists) Subclass<ListProcedure>(Control(list), Window());
     for (int bar = hsbFirstPeriod; bar <= hsbBonus + 1; ++bar) Subclass<BarProcedure>(Control(bar), this);
@@ -413,13 +413,15 @@ LRESULT CALLBACK frmSetup::BarProcedure(HWND bar, UINT message, WPARAM wParam, L
     return DefSubclassProc(bar, message, wParam, lParam);
 }
 
-// Turns the scroll bar under the mouse, else the one with the focus: a notch is a small step, forwards is more.
+// Turns the scroll bar that is seen under the mouse, else the one with the focus: a notch is a small step, forwards is
+// more.
 bool frmSetup::OnWheel(short delta, POINT screenPoint) {
     HWND bar = nullptr;
     for (int id = hsbFirstPeriod; id <= hsbBonus + 1; ++id) {
         RECT area{};
         GetWindowRect(Control(id), &area);
-        if (PtInRect(&area, screenPoint) || (!bar && Control(id) == GetFocus())) bar = Control(id);
+        const bool pointedAt = IsWindowVisible(Control(id)) && PtInRect(&area, screenPoint);
+        if (pointedAt || (!bar && Control(id) == GetFocus())) bar = Control(id);
     }
     if (!bar || !IsWindowEnabled(bar)) return false;
     wheelRest += delta;

@@ -9,8 +9,9 @@ TEST(TimeTextTest, TimesAreReadAsTheyAreTyped) {
     };
     ExpectRows(read, R"(
         00:00:00 => 0 | 0:5 => 5 | 12:31 => 751 | 1:02:03 => 3723 | 99:59:59 => 359999 | 60:00 => 3600 | 100:00 => 6000 | 9999:00:01 => 35996401
+        596523:14:07 => 2147483647 | 596523:14:08 => none | 999999:59 => 59999999
         => none | 5 => none | : => none | 1: => none | 1::2 => none | 1:60 => none | 1:60:00 => none | 1:2:3:4 => none
-        1:-2 => none | 1:2x => none | 10000:00 => none | 1:002 => none | 1 :02 => none
+        1:-2 => none | 1:2x => none | 1000000:00 => none | 1:002 => none | 1 :02 => none
     )");
     EXPECT_EQ(ReadTime("  1:30 "), 90);
 }

@@ -31,7 +31,7 @@ TEST(GameNameTest, KeysAndChanges) {
     EXPECT_TRUE(name.TakesKey(L'\b', std::wstring(199, L'x')));
 
     EXPECT_EQ(name.Changed(L"final 2"), L"final 2") << "a pasted blank may stay";
-    for (wchar_t forbidden : std::wstring(L"\\/:*?\"<>|")) EXPECT_EQ(name.Changed({L'a', forbidden}), L"final 2");
+    for (wchar_t forbidden : std::wstring(L"\\/:*?\"<>|\t\x1F")) EXPECT_EQ(name.Changed({L'a', forbidden}), L"final 2");
     EXPECT_EQ(name.Changed(L""), L"");
     EXPECT_EQ(name.LastGood(), L"");
 }
