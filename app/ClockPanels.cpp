@@ -279,13 +279,19 @@ Place ClockPanels::PlaceAt(POINT point) const {
     return child && child != form.Window() ? PlaceOf(GetDlgCtrlID(child)) : Place{};
 }
 
-HCURSOR ClockPanels::CursorAt(POINT point) const {
+bool ClockPanels::ShowCursorOfPicture() const {
+    POINT point{};
+    GetCursorPos(&point);
+    ScreenToClient(form.Window(), &point);
+    HCURSOR cursor = nullptr;
     switch (PlaceAt(point).Pair) {
-        case imgHand: return handHit.get();
+        case imgHand: cursor = handHit.get(); break;
         case imgFlagUp:
-        case imgFlagDown: return handPointBlue.get();
-        default: return nullptr;
+        case imgFlagDown: cursor = handPointBlue.get(); break;
+        default: break;
     }
+    if (cursor) ::SetCursor(cursor);
+    return cursor != nullptr;
 }
 
 std::wstring ClockPanels::MarkWord(Side side) const {

@@ -53,8 +53,8 @@ class ClockPanels {
     // The visible control at a point of the window, enabled or not.
     Place PlaceAt(POINT point) const;
 
-    // The pointer over that place; null for the usual one.
-    HCURSOR CursorAt(POINT point) const;
+    // Where the pointer is over a picture that can be clicked, gives it its form. False: it keeps the usual one.
+    bool ShowCursorOfPicture() const;
 
     // A message on its way to the window, which tool tips may want to see.
     void Relay(const MSG& message) { toolTips.Relay(message); }

@@ -43,7 +43,7 @@ Box PlaceOf(HWND window) {
     return BoxOf(placement.rcNormalPosition);
 }
 
-void Move(HWND window, const Box& place) {
+void PutAt(HWND window, const Box& place) {
     if (IsZoomed(window)) ShowWindow(window, SW_SHOWNOACTIVATE);
     SetWindowPos(window, nullptr, place.Left, place.Top, place.Width, place.Height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -74,16 +74,16 @@ std::optional<KeptPlaces> Read(const std::wstring& file) {
 bool WindowPlacer::PlaceClock(HWND clock, bool besideScorlet) {
     left = Read(file);
     if (left && OnAScreen(left->Alone)) {
-        Move(clock, left->Alone);
+        PutAt(clock, left->Alone);
         // Another screen may have another resolution, to which the window has just gone over.
         if (DpiOf(clock) == left->Dpi)
-            Move(clock, BroughtInto(left->Alone, ScreenOf(clock).WorkArea));
+            PutAt(clock, BroughtInto(left->Alone, ScreenOf(clock).WorkArea));
         else
             left.reset();
     } else {
         left.reset();
     }
-    if (!left) Move(clock, ::PlaceClock(ScreenOf(clock)));
+    if (!left) PutAt(clock, ::PlaceClock(ScreenOf(clock)));
     if (besideScorlet) {
         const Box scorlet = MakeRoom(clock);
         planned = WindowPlaces{PlaceOf(clock), scorlet};
@@ -117,7 +117,7 @@ Box WindowPlacer::MakeRoom(HWND clock) {
     room.reset();
     if (!IsIconic(clock) && places.Clock != before) {
         room = Room{PlaceOf(clock), places.Clock, maximised};
-        Move(clock, places.Clock);
+        PutAt(clock, places.Clock);
     }
     return places.Scorlet;
 }
@@ -128,7 +128,7 @@ void WindowPlacer::TakeRoomBack(HWND clock, HWND scorlet) {
     left->Both = WindowPlaces{now, PlaceOf(scorlet)};
     const auto given = std::exchange(room, std::nullopt);
     if (!given || given->After != now || IsZoomed(clock) || IsIconic(clock)) return;
-    Move(clock, BroughtInto(given->Before, ScreenOf(clock).WorkArea));
+    PutAt(clock, BroughtInto(given->Before, ScreenOf(clock).WorkArea));
     if (given->Maximised) ShowWindow(clock, SW_MAXIMIZE);
 }
 
@@ -136,7 +136,7 @@ void WindowPlacer::OnScreenChanged(HWND clock, HWND scorlet) {
     const auto bringBack = [](HWND window) {
         if (IsIconic(window) || IsZoomed(window)) return;
         const Box place = PlaceOf(window), inside = BroughtInto(place, BoxOf(WorkArea(window)));
-        if (inside != place) Move(window, inside);
+        if (inside != place) PutAt(window, inside);
     };
     const bool together =
         scorlet && !IsIconic(clock) && !IsZoomed(clock) && !IsIconic(scorlet) && !IsZoomed(scorlet) &&
@@ -145,8 +145,8 @@ void WindowPlacer::OnScreenChanged(HWND clock, HWND scorlet) {
         const Screen screen = ScreenOf(clock);
         if (BothInSight({PlaceOf(clock), PlaceOf(scorlet)}, screen.WorkArea, screen.WorkArea)) return;
         const WindowPlaces places = PlaceBoth(screen, PlaceOf(clock));
-        Move(clock, places.Clock);
-        Move(scorlet, places.Scorlet);
+        PutAt(clock, places.Clock);
+        PutAt(scorlet, places.Scorlet);
     } else {
         bringBack(clock);
         if (scorlet) bringBack(scorlet);

@@ -289,7 +289,7 @@ LRESULT frmClock::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SCREENCHANGED: OnScreenChanged(); return 0;
         case WM_GETMINMAXINFO: OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_SETCURSOR:
-            if (LOWORD(lParam) == HTCLIENT && OnSetCursor()) return TRUE;
+            if (LOWORD(lParam) == HTCLIENT && panels.ShowCursorOfPicture()) return TRUE;
             break;
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) FocusRightfulButton();
@@ -395,15 +395,6 @@ void frmClock::OnButtonKey(int id, WPARAM key) {
     if (key == 'p') return game.PressKeyP();
     if (pair == cmdClock) return game.Press(side);
     game.PauseOrResume(side);
-}
-
-bool frmClock::OnSetCursor() {
-    POINT point{};
-    GetCursorPos(&point);
-    ScreenToClient(Window(), &point);
-    const HCURSOR cursor = panels.CursorAt(point);
-    if (cursor) ::SetCursor(cursor);
-    return cursor != nullptr;
 }
 
 void frmClock::OnGetMinMaxInfo(MINMAXINFO& info) const {

@@ -66,7 +66,6 @@ class frmClock : public Form, private ClockView {
     void OnOpenMenu();
     void OnMouseDown(POINT point, bool rightButton);
     void OnButtonKey(int id, WPARAM key);
-    bool OnSetCursor();
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnTimer(UINT_PTR id);
     void FocusRightfulButton();

@@ -5,7 +5,7 @@
 
 namespace {
 
-GameFileError ErrorAt(Damage damage, size_t offset) { return {MovesFile, damage, static_cast<int32_t>(offset)}; }
+GameFileError CgnErrorAt(Damage damage, size_t offset) { return {MovesFile, damage, static_cast<int32_t>(offset)}; }
 
 std::string WriteMovetext(const MoveLists& lists) {
     std::string text;
@@ -94,23 +94,23 @@ std::string EncodeCgn(const GameHead& head, const MoveLists& lists) {
 
 std::optional<GameFileError> DecodeCgn(std::string_view bytes, Side sideToMove, MoveLists& lists) {
     const size_t start = FindMovetext(bytes);
-    if (start == std::string_view::npos) return ErrorAt(Damage::NoHead, bytes.size());
+    if (start == std::string_view::npos) return CgnErrorAt(Damage::NoHead, bytes.size());
 
     MoveLists read;
     Words words(bytes, start);
     while (true) {
         const std::string_view word = words.Next();
-        if (word.empty()) return ErrorAt(Damage::EndsEarly, words.Start());
+        if (word.empty()) return CgnErrorAt(Damage::EndsEarly, words.Start());
         if (const auto mark = EndMark(word)) {
             if (*mark != "*") read[ListOfResult(sideToMove, read)].AddResult(*mark);
-            if (!words.Next().empty()) return ErrorAt(Damage::UnexpectedText, words.Start());
+            if (!words.Next().empty()) return CgnErrorAt(Damage::UnexpectedText, words.Start());
             lists = std::move(read);
             return std::nullopt;
         }
         const auto number = ReadMoveNumber(word);
-        if (!number) return ErrorAt(Damage::UnexpectedText, words.Start());
+        if (!number) return CgnErrorAt(Damage::UnexpectedText, words.Start());
         MoveList& list = read[number->Mover];
-        if (number->Number != list.Moves() + 1) return ErrorAt(Damage::WrongNumber, words.Start());
+        if (number->Number != list.Moves() + 1) return CgnErrorAt(Damage::WrongNumber, words.Start());
         // Where the text ends here, the next word is missing too.
         list.SetText(list.AddWaiting(), std::string(words.Next()));
     }

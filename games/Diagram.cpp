@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr std::string_view EmptySquare = "--", Gap = "  ", LineEnd = "\r\n";
+constexpr std::string_view EmptySquare = "--", Gap = "  ";
 
 }  // namespace
 

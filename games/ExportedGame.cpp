@@ -12,7 +12,7 @@ constexpr size_t LongestLine = 79;
 
 bool IsControl(char character) { return static_cast<unsigned char>(character) < ' '; }
 
-std::string TagPair(std::string_view tag, std::string_view value) {
+std::string EscapedTagPair(std::string_view tag, std::string_view value) {
     std::string line = "[" + std::string(tag) + " \"";
     for (const char character : value) {
         if (character == '"' || character == '\\') line += '\\';
@@ -127,10 +127,10 @@ std::string ExportGame(const ExportHead& head, const GameReading& game, std::str
                        const ShownTimes& shown) {
     const std::string_view result = declared == "*" && game.Understood() ? ResultOf(game.Position()) : declared;
     const auto known = [](const std::string& text) { return text.empty() ? "?" : text; };
-    std::string text = TagPair("Event", "?") + TagPair("Site", "?") + TagPair("Date", DateText(head.Date)) +
-                       TagPair("Round", "?") + TagPair("White", known(head.Names[White])) +
-                       TagPair("Black", known(head.Names[Black])) + TagPair("Result", result);
-    if (head.Control) text += TagPair("TimeControl", ControlText(*head.Control));
+    std::string text = EscapedTagPair("Event", "?") + EscapedTagPair("Site", "?") + EscapedTagPair("Date", DateText(head.Date)) +
+                       EscapedTagPair("Round", "?") + EscapedTagPair("White", known(head.Names[White])) +
+                       EscapedTagPair("Black", known(head.Names[Black])) + EscapedTagPair("Result", result);
+    if (head.Control) text += EscapedTagPair("TimeControl", ControlText(*head.Control));
     Lines lines;
     AddMoves(game, shown, lines);
     AddRest(game, lines);

@@ -21,6 +21,9 @@ constexpr std::string_view ExtensionOf(GameFile file) {
 // The bytes of each file, indexed by GameFile; nothing for one that there is not.
 using GameFiles = std::array<std::optional<std::string>, AllGameFiles.size()>;
 
+// Ends each line of the three text files.
+inline constexpr std::string_view LineEnd = "\r\n";
+
 // What makes a file of a saved game unreadable, and where.
 struct GameFileError {
     GameFile File;

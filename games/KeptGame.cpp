@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::string_view Head = "TORVANIX kept game 1\r\n", LineEnd = "\r\n", End = "end\r\n";
+constexpr std::string_view Head = "TORVANIX kept game 1\r\n", End = "end\r\n";
 
 }  // namespace
 

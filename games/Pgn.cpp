@@ -2,10 +2,9 @@
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
 constexpr int HeadLines = 8;
 
-GameFileError ErrorAt(Damage damage, size_t offset) { return {PgnFile, damage, static_cast<int32_t>(offset)}; }
+GameFileError PgnErrorAt(Damage damage, size_t offset) { return {PgnFile, damage, static_cast<int32_t>(offset)}; }
 
 }  // namespace
 
@@ -22,10 +21,10 @@ std::optional<GameFileError> DecodePgn(std::string_view bytes, std::string& text
     std::string_view rest = bytes;
     for (int line = 0; line < HeadLines; ++line) {
         const size_t end = rest.find(LineEnd);
-        if (end == std::string_view::npos) return ErrorAt(Damage::NoHead, bytes.size());
+        if (end == std::string_view::npos) return PgnErrorAt(Damage::NoHead, bytes.size());
         rest.remove_prefix(end + LineEnd.size());
     }
-    if (!rest.ends_with(LineEnd)) return ErrorAt(Damage::EndsEarly, bytes.size());
+    if (!rest.ends_with(LineEnd)) return PgnErrorAt(Damage::EndsEarly, bytes.size());
     rest.remove_suffix(LineEnd.size());
     text = rest;
     return std::nullopt;

@@ -24,7 +24,7 @@ void DrawHeading(HWND box, HDC dc) {
     DrawTextW(dc, text, length, &area, DT_SINGLELINE | DT_NOCLIP);
 }
 
-LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK HeadingProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     switch (message) {
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: {
@@ -47,4 +47,4 @@ void DrawCard(HDC dc, const RECT& area, int corner, COLORREF colour) {
     FillRounded(dc, {area.left + 1, area.top + 1, area.right - 1, area.bottom - 1}, corner - 1, colour);
 }
 
-void DrawHeadingOnly(HWND groupBox) { Subclass<Procedure>(groupBox); }
+void DrawHeadingOnly(HWND groupBox) { Subclass<HeadingProcedure>(groupBox); }

@@ -9,7 +9,7 @@
 namespace {
 
 // What a typed text asks of a move; 0 or None where it asks nothing.
-struct Wanted {
+struct TypedParts {
     PieceKind Kind = PieceKind::None;
     int OriginFile = 0, OriginRank = 0;
     Square Destination = NoSquare;
@@ -59,7 +59,7 @@ char TakeLast(std::string& text, std::string_view characters) {
     return last;
 }
 
-bool ReadCastling(std::string_view text, Side side, Wanted& wanted) {
+bool ReadCastling(std::string_view text, Side side, TypedParts& wanted) {
     if (text != "O-O" && text != "O-O-O") return false;
     const int rank = side == White ? 1 : 8;
     wanted = {PieceKind::King, 5, rank, SquareAt(text.size() == 3 ? 7 : 3, rank)};
@@ -67,7 +67,7 @@ bool ReadCastling(std::string_view text, Side side, Wanted& wanted) {
 }
 
 // False for a text that is no move.
-bool Read(std::string text, Side side, Wanted& wanted) {
+bool Read(std::string text, Side side, TypedParts& wanted) {
     while (TakeLast(text, "+#!?")) {
     }
     text = NormaliseMove(text);
@@ -88,7 +88,7 @@ bool Read(std::string text, Side side, Wanted& wanted) {
     return text.empty() && wanted.Destination != NoSquare;
 }
 
-bool Fits(const Move& move, const Wanted& wanted) {
+bool Fits(const Move& move, const TypedParts& wanted) {
     // Without a letter a pawn is meant, or whatever is on a square that is named whole.
     const bool whole = wanted.OriginFile != 0 && wanted.OriginRank != 0;
     const PieceKind kind = wanted.Kind == PieceKind::None && !whole ? PieceKind::Pawn : wanted.Kind;
@@ -102,7 +102,7 @@ bool Fits(const Move& move, const Wanted& wanted) {
 }  // namespace
 
 std::vector<MatchedMove> MatchMoves(const Board& board, Side side, std::string_view typed) {
-    Wanted wanted;
+    TypedParts wanted;
     std::vector<MatchedMove> matches;
     if (!Read(std::string(typed), side, wanted)) return matches;
     const Piece there = board.At(wanted.Destination);

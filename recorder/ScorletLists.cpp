@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr Colour SheetColour{ColourOf(Look::Sheet), COLOR_WINDOW},
+constexpr Colour RowColour{ColourOf(Look::Sheet), COLOR_WINDOW},
     ChosenColour{ColourOf(Look::Chosen), COLOR_HIGHLIGHT};
 constexpr Colour Ink{ColourOf(Look::Ink), COLOR_WINDOWTEXT}, QuietInk{ColourOf(Look::QuietInk), COLOR_WINDOWTEXT};
 constexpr Colour ChosenInk{ColourOf(Look::Ink), COLOR_HIGHLIGHTTEXT};
@@ -133,7 +133,7 @@ void ScorletLists::Draw(const DRAWITEMSTRUCT& item, Side side) const {
     const Buffered buffer(item);
     const RECT area = buffer.Area();
     const bool chosen = item.itemState & ODS_SELECTED, standsOut = chosen && side == latest;
-    ::Fill(buffer.Dc(), area, standsOut ? ChosenColour : chosen ? ChosenBeforeColour : SheetColour);
+    ::Fill(buffer.Dc(), area, standsOut ? ChosenColour : chosen ? ChosenBeforeColour : RowColour);
     const auto& entries = recorder.List(side).Entries();
     const auto index = static_cast<size_t>(item.itemID);
     if (index < entries.size()) {

@@ -29,7 +29,7 @@ constexpr DialogItem ValueAt(int row, Look::TypeStyle type = Look::Text) {
             std::nullopt,        type};
 }
 
-constexpr std::array Items{
+constexpr std::array AboutItems{
     KnightAt(2, 16, 20),
     KnightAt(3, 16, 134),
     CaptionAt(0, TextId::CopyrightNotice),
@@ -47,7 +47,7 @@ constexpr std::array Items{
 }  // namespace
 
 void frmAbout::Open(HWND owner) {
-    Create(owner, L"frmAbout", TextId::ProductTitle, L"AAATORVANIX", DialogSize::About, Items);
+    Create(owner, L"frmAbout", TextId::ProductTitle, L"AAATORVANIX", DialogSize::About, AboutItems);
     const VersionInformation version = ReadVersionInformation(language);
     SetText(lblAboutValue, version.Comments);
     SetText(lblAboutValue + 1, version.ProductName);

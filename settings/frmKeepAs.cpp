@@ -10,7 +10,7 @@ namespace {
 
 constexpr Extent Size{360, 136};
 
-constexpr std::array Items{
+constexpr std::array KeepAsItems{
     DialogItem{fraTimesName, WC_BUTTONW, BS_GROUPBOX, {12, 12, 336, 70}},
     DialogItem{lblTimesName, WC_STATICW, SS_NOPREFIX, {28, 24, 304, 18}, TextId::TimeControlName},
     DialogItem{txtTimesName, WC_EDITW, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, {28, 45, 304, DialogItem::FieldHeight}},
@@ -21,7 +21,7 @@ constexpr std::array Items{
 }  // namespace
 
 void frmKeepAs::Open(HWND owner, const std::wstring& name) {
-    Create(owner, L"frmKeepAs", TextId::KeepAsTitle, L"AAATORVANIX", Size, Items);
+    Create(owner, L"frmKeepAs", TextId::KeepAsTitle, L"AAATORVANIX", Size, KeepAsItems);
     SendMessageW(Control(txtTimesName), EM_SETLIMITTEXT, TimeControlText::LongestName, 0);
     SetText(txtTimesName, name);
     SendMessageW(Control(txtTimesName), EM_SETSEL, 0, -1);

@@ -6,7 +6,7 @@ namespace {
 
 // The lists that a movetext is read as, with the side to move before it, "_" for a missing move and "~" for a line end,
 // and the movetext that they are written as where that is another; or the damage with its offset in the movetext.
-std::string Read(const std::string& given) {
+std::string ReadCgn(const std::string& given) {
     const std::string head =
         "[Event \"\"]\r\n[Site \"\"]\r\n[Date \"0124-03-09\"]\r\n[Round \"\"]\r\n"
         "[White \"Team 1. Anna\"]\r\n[Black \"Bob \"the Rook\"\"]\r\n[Result \"";
@@ -33,7 +33,7 @@ std::string Read(const std::string& given) {
 }  // namespace
 
 TEST(CgnTest, MovetextIsReadAndWritten) {
-    ExpectRows(Read, R"(
+    ExpectRows(ReadCgn, R"(
         W: * =>  / | B: 1. e2-e4 1... e7-e5 2. g1-f3 * => 1. e2-e4|2. g1-f3 / e7-e5 | W: 1... e5 2... d5 * =>  / e5|d5
         B: 1. e4 1... _ 2. _ * => 1. e4|2. _ / 1. _
         The result goes to the side to move, or to the one that has mated.

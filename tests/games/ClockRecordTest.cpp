@@ -31,7 +31,7 @@ std::string StateText(const ClockRecord& saved) {
 
 // What is read of the record with some fields changed, of one in an earlier form ("earlier"), or of one that counts up
 // and has one period ("up"): the state, or the damage.
-std::string Read(const std::string& given) {
+std::string ReadClock(const std::string& given) {
     std::string changes = given;
     if (changes.starts_with("earlier")) changes.replace(0, 7, "white's=- started=- armed0=- armed1=- loaded=-");
     if (const size_t up = changes.find("up"); up != std::string::npos) changes.replace(up, 2, "down=0 type=0");
@@ -82,7 +82,7 @@ TEST(ClockRecordTest, EverythingComesBackButTheLanguage) {
 }
 
 TEST(ClockRecordTest, StatesAndDamages) {
-    ExpectRows(Read, R"(
+    ExpectRows(ReadClock, R"(
         => 59:2 armed, 1000:1 due, White runs | white's=0 started=0 => 59:2 armed, 1000:1 due, Black
         writer=1 loaded=0 => 59:2 armed, 1000:1 due, White runs, White writes, no Scorlet
         started=0 => 59:2 armed, 1000:1 due, White | black=2 white's=0 => 59:2 armed, 1000:2 due, Black runs

@@ -12,7 +12,7 @@ const std::string Initial =
 
 // The piece on h1 after a text, "~" for a line end, has been put into the initial diagram, "place length text"; or the
 // damage.
-std::string Read(const std::string& given) {
+std::string ReadDiagram(const std::string& given) {
     std::istringstream words(given);
     size_t place = 0, length = 0;
     std::string text;
@@ -32,7 +32,7 @@ TEST(DiagramTest, PositionsComeBackAndDamageIsNamedWithLineAndColumn) {
     Board read;
     EXPECT_FALSE(DecodeDiagram(EncodeDiagram(Position("WKa1 BPh8")), read));
     EXPECT_EQ(BoardText(read), "WKa1 BPh8 ");
-    ExpectRows(Read, R"(
+    ExpectRows(ReadDiagram, R"(
         270 2  => WR | 266 2 -- => O | 38 2 WX => UnknownPiece 2,5 | 40 1 x => BrokenLine 2,7 | 32 1  => BrokenLine 1,33
         32 0 --   => BrokenLine 1,33 | 236 999  => BrokenLine 7,33 | 239 999  => BrokenLine 8,1
         272 0 ~ => BrokenLine 9,1 | 0 999  => BrokenLine 1,1

@@ -150,7 +150,7 @@ struct Play {
 // the pause button can, R where it reads "Resume", T for the turn marks, F for the fallen flag, 2 for a second period
 // that begins, L for low time, and the blinking mark as m (to move) or p (paused); S where Setup can be opened; White's
 // face; the lists, where there are any.
-std::string Played(const std::string& script) {
+std::string StateAfter(const std::string& script) {
     Play play;
     play.SayAll(script);
     const ClockCommands& clock = play.Played.Clock();
@@ -207,7 +207,7 @@ std::string TimesAfter(const std::string& script) {
 }  // namespace
 
 TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
-    ExpectRows(Played, R"(
+    ExpectRows(StateAfter, R"(
         Presses.
         W => click, show B all; CPTm - 00:01:00 | B => click, show B all; CPTm - 00:01:00
         W W => click, show W all; - CPTm 00:01:00 | W B => nothing; CPTm - 00:01:00

@@ -6,7 +6,7 @@ namespace {
 
 // What is read of a kept game of two files after so many of its bytes from a place on have been replaced by a text
 // ("place length text"): the files, or the damage.
-std::string Read(const std::string& given) {
+std::string ReadKept(const std::string& given) {
     GameFiles files;
     files[ClockFile] = "record", files[MovesFile] = "1. e4\r\nend\r\n";
     std::string bytes = EncodeKeptGame(files);
@@ -33,7 +33,7 @@ std::string UnderWay(const std::string& script) {
 }  // namespace
 
 TEST(KeptGameTest, FilesComeBackAndDamagesAreNamed) {
-    ExpectRows(Read, R"(
+    ExpectRows(ReadKept, R"(
         => record+ | 27 1 7 => UnexpectedText 37 | 27 1 999 => EndsEarly 32 | 0 1 x => NoHead 0 | 26 1 _ => UnexpectedText 26 | 27 1 x => UnexpectedText 27
         28 1 x => UnexpectedText 28 | 30 7 recor => UnexpectedText 36 | 22 99 => EndsEarly 22 | 33 99 => EndsEarly 30
         38 4 .pgn => record | 61 9 => EndsEarly 61 | 62 1 x => UnexpectedText 61

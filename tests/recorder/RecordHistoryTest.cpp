@@ -34,7 +34,7 @@ struct Kept {
 };
 
 // The lists, the text, the side to move, the lengths of the lists when the lines were chosen, and what can be done.
-std::string State(const std::string& script) {
+std::string HistoryOf(const std::string& script) {
     Kept kept;
     for (const std::string& word : Words(script)) kept.Say(word);
     std::string text = ListText(kept.Record.Lists()) + "; " +
@@ -84,7 +84,7 @@ TEST(RecordHistoryTest, ThePositionAfterAnEntryIsKnown) {
 }
 
 TEST(RecordHistoryTest, WhatTheClockHasAddedStaysAndANewStepEndsRedo) {
-    ExpectRows(State, R"(
+    ExpectRows(HistoryOf, R"(
         => / ; <> White | e2e4 back => / ; <> White redo | e2e4 back redo => 1. e4 / ; <1. e4 > Black 10 back
         e2e4 e7e5 back back redo => 1. e4 / ; <1. e4 > Black 10 back redo
         e2e4 e7e5 back c7c5 => 1. e4 / c5; 1. e4 <c5 > White 11 back

@@ -5,7 +5,7 @@
 namespace {
 
 // "W3: " and a script: what the clock says, "-" for none; then what the record expects, and how that differs.
-std::string Shown(const std::string& row) {
+std::string LineOf(const std::string& row) {
     constexpr std::array kinds{"", " behind", " far", " other colour"};
     const size_t colon = row.find(':');
     std::optional<ClockTurn> clock;
@@ -18,7 +18,7 @@ std::string Shown(const std::string& row) {
 }  // namespace
 
 TEST(WhoseMoveTest, BesideTheClock) {
-    ExpectRows(Shown, R"(
+    ExpectRows(LineOf, R"(
         -: => W1 | -: e2e4 => B1 | -: e2e4 e7e5 => W2 | -: e2e4 e7e5 g1f3 W1= b8c6 => W3 | -: e2e4 e7e5 deleteW => W1
         W1: => W1 | B1: => W1 behind | W2: => W1 far from 2 | W17: => W1 far from 17
         W1: e2e4 => B1 | B1: e2e4 => B1 | W2: e2e4 => B1 behind | W1: e2e4 e7e5 => W2 far from 1

@@ -12,7 +12,7 @@ namespace {
 struct Row {
     const char* Name;
     int32_t Identifier;
-    std::string Texts[3];
+    const char* Texts[3];
 };
 
 const Row Rows[] = {
@@ -40,7 +40,7 @@ TEST(TextIdsTest, EveryRowHasEveryLanguageAndIdentifiersOfItsOwn) {
             // Turkish has nothing before the name or the number where the others have words.
             const TextId id{row.Identifier};
             const bool mayBeBlank = language == 0 && (id == TextId::GameBefore || id == TextId::SecondTimeBefore);
-            const std::string& text = row.Texts[language];
+            const std::string text = row.Texts[language];
             EXPECT_EQ(Stripped(text).empty(), mayBeBlank) << row.Name;
             for (const char* part : {"%1", "%2", "%3", "%4", "%5", "%6", "&&", "::", "[Ctrl+"})
                 EXPECT_EQ(Count(text, part), Count(row.Texts[English - 1], part)) << row.Name << ": " << text;
@@ -66,7 +66,7 @@ TEST(TextIdsTest, AccessKeysAreTakenOnceInEachMenu) {
             std::set<std::string> taken;
             for (const Row& row : Rows) {
                 if (std::find(menu.begin(), menu.end(), TextId{row.Identifier}) == menu.end()) continue;
-                const std::string& text = row.Texts[language];
+                const std::string text = row.Texts[language];
                 ASSERT_EQ(Count(text, "&"), 1U) << text;
                 const size_t at = text.find('&') + 1;
                 // The one Turkish letter among the keys has two bytes and no small form in use.
