@@ -127,8 +127,9 @@ std::string ExportGame(const ExportHead& head, const GameReading& game, std::str
                        const ShownTimes& shown) {
     const std::string_view result = declared == "*" && game.Understood() ? ResultOf(game.Position()) : declared;
     const auto known = [](const std::string& text) { return text.empty() ? "?" : text; };
-    std::string text = EscapedTagPair("Event", "?") + EscapedTagPair("Site", "?") + EscapedTagPair("Date", DateText(head.Date)) +
-                       EscapedTagPair("Round", "?") + EscapedTagPair("White", known(head.Names[White])) +
+    std::string text = EscapedTagPair("Event", "?") + EscapedTagPair("Site", "?") +
+                       EscapedTagPair("Date", DateText(head.Date)) + EscapedTagPair("Round", "?") +
+                       EscapedTagPair("White", known(head.Names[White])) +
                        EscapedTagPair("Black", known(head.Names[Black])) + EscapedTagPair("Result", result);
     if (head.Control) text += EscapedTagPair("TimeControl", ControlText(*head.Control));
     Lines lines;

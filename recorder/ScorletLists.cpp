@@ -12,8 +12,7 @@
 
 namespace {
 
-constexpr Colour RowColour{ColourOf(Look::Sheet), COLOR_WINDOW},
-    ChosenColour{ColourOf(Look::Chosen), COLOR_HIGHLIGHT};
+constexpr Colour RowColour{ColourOf(Look::Sheet), COLOR_WINDOW}, ChosenColour{ColourOf(Look::Chosen), COLOR_HIGHLIGHT};
 constexpr Colour Ink{ColourOf(Look::Ink), COLOR_WINDOWTEXT}, QuietInk{ColourOf(Look::QuietInk), COLOR_WINDOWTEXT};
 constexpr Colour ChosenInk{ColourOf(Look::Ink), COLOR_HIGHLIGHTTEXT};
 constexpr Colour ChosenBeforeColour{ColourOf(Look::Tray), COLOR_BTNFACE},

@@ -21,6 +21,8 @@ ensure_packages() {
 build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest fp-utils python3)
 wine_packages=(wine wine64 fonts-liberation fonts-wine)
 display_packages=(xvfb imagemagick)
+fuzz_packages=(cmake ninja-build g++ clang libclang-rt-14-dev)
+installer_packages=(nsis)
 
 # Builds the targets of a preset, all of them when none is named.
 build() {
@@ -34,10 +36,9 @@ build() {
     cmake --build --preset "$preset" ${*:+--target "$@"} -- --quiet
 }
 
-# Sets up the project's own Wine prefix of this name, so that the user's settings are left alone and Wine does not offer
-# to download anything.
-use_own_wine() {
-    export WINEPREFIX=$PWD/build/wine-$1
+# Makes the Wine prefix of which all others are copies, since it takes Wine half a minute, and sets what they have in
+# common. Wine does not offer to download anything.
+make_wine_prefix() {
     export WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
     export WINEARCH=win64
@@ -49,16 +50,23 @@ use_own_wine() {
             export LC_CTYPE=C.UTF-8
             ;;
     esac
-    if [ ! -f "$WINEPREFIX/system.reg" ]; then
-        say "Making a Wine prefix in build/wine-$1"
-        mkdir -p "$WINEPREFIX"
-        wineboot --init >"build/wine-$1.log" 2>&1 || {
-            cat "build/wine-$1.log"
-            say "Wine could not make its prefix"
-            return 1
-        }
-        wineserver -w
-    fi
+    export WINEPREFIX=$PWD/build/wine-new
+    [ ! -f "$WINEPREFIX/system.reg" ] || return 0
+    say "Making a Wine prefix"
+    mkdir -p "$WINEPREFIX"
+    wineboot --init >build/wine-new.log 2>&1 || {
+        cat build/wine-new.log
+        say "Wine could not make its prefix"
+        return 1
+    }
+    wineserver -w
+}
+
+# Sets up the project's own Wine prefix of this name, so that the user's settings are left alone.
+use_own_wine() {
+    make_wine_prefix
+    export WINEPREFIX=$PWD/build/wine-$1
+    [ -f "$WINEPREFIX/system.reg" ] || cp -r build/wine-new "$WINEPREFIX"
     # The signs on the buttons of title bars. Debian's Wine does not look into the folder of its own fonts and would
     # show the letters 0, 1 and r.
     local signs=/usr/share/wine/fonts/marlett.ttf
