@@ -94,7 +94,7 @@ bool Eventually(const std::function<bool()>& condition, int milliseconds) {
     const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
     while (!condition()) {
         if (GetTickCount64() > end) return false;
-        Sleep(5);
+        Sleep(20);
     }
     return true;
 }
