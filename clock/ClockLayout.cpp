@@ -50,12 +50,12 @@ void LayOutKeys(PanelLayout& layout, const Insides& in, int top, int height, int
 
 // The line of the name, with a mark that is `mark` high.
 void LayOutHeader(PanelLayout& layout, const Insides& in, int top, int height, int mark, int gap) {
-    const int width = Round(mark * 4.3);
+    const int width = Round(mark * 4.5);
     layout.Flag = {in.Left, top - gap / 2, height + gap, height + gap};
     layout.Mark = {in.Right - width, top + (height - mark) / 2, width, mark};
     const int sign = Round(mark * 0.62), word = Round(mark * 0.72);
     layout.Sign = {layout.Mark.Left + Round(mark * 0.35), layout.Mark.Top + (mark - sign) / 2, sign, sign};
-    const int wordLeft = layout.Sign.Right() + Round(mark * 0.12);
+    const int wordLeft = layout.Sign.Right() + Round(mark * 0.2);
     layout.Blink = {wordLeft, layout.Mark.Top + (mark - word) / 2, layout.Mark.Right() - Round(mark * 0.28) - wordLeft,
                     word};
     const int nameLeft = layout.Flag.Right() + gap;

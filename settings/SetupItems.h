@@ -53,11 +53,11 @@ constexpr DialogItem Unit(int id, int top, TextId text) {
 }
 // Its edge shows how far it reaches: in some styles of the system the track has the colour of the card.
 constexpr DialogItem Bar(int id, int left, int top) {
-    return {id, WC_SCROLLBARW, WS_TABSTOP | WS_BORDER | SBS_HORZ, {left, top, 100, 22}};
+    return {id, WC_SCROLLBARW, WS_TABSTOP | WS_BORDER | SBS_HORZ, {left, top, 96, 22}};
 }
-// As wide as the longest time that a settings file can hold.
+// Next to its own bar, and as wide as the longest time that a settings file can hold.
 constexpr DialogItem Value(int id, int left, int top) {
-    return {id, WC_STATICW, SS_RIGHT, {left + 104, top + 2, SideWidth - 104, 20}, std::nullopt, Look::Value};
+    return {id, WC_STATICW, SS_LEFT, {left + 104, top + 2, SideWidth - 104, 20}, std::nullopt, Look::Value};
 }
 
 constexpr std::array Items{

@@ -1,6 +1,7 @@
 #include "settings/TimeControlText.h"
 
 #include <algorithm>
+#include <bit>
 #include <optional>
 
 namespace {
@@ -14,6 +15,19 @@ constexpr std::string_view Head =
 std::string_view Trimmed(std::string_view text) {
     const size_t start = std::min(text.find_first_not_of(" \t\r\n"), text.size());
     return text.substr(start, text.find_last_not_of(" \t\r\n") + 1 - start);
+}
+
+// A file that was saved in a code page shows by it. Too long a form of a character is let pass.
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const int ones = std::countl_one(static_cast<unsigned char>(text[0]));
+        const size_t length = ones == 0 ? 1 : static_cast<size_t>(ones);
+        if (ones == 1 || ones > 4 || length > text.size()) return false;
+        const auto continues = [](char byte) { return (byte & 0xC0) == 0x80; };
+        if (!std::all_of(text.begin() + 1, text.begin() + static_cast<std::ptrdiff_t>(length), continues)) return false;
+        text.remove_prefix(length);
+    }
+    return true;
 }
 
 std::string NameIn(std::string_view line) { return std::string(Trimmed(line.substr(0, line.find('=')))); }
@@ -110,5 +124,6 @@ bool TimeControlText::IsName(const std::string& name) {
     const auto bad = [](char character) {
         return character == '=' || static_cast<unsigned char>(character) < ' ' || character == 0x7F;
     };
-    return !name.empty() && name == Trimmed(name) && name[0] != '#' && std::none_of(name.begin(), name.end(), bad);
+    return !name.empty() && name == Trimmed(name) && name[0] != '#' && std::none_of(name.begin(), name.end(), bad) &&
+           IsUtf8(name);
 }

@@ -30,8 +30,8 @@ class TimeControlText {
 
     const std::string& Bytes() const { return text; }
 
-    // Whether a control can have the name: not empty, with no "=" and no control character, no blank at its ends and no
-    // "#" at its beginning.
+    // Whether a control can have the name: UTF-8, not empty, with no "=" and no control character, no blank at its ends
+    // and no "#" at its beginning.
     static bool IsName(const std::string& name);
 
   private:

@@ -119,10 +119,12 @@ void Steps::AddInput() {
             const std::string move = words.Take();
             for (const size_t at : {0, 2}) {
                 const HWND square = Shown(move.substr(at, 2));
-                const std::wstring before = SpokenName(square);
+                // The name tells that a piece is picked, the text, which is asked for faster, that one has come.
+                const auto look = [&] { return at == 0 ? SpokenName(square) : TextOf(square); };
+                const std::wstring before = look();
                 Click(square);
                 // A mouse that goes on before the press is dealt with would drag the piece.
-                Eventually([&] { return SpokenName(square) != before; }, 2000);
+                Eventually([&] { return look() != before; }, 2000);
             }
         }
     });

@@ -54,13 +54,14 @@ TEST(TimeControlTextTest, TimesAreWrittenAsTheyAreRead) {
 TEST(TimeControlTextTest, OtherLinesStayWhateverIsKeptAndRemoved) {
     const std::string written =
         "\xEF\xBB\xBF# mine|Salı = game 10||Club = fischer 90 plus 30|Club = game 1|=game 5|#x = game "
-        "5|nothing|a=b=game 5";
+        "5|nothing|a=b=game 5|Sal\xFD = game 9|\xC5 = game 9";
     TimeControlText text(Lines(written, "|", "\r\n"));
     std::string names, bad;
     for (const NamedTimes& one : text.Controls()) names += one.Name + " = " + TextOf(one.Times) + "; ";
     for (const std::string& line : text.BadLines()) bad += line + "; ";
     EXPECT_EQ(names, "Salı = game 10; Club = fischer 90 plus 30; ");
-    EXPECT_EQ(bad, "5: Club = game 1; 6: =game 5; 8: nothing; 9: a=b=game 5; ");
+    EXPECT_EQ(bad,
+              "5: Club = game 1; 6: =game 5; 8: nothing; 9: a=b=game 5; 10: Sal\xFD = game 9; 11: \xC5 = game 9; ");
     const auto expect = [&](const std::string& after) { EXPECT_EQ(Lines(text.Bytes(), "\r\n", "|"), after); };
     text.Keep("Salı", SimpleTimes(3, 4, 0));
     expect(Lines(written, "game 10", "hourglass 4"));
