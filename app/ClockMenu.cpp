@@ -124,10 +124,11 @@ std::optional<bool> PlayerKey(const MSG& message) {
     // By scan codes, which belong to places; see "Keyboard Input Overview" of the Win32 documentation.
     constexpr int PlaceOfA = 0x1E, PlaceOfApostrophe = 0x28;
     const int code = HIWORD(message.lParam) & 0xFF;
-    const bool alone = GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_MENU) >= 0;
     const bool down = message.message == WM_KEYDOWN && !(HIWORD(message.lParam) & (KF_REPEAT | KF_EXTENDED));
-    if (!down || !alone || (code != PlaceOfA && code != PlaceOfApostrophe)) return std::nullopt;
-    return code == PlaceOfApostrophe;
+    if (!down || (code != PlaceOfA && code != PlaceOfApostrophe)) return std::nullopt;
+    // Asked last, since every message comes by here and asking for keys takes a call of the system's server each.
+    const bool alone = GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_MENU) >= 0;
+    return alone ? std::optional(code == PlaceOfApostrophe) : std::nullopt;
 }
 
 bool IsForField(const MSG& message) {

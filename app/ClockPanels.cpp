@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int HandImageSize = 256;
+constexpr UINT BlinkInterval = 500;  // milliseconds
 
 static_assert(cmdClock % 2 == 0, "pairs of controls begin at even numbers");
 
@@ -184,11 +185,8 @@ void ClockPanels::ShowFace(Side side) {
     const std::wstring before = DrawnText(face), text = FromAnsi(commands.Clock().Face(side));
     if (text == before) return;
     SetDrawnText(face, text);
-    if (!IsWindowVisible(face)) return;
-    // Drawn once and at once, before the many other controls that a press changes, and no more of it than the digits
-    // that are new.
-    const RECT changed = painter.ChangedPart(before, text);
-    RedrawWindow(face, &changed, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    // Before the many other controls that a press changes, and no more of it than the digits that are new.
+    DrawNow(ControlOf(lblFace, side), painter.ChangedPart(before, text));
 }
 
 void ClockPanels::ShowPhase() {
@@ -233,12 +231,35 @@ std::wstring ClockPanels::Stage(Side side) const {
     return texts.Compose(TextId::FirstStage, std::to_wstring(state.Control.MovesFirstPeriod - made));
 }
 
+void ClockPanels::TimeBlinks() {
+    const Phase phase = commands.CurrentPhase();
+    if (std::exchange(timed, phase) == phase) return;
+    if (commands.BlinkingSide())
+        ::SetTimer(form.Window(), BlinkTimer, BlinkInterval, nullptr);
+    else
+        KillTimer(form.Window(), BlinkTimer);
+}
+
 void ClockPanels::Blink() {
     const auto side = commands.BlinkingSide();
     if (!side) return;
-    const HWND label = form.Control(ControlOf(lblBlink, *side));
+    const int id = ControlOf(lblBlink, *side);
+    const HWND label = form.Control(id);
     SetDrawnText(label, GetWindowTextLengthW(label) == 0 ? texts(BlinkRow()) : L"");
-    InvalidateRect(label, nullptr, FALSE);
+    const Box& place = layout.Panels[*side].Blink;
+    DrawNow(id, {0, 0, place.Width, place.Height});
+}
+
+void ClockPanels::DrawNow(int id, const RECT& part) const {
+    // By the message with which the system asks for a whole control. Making the part invalid and having the system ask
+    // for it takes several calls of its server more, in every second.
+    const HWND control = form.Control(id);
+    const WindowDc dc(control);
+    IntersectClipRect(dc.Dc(), part.left, part.top, part.right, part.bottom);
+    if (!RectVisible(dc.Dc(), &part)) return;
+    DRAWITEMSTRUCT item{ODT_STATIC, static_cast<UINT>(id), 0, ODA_DRAWENTIRE, 0, control, dc.Dc(), {}, 0};
+    GetClientRect(control, &item.rcItem);
+    SendMessageW(form.Window(), WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
 }
 
 TextId ClockPanels::BlinkRow() const {

@@ -47,6 +47,9 @@ class ClockPanels {
     // What screen readers say of a control, where it is not its text.
     std::wstring SpokenName(int id) const;
 
+    // To be called first when the clock has changed. A mark that blinks has a timer of the form, in step with the
+    // clock's own: the program is woken once for a tick and the blink that goes with it.
+    void TimeBlinks();
     // One blink of the mark of the side whose turn it is.
     void Blink();
 
@@ -67,6 +70,8 @@ class ClockPanels {
   private:
     void ArrangePanel(Side side);
     void ShowMark(Side side);
+    // Draws that part of a drawn control at once. What else of it has to be drawn still waits for its turn.
+    void DrawNow(int id, const RECT& part) const;
     std::wstring Stage(Side side) const;
     bool HasSecondPeriod(Side side) const;
     int32_t PeriodTime(Side side) const;  // that is shown under the face
@@ -82,7 +87,8 @@ class ClockPanels {
     ClockLayout layout{};
     std::array<PanelLook, 2> shown{};  // by the panels
     std::array<FaceMark, 2> shownMarks{};
-    RECT arranged{};  // the client area that the layout is for
+    Phase timed = Phase::Idle;  // by the timer of the blinks
+    RECT arranged{};            // the client area that the layout is for
     Picture flagUp, flagDown, hand;
     UniqueCursor handHit, handPointBlue;
     ToolTips toolTips;

@@ -23,7 +23,7 @@ constexpr wchar_t ClassName[] = L"frmClock";
 
 constexpr int32_t ClockCorrectedCode = 31740;  // of the log
 
-constexpr UINT BlinkInterval = 500, HelpInterval = 2000;  // milliseconds
+constexpr UINT HelpInterval = 2000;  // milliseconds
 
 }  // namespace
 
@@ -64,8 +64,6 @@ void frmClock::Open() {
     panels.ApplyTexts();
     game.Begin(*this);
     const bool maximised = placer.PlaceClock(Window(), settings.OpenScorletAtStart);
-    ::SetTimer(Window(), BlinkTimer, BlinkInterval, nullptr);
-    ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
     ShowWindow(Window(), maximised ? SW_SHOWMAXIMIZED : SW_SHOWDEFAULT);
     UpdateWindow(Window());
     // As a command of its own: what stops it does not stop the clock.
@@ -111,7 +109,7 @@ bool frmClock::TakeMessage(MSG& message) {
 void frmClock::ShowSetup() {
     if (!game.Clock().SetupEnabled())
         return messageBoxes.Inform(Window(), texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpSetup));
-    frmSetup setup(around, settingsFile, settings, [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
+    frmSetup setup(around, settingsFile, settings, [this](HWND owner) { ShowHelp(owner, HelpPage::Settings); });
     setup.Open(Window());
     setup.RunModal();
     if (!setup.Accepted()) return;
@@ -123,7 +121,12 @@ void frmClock::ShowSetup() {
 // What is to be told comes over the window that is in front.
 void frmClock::ShowHelp(HelpPage page) {
     const HWND front = GetActiveWindow();
-    help.Open(front ? front : Window(), page);
+    ShowHelp(front ? front : Window(), page);
+}
+
+void frmClock::ShowHelp(HWND owner, HelpPage page) {
+    help.Open(owner, page);
+    ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
 }
 
 void frmClock::ShowAbout() {
@@ -152,7 +155,7 @@ void frmClock::TurnBoard() {
 }
 
 void frmClock::ShowFiles(FilesMode mode) {
-    frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
+    frmFiles files(around, store, game, mode, [this](HWND owner) { ShowHelp(owner, HelpPage::SavedGames); });
     files.Open(Window());
     files.RunModal();
     if (files.Loaded()) TakeGame(files.Loaded()->Saved, files.Loaded()->Name, true);
@@ -172,6 +175,7 @@ void frmClock::TakeGame(const SavedGame& saved, const std::wstring& name, bool o
 }
 
 void frmClock::ClockChanged(const ClockChange& change) {
+    panels.TimeBlinks();
     for (Side side : BothSides) {
         if (change.Faces[side]) panels.ShowFace(side);
     }

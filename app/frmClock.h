@@ -51,6 +51,7 @@ class frmClock : public Form, private ClockView {
     void ShowAbout();
     void ShowCorrection();
     void ShowHelp(HelpPage page);
+    void ShowHelp(HWND owner, HelpPage page);
     void TurnBoard();
     void ShowFiles(FilesMode mode);
     void TakeGame(const SavedGame& saved, const std::wstring& name, bool opensScorlet);

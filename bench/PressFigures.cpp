@@ -21,21 +21,22 @@ Settings WithBonus() {
     return settings;
 }
 
-// Notes when a face is painted with a text other than the last one.
-struct PaintWatch {
+// Notes when a face is drawn with a text other than the last one.
+struct FaceWatch {
+    int Face = 0;
     std::wstring Before;
-    double Painted = 0;
+    double Drawn = 0;
 };
+FaceWatch watch;
 
-// Replaces the face's own procedure directly: the common controls look up a subclass at each message, which would count
+// Replaces the form's own procedure directly: the common controls look up a subclass at each message, which would count
 // as the program's time.
-LRESULT CALLBACK FaceProcedure(HWND face, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto own = reinterpret_cast<WNDPROC>(GetClassLongPtrW(face, GCLP_WNDPROC));
-    const LRESULT result = CallWindowProcW(own, face, message, wParam, lParam);
-    if (message == WM_PAINT) {
+LRESULT CALLBACK WatchingProcedure(HWND form, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto own = reinterpret_cast<WNDPROC>(GetClassLongPtrW(form, GCLP_WNDPROC));
+    const LRESULT result = CallWindowProcW(own, form, message, wParam, lParam);
+    if (message == WM_DRAWITEM && wParam == static_cast<WPARAM>(watch.Face) && !watch.Drawn) {
         GdiFlush();
-        auto& watch = *reinterpret_cast<PaintWatch*>(GetWindowLongPtrW(face, GWLP_USERDATA));
-        if (!watch.Painted && TextOf(face) != watch.Before) watch.Painted = Now();
+        if (TextOf(GetDlgItem(form, watch.Face)) != watch.Before) watch.Drawn = Now();
     }
     return result;
 }
@@ -75,12 +76,7 @@ void DealWithMessages(bool keeping) {
 std::vector<double> MeasurePresses(int count, bool keeping) {
     ClockHere here;
     frmClock& form = *here.Form;
-    std::array<PaintWatch, 2> watches;
-    for (Side side : BothSides) {
-        const HWND face = form.Control(ControlOf(lblFace, side));
-        SetWindowLongPtrW(face, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&watches[side]));
-        SetWindowLongPtrW(face, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FaceProcedure));
-    }
+    SetWindowLongPtrW(form.Window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchingProcedure));
     // The first press starts White's clock; every later one adds the bonus of the side that made it.
     SendMessageW(form.Control(cmdClock), WM_LBUTTONDOWN, 0, 0);
     std::vector<double> times;
@@ -89,16 +85,16 @@ std::vector<double> MeasurePresses(int count, bool keeping) {
         DealWithMessages(keeping);
         // Players are slower than the writing of a kept game.
         Sleep(BetweenPresses);
-        PaintWatch& watch = watches[running];
-        watch = {TextOf(form.Control(ControlOf(lblFace, running))), 0};
+        const int face = ControlOf(lblFace, running);
+        watch = {face, TextOf(form.Control(face)), 0};
         const double start = Now();
         PostMessageW(form.Control(ControlOf(cmdClock, running)), WM_LBUTTONDOWN, 0, 0);
         MSG message;
-        while (!watch.Painted && GetMessageW(&message, nullptr, 0, 0) > 0) {
+        while (!watch.Drawn && GetMessageW(&message, nullptr, 0, 0) > 0) {
             if (form.TakeMessage(message)) continue;
             DispatchMessageW(&message);
         }
-        times.push_back(watch.Painted - start);
+        times.push_back(watch.Drawn - start);
         running = Other(running);
     }
     return times;

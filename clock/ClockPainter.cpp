@@ -229,9 +229,7 @@ void ClockPainter::DrawFace(const DRAWITEMSTRUCT& item, Side side, PanelLook loo
     if (!cells.empty()) UnionRect(&all, &cells.front(), &cells.back());
     GetClipBox(item.hDC, &asked);
     if (UnionRect(&asked, &asked, &all) && EqualRect(&asked, &all)) {
-        const int previous = SaveDC(item.hDC);
         write(item.hDC);
-        RestoreDC(item.hDC, previous);
         return;
     }
     const Buffered buffer(item);
@@ -268,21 +266,28 @@ void ClockPainter::DrawPanel(HDC dc, Side side, PanelLook look, const std::wstri
     WriteWord(dc, place, look, word);
 }
 
-void ClockPainter::WriteWord(HDC dc, RECT area, PanelLook look, const std::wstring& word) const {
+void ClockPainter::WriteWord(HDC dc, const RECT& area, PanelLook look, const std::wstring& word) const {
     const StateColours* state = ColoursOf(look);
-    if (!state || word.empty()) return;
+    if (!state || word.empty()) return Fill(dc, area, state ? state->Mark : CardColour);
+    // The word and its ground in one go: nothing flickers without a buffer, and it blinks all the time.
     UniqueFont smaller;
-    const LONG wanted = ExtentOf(dc, BlinkFont(), word).cx, width = area.right - area.left;
-    if (wanted > width) smaller = MakeFont(MulDiv(layout.BlinkType, width, wanted), true);
-    SetBkMode(dc, TRANSPARENT);
-    WriteCentred(dc, area, smaller ? smaller.get() : BlinkFont(), state->Ink, word);
+    const Selection font(dc, BlinkFont());
+    const LONG width = area.right - area.left;
+    SIZE size{};
+    GetTextExtentPoint32W(dc, word.c_str(), static_cast<int>(word.size()), &size);
+    if (size.cx > width) {
+        smaller = MakeFont(MulDiv(layout.BlinkType, width, size.cx), true);
+        SelectObject(dc, smaller.get());
+        GetTextExtentPoint32W(dc, word.c_str(), static_cast<int>(word.size()), &size);
+    }
+    SetTextColor(dc, state->Ink);
+    SetBkColor(dc, state->Mark);
+    ExtTextOutW(dc, (area.left + area.right - size.cx) / 2, (area.top + area.bottom - size.cy) / 2,
+                ETO_OPAQUE | ETO_CLIPPED, &area, word.c_str(), static_cast<UINT>(word.size()), nullptr);
 }
 
 void ClockPainter::DrawMarkWord(const DRAWITEMSTRUCT& item, PanelLook look, const std::wstring& word) const {
-    const Buffered buffer(item);
-    const StateColours* state = ColoursOf(look);
-    Fill(buffer.Dc(), buffer.Area(), state ? state->Mark : CardColour);
-    WriteWord(buffer.Dc(), buffer.Area(), look, word);
+    WriteWord(item.hDC, item.rcItem, look, word);
 }
 
 void ClockPainter::DrawTurnMark(const DRAWITEMSTRUCT& item, Side side, size_t mark) const {

@@ -65,7 +65,7 @@ class ClockPainter {
     const FaceType& TypeFor(const std::wstring& text);
     // The places of a text's characters in its face.
     std::vector<RECT> Cells(const std::wstring& text);
-    void WriteWord(HDC dc, RECT area, PanelLook look, const std::wstring& word) const;
+    void WriteWord(HDC dc, const RECT& area, PanelLook look, const std::wstring& word) const;
 
     Brush backgroundBrush, cardBrush;
     ClockLayout layout{};

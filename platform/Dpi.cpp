@@ -1,5 +1,7 @@
 #include "platform/Dpi.h"
 
+#include "platform/Handles.h"
+
 int DpiOf(HWND window) {
     // Windows before 10 has one resolution for all screens, and no GetDpiForWindow. Static, to be looked up once.
     using Function = UINT(WINAPI*)(HWND);
@@ -8,10 +10,7 @@ int DpiOf(HWND window) {
     if (getDpiForWindow && window) {
         if (const UINT dpi = getDpiForWindow(window)) return static_cast<int>(dpi);
     }
-    const HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
+    return GetDeviceCaps(WindowDc(nullptr).Dc(), LOGPIXELSY);
 }
 
 RECT FrameOf(DWORD style, bool menu, int dpi) {

@@ -36,6 +36,21 @@ struct ComRelease {
 template <typename Interface>
 using UniqueCom = std::unique_ptr<Interface, ComRelease>;
 
+// The device context of a window's client area, or of the screen for null, for the life of the object.
+class WindowDc {
+  public:
+    explicit WindowDc(HWND window) : window(window), dc(GetDC(window)) {}
+    ~WindowDc() { ReleaseDC(window, dc); }
+    WindowDc(const WindowDc&) = delete;
+    WindowDc& operator=(const WindowDc&) = delete;
+
+    HDC Dc() const { return dc; }
+
+  private:
+    HWND window;
+    HDC dc;
+};
+
 // Selects a GDI object for the life of the selection.
 class Selection {
   public:

@@ -68,11 +68,10 @@ Picture::Picture(IPicture& source) {
     OLE_YSIZE_HIMETRIC sourceHeight = 0;
     source.get_Width(&sourceWidth);
     source.get_Height(&sourceHeight);
-    const HDC screen = GetDC(nullptr);
+    const WindowDc screen(nullptr);
     constexpr int himetricPerInch = 2540;
-    width = MulDiv(sourceWidth, GetDeviceCaps(screen, LOGPIXELSX), himetricPerInch);
-    height = MulDiv(sourceHeight, GetDeviceCaps(screen, LOGPIXELSY), himetricPerInch);
-    ReleaseDC(nullptr, screen);
+    width = MulDiv(sourceWidth, GetDeviceCaps(screen.Dc(), LOGPIXELSX), himetricPerInch);
+    height = MulDiv(sourceHeight, GetDeviceCaps(screen.Dc(), LOGPIXELSY), himetricPerInch);
     HRESULT status = S_OK;
     const TopDownBitmap bitmap = WithTransparency(width, height, [&](HDC dc) {
         const HRESULT rendered =
