@@ -39,7 +39,9 @@ using UniqueCom = std::unique_ptr<Interface, ComRelease>;
 // The device context of a window's client area, or of the screen for null, for the life of the object.
 class WindowDc {
   public:
-    explicit WindowDc(HWND window) : window(window), dc(GetDC(window)) {}
+    explicit WindowDc(HWND window) : WindowDc(window, GetDC(window)) {}
+    // One that draws over the window's children too.
+    static WindowDc OverChildren(HWND window) { return {window, GetDCEx(window, nullptr, DCX_CACHE)}; }
     ~WindowDc() { ReleaseDC(window, dc); }
     WindowDc(const WindowDc&) = delete;
     WindowDc& operator=(const WindowDc&) = delete;
@@ -47,6 +49,8 @@ class WindowDc {
     HDC Dc() const { return dc; }
 
   private:
+    WindowDc(HWND window, HDC dc) : window(window), dc(dc) {}
+
     HWND window;
     HDC dc;
 };

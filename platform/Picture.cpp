@@ -39,6 +39,29 @@ TopDownBitmap WithTransparency(int width, int height, Drawing draw) {
     return onBlack;
 }
 
+// The channels of pixels, added up.
+class ChannelSums {
+  public:
+    void Add(uint32_t pixel) {
+        even += Spread(pixel);
+        odd += Spread(pixel >> 8);
+    }
+
+    uint32_t Mean(uint32_t count) const {
+        const auto mean = [&](uint64_t sums) {
+            return (Low(sums) + count / 2) / count | (Low(sums >> 32) + count / 2) / count << 16;
+        };
+        return mean(even) | mean(odd) << 8;
+    }
+
+  private:
+    // Two channels in the two halves of a number, so that one addition serves both.
+    static uint64_t Spread(uint32_t pixel) { return (pixel & 0xFF) | static_cast<uint64_t>(pixel & 0xFF0000) << 16; }
+    static uint32_t Low(uint64_t sums) { return static_cast<uint32_t>(sums); }
+
+    uint64_t even = 0, odd = 0;
+};
+
 // Puts a colour under the picture and around it, as far as the outline reaches, in a square of premultiplied pixels.
 void AddOutline(std::span<uint32_t> pixels, int size, COLORREF colour) {
     const std::vector<uint32_t> picture(pixels.begin(), pixels.end());
@@ -73,11 +96,15 @@ Picture::Picture(IPicture& source) {
     width = MulDiv(sourceWidth, GetDeviceCaps(screen.Dc(), LOGPIXELSX), himetricPerInch);
     height = MulDiv(sourceHeight, GetDeviceCaps(screen.Dc(), LOGPIXELSY), himetricPerInch);
     HRESULT status = S_OK;
-    const TopDownBitmap bitmap = WithTransparency(width, height, [&](HDC dc) {
-        const HRESULT rendered =
-            source.Render(dc, 0, 0, width, height, 0, sourceHeight, sourceWidth, -sourceHeight, nullptr);
-        if (FAILED(rendered)) status = rendered;
+    // A pixel of a GIF is there or not, so one drawing on a colour that no picture has tells the transparency.
+    constexpr uint32_t key = 0x01FE02;
+    const TopDownBitmap bitmap = DrawnOn(key, width, height, [&](HDC dc) {
+        status = source.Render(dc, 0, 0, width, height, 0, sourceHeight, sourceWidth, -sourceHeight, nullptr);
     });
+    for (uint32_t& pixel : bitmap.Pixels()) {
+        const uint32_t colour = pixel & 0xFFFFFF;
+        pixel = colour == key ? 0 : 0xFF000000 | colour;
+    }
     Pack(bitmap.Pixels());
     if (FAILED(status)) throw SystemError(CodeOf(status), L"GIF");
 }
@@ -102,20 +129,15 @@ void Picture::Pack(std::span<const uint32_t> pixels) {
     runs.shrink_to_fit();
 }
 
-std::vector<uint32_t> Picture::Unpacked() const {
-    std::vector<uint32_t> pixels;
-    pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
-    for (const Run& run : runs) pixels.insert(pixels.end(), run.Length, run.Pixel);
-    return pixels;
-}
-
 void Picture::Draw(HDC dc, int left, int top, int size, BYTE strength) const {
     if (Empty() || size <= 0) return;
+    // A larger square takes the picture as it is, stretched.
+    const int own = std::min({size, width, height});
     const UniqueDc memory(CreateCompatibleDC(dc));
-    const Selection selection(memory.get(), OfSize(size));
+    const Selection selection(memory.get(), OfSize(own));
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, strength, AC_SRC_ALPHA};
     // The same function as AlphaBlend, in a library that every program has loaded.
-    GdiAlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, size, size, blend);
+    GdiAlphaBlend(dc, left, top, size, size, memory.get(), 0, 0, own, own, blend);
 }
 
 HBITMAP Picture::OfSize(int size) const {
@@ -128,25 +150,27 @@ HBITMAP Picture::OfSize(int size) const {
 }
 
 UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
-    const std::vector<uint32_t> pixels = Unpacked();
     TopDownBitmap bitmap(size, size);
+    std::vector<ChannelSums> sums(static_cast<size_t>(size));
+    // Row by row as the runs are unpacked: a copy of the whole would take longer to be had than to be filled.
+    auto run = runs.begin();
+    uint32_t left = run->Length;
     for (int y = 0; y < size; ++y) {
-        const int top = y * height / size, bottom = std::max((y + 1) * height / size, top + 1);
-        for (int x = 0; x < size; ++x) {
-            const int left = x * width / size, right = std::max((x + 1) * width / size, left + 1);
-            std::array<uint32_t, 4> sums{};
-            for (int row = top; row < bottom; ++row) {
-                for (int column = left; column < right; ++column) {
-                    const uint32_t pixel =
-                        pixels[static_cast<size_t>(row) * static_cast<size_t>(width) + static_cast<size_t>(column)];
-                    for (size_t channel = 0; channel < 4; ++channel) sums[channel] += pixel >> (8 * channel) & 0xFF;
+        const int top = y * height / size, bottom = (y + 1) * height / size;
+        std::fill(sums.begin(), sums.end(), ChannelSums());
+        for (int row = top; row < bottom; ++row) {
+            for (int x = 0; x < size; ++x) {
+                for (int column = x * width / size; column < (x + 1) * width / size; ++column) {
+                    if (left == 0) left = (++run)->Length;
+                    --left;
+                    sums[static_cast<size_t>(x)].Add(run->Pixel);
                 }
             }
-            const uint32_t area = static_cast<uint32_t>((bottom - top) * (right - left));
-            uint32_t mean = 0;
-            for (size_t channel = 0; channel < 4; ++channel)
-                mean |= ((sums[channel] + area / 2) / area) << (8 * channel);
-            bitmap.Pixels()[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] = mean;
+        }
+        for (int x = 0; x < size; ++x) {
+            const int columns = (x + 1) * width / size - x * width / size;
+            bitmap.Pixels()[static_cast<size_t>(y) * static_cast<size_t>(size) + static_cast<size_t>(x)] =
+                sums[static_cast<size_t>(x)].Mean(static_cast<uint32_t>((bottom - top) * columns));
         }
     }
     if (outline != CLR_INVALID) AddOutline(bitmap.Pixels(), size, outline);

@@ -11,7 +11,7 @@
 #include <span>
 #include <vector>
 
-// A picture with soft edges that is drawn at any size up to its own. It is kept as runs of premultiplied 32-bit pixels
+// A picture with soft edges that is drawn at any size. It is kept as runs of premultiplied 32-bit pixels
 // and shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast an outline in the system's
 // text colour makes it stand out from any background.
 class Picture {
@@ -44,7 +44,6 @@ class Picture {
     };
 
     void Pack(std::span<const uint32_t> pixels);
-    std::vector<uint32_t> Unpacked() const;
     HBITMAP OfSize(int size) const;
     UniqueBitmap Shrunk(int size, COLORREF outline) const;
 

@@ -1,6 +1,7 @@
 #include "recorder/ScorletBoard.h"
 
 #include "platform/Ansi.h"
+#include "platform/Painting.h"
 #include "platform/Subclass.h"
 #include "recorder/EndingKeys.h"
 
@@ -83,6 +84,19 @@ void ScorletBoard::ShowCaptured() {
         }
         form.SetVisible(imgCapturedWQ + i, look.has_value());
     }
+}
+
+void ScorletBoard::DrawNow() const {
+    // The system would ask for one control after the other, which takes it longer than drawing does.
+    const HWND window = form.Window();
+    const RECT area = RectOf(layout.Board);
+    const WindowDc dc = WindowDc::OverChildren(window);
+    const auto draw = [&](int id, const Box& place) {
+        Draw({ODT_STATIC, static_cast<UINT>(id), 0, ODA_DRAWENTIRE, 0, form.Control(id), dc.Dc(), RectOf(place), 0});
+    };
+    draw(picBoard, layout.Board);
+    ForEachSquare([&](Square square) { draw(CellOf(square), layout.Cell(FileOf(square), RankOf(square))); });
+    RedrawWindow(window, &area, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
 }
 
 void ScorletBoard::Draw(const DRAWITEMSTRUCT& item) const {

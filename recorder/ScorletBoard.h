@@ -27,6 +27,8 @@ class ScorletBoard {
     void Place(const ScorletLayout& layout);
     // Draws what has changed anew, and nothing else.
     void Show();
+    // Draws the board and its squares at once, so that none of them waits for its turn.
+    void DrawNow() const;
     // Draws one of its controls.
     void Draw(const DRAWITEMSTRUCT& item) const;
 

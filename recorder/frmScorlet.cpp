@@ -64,6 +64,7 @@ void frmScorlet::Arrange() {
     if (std::exchange(arranged, now) == now) return;
     controls.Place(static_cast<int>(client.right), static_cast<int>(client.bottom), Dpi(), game.BoardTurned());
     input.Turn(controls.Layout.Turned);
+    boardWaits = true;
     RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
@@ -210,6 +211,8 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             RECT client{};
             GetClientRect(Window(), &client);
             controls.Painter.DrawGround(reinterpret_cast<HDC>(wParam), client, controls.Layout);
+            // Here, since the controls' own turn comes next. The field for typing lies over the board.
+            if (std::exchange(boardWaits, false) && !controls.Typing.Open()) controls.Board.DrawNow();
             return TRUE;
         }
         case WM_SIZE: Arrange(); return 0;

@@ -74,6 +74,7 @@ class frmScorlet : public Form, private RecordView {
         bool operator==(const Arrangement&) const = default;
     };
     Arrangement arranged{};
+    bool boardWaits = false;  // to be drawn as a whole
     BoardMouse mouse{*this, input, controls.Painter, controls.Layout};
     Side menuList = White;
     std::optional<LookBack> lookBack;
