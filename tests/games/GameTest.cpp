@@ -131,6 +131,7 @@ struct Play {
         if (word == "bonus") control.MoveBonus.fill(20), Played.Reset();
         if (word.starts_with("low=")) Beside.Own.LowTime = std::stoi(word.substr(4)), Played.Reset();
         if (word == "second") control.SecondPeriodEnabled = true, control.SecondPeriodTime.fill(30), Played.Reset();
+        if (word == "turn") Beside.Options.BoardTurned = true;
         if (word == "up60") control.CountTimeDown = false, Played.Reset();
         if (word == "setup") Beside.Options.Control.PeriodLimit[White] += 60, Played.TakeSettings();
         if (word == "open") Record = &Played.OpenRecord(Beside);
@@ -149,7 +150,7 @@ struct Play {
 // What the last word of a script made the windows do; for each side C where the clock button can be pressed, P where
 // the pause button can, R where it reads "Resume", T for the turn marks, F for the fallen flag, 2 for a second period
 // that begins, L for low time, and the blinking mark as m (to move) or p (paused); S where Setup can be opened; White's
-// face; the lists, where there are any.
+// face; whether the board is turned; the lists, where there are any.
 std::string StateAfter(const std::string& script) {
     Play play;
     play.SayAll(script);
@@ -169,6 +170,7 @@ std::string StateAfter(const std::string& script) {
         shown += " " + (letters.empty() ? "-" : letters);
     }
     shown += (clock.SetupEnabled() ? " S " : " ") + clock.Clock().Face(White);
+    if (play.Beside.Options.BoardTurned) shown += " turned";
     if (play.Beside.Timers != (clock.Clock().State().TimerRunning ? 1 : 0)) shown += " and a timer is left";
     return play.Played.Record() ? shown + "; " + ListText(play.Played.Record()->Lists()) : shown;
 }
@@ -292,7 +294,8 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         W 60s reset => read, show W B all; CP CP S 00:01:00 | setup => show W B all; CP CP S 00:02:00
         open e2e4 setup => show W B all, lists; CP CP S 00:02:00; 1. e4 /
         setup reset => read, show W B all; CP CP S 00:01:00
-        A loaded game takes the place of clock, record and settings.
+        A loaded game takes the place of clock, record and settings, but not of the side from which the board is seen.
+        turn load3,2on => show W B all; Rp - 00:00:45 turned
         open W load3,2on => show W B all, new record; Rp - 00:00:45; 1. d4 /
         open load3,2on pause => show all; CPTm - 00:00:45; 1. d4 /
         open load3,2 => show W B all, new record; F - 00:00:45; 1. d4 /
