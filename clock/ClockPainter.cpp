@@ -276,7 +276,8 @@ void ClockPainter::WriteWord(HDC dc, const RECT& area, PanelLook look, const std
     SIZE size{};
     GetTextExtentPoint32W(dc, word.c_str(), static_cast<int>(word.size()), &size);
     if (size.cx > width) {
-        smaller = MakeFont(MulDiv(layout.BlinkType, width, size.cx), true);
+        // One less, since a text's width does not shrink in exact proportion to its type.
+        smaller = MakeFont(MulDiv(layout.BlinkType, width, size.cx) - 1, true);
         SelectObject(dc, smaller.get());
         GetTextExtentPoint32W(dc, word.c_str(), static_cast<int>(word.size()), &size);
     }
