@@ -11,9 +11,9 @@
 #include <span>
 #include <vector>
 
-// A picture with soft edges that is drawn at any size. It is kept as runs of premultiplied 32-bit pixels
-// and shrunk by averaging areas; the last two sizes drawn are kept ready. At high contrast an outline in the system's
-// text colour makes it stand out from any background.
+// A picture with soft edges that is drawn at any size. It is kept as runs of premultiplied 32-bit pixels and shrunk by
+// averaging areas; the last two sizes drawn are kept ready. At high contrast an outline in the system's text colour
+// makes it stand out from any background.
 class Picture {
   public:
     Picture() = default;
