@@ -126,7 +126,7 @@ std::optional<bool> PlayerKey(const MSG& message) {
     const int code = HIWORD(message.lParam) & 0xFF;
     const bool down = message.message == WM_KEYDOWN && !(HIWORD(message.lParam) & (KF_REPEAT | KF_EXTENDED));
     if (!down || (code != PlaceOfA && code != PlaceOfApostrophe)) return std::nullopt;
-    // Asked last, since every message comes by here and asking for keys takes a call of the system's server each.
+    // Asked last: every message comes by here, and the state of a key is dear under Wine.
     const bool alone = GetKeyState(VK_CONTROL) >= 0 && GetKeyState(VK_MENU) >= 0;
     return alone ? std::optional(code == PlaceOfApostrophe) : std::nullopt;
 }

@@ -198,14 +198,13 @@ void ClockPanels::ShowPhase() {
         form.SetText(ControlOf(cmdPause, side), texts(commands.ReadsResume(side) ? TextId::Resume : TextId::Pause));
         form.SetEnabled(ControlOf(cmdClock, side), commands.ClockButtonEnabled(side));
         form.SetEnabled(ControlOf(cmdPause, side), commands.PauseButtonEnabled(side));
-        SetDrawnText(form.Control(ControlOf(lblBlink, side)), L"");
         const int32_t moves = commands.Clock().State().MoveCount[side];
         form.SetText(ControlOf(lblMoveCount, side), std::to_wstring(moves) + L".");
         form.SetText(ControlOf(lblStage, side), Stage(side));
         // What says nothing should not be there for a screen reader.
         form.SetVisible(ControlOf(lblBlink, side), commands.BlinkingSide() == side);
     }
-    Blink();
+    ShowWord();
     for (Side side : BothSides) {
         ShowMark(side);
         if (std::exchange(shown[side], commands.LookOf(side)) == commands.LookOf(side)) continue;
@@ -214,6 +213,18 @@ void ClockPanels::ShowPhase() {
     }
     // At once: what follows may take time, the flag's sound for example.
     RedrawWindow(form.Window(), nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void ClockPanels::ShowWord() {
+    const auto side = commands.BlinkingSide();
+    const auto blinks = side ? std::optional(std::pair(*side, BlinkRow())) : std::nullopt;
+    // Only a word that is new begins anew: another change may come with a tick, and so together with a blink.
+    if (std::exchange(blinking, blinks) == blinks) return;
+    for (Side panel : BothSides) {
+        const HWND label = form.Control(ControlOf(lblBlink, panel));
+        SetDrawnText(label, side == panel ? texts(BlinkRow()) : L"");
+        InvalidateRect(label, nullptr, FALSE);
+    }
 }
 
 void ClockPanels::ShowMark(Side side) {
@@ -246,13 +257,15 @@ void ClockPanels::Blink() {
     const int id = ControlOf(lblBlink, *side);
     const HWND label = form.Control(id);
     SetDrawnText(label, GetWindowTextLengthW(label) == 0 ? texts(BlinkRow()) : L"");
+    // The mark of a paused clock keeps its own word.
+    if (commands.LookOf(*side) == PanelLook::Paused) return;
     const Box& place = layout.Panels[*side].Blink;
     DrawNow(id, {0, 0, place.Width, place.Height});
 }
 
 void ClockPanels::DrawNow(int id, const RECT& part) const {
-    // By the message with which the system asks for a whole control. Making the part invalid and having the system ask
-    // for it takes several calls of its server more, in every second.
+    // Sends the message with which the system asks for a whole control. To make the part invalid and wait to be asked
+    // takes longer, and this happens twice in each second.
     const HWND control = form.Control(id);
     const WindowDc dc(control);
     IntersectClipRect(dc.Dc(), part.left, part.top, part.right, part.bottom);

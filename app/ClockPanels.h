@@ -9,6 +9,8 @@
 #include "settings/Settings.h"
 
 #include <array>
+#include <optional>
+#include <utility>
 
 // The pair of controls that a number belongs to, and its side; pair 0 is none.
 struct Place {
@@ -47,10 +49,10 @@ class ClockPanels {
     // What screen readers say of a control, where it is not its text.
     std::wstring SpokenName(int id) const;
 
-    // To be called first when the clock has changed. A mark that blinks has a timer of the form, in step with the
-    // clock's own: the program is woken once for a tick and the blink that goes with it.
+    // To be called first when the clock has changed. While a word blinks it has a timer of the form, set right after
+    // the clock's own where that begins: the program is woken once for a tick and the blink that goes with it.
     void TimeBlinks();
-    // One blink of the mark of the side whose turn it is.
+    // One blink of the word of the side whose turn it is.
     void Blink();
 
     // The visible control at a point of the window, enabled or not.
@@ -69,6 +71,7 @@ class ClockPanels {
 
   private:
     void ArrangePanel(Side side);
+    void ShowWord();
     void ShowMark(Side side);
     // Draws that part of a drawn control at once. What else of it has to be drawn still waits for its turn.
     void DrawNow(int id, const RECT& part) const;
@@ -87,8 +90,9 @@ class ClockPanels {
     ClockLayout layout{};
     std::array<PanelLook, 2> shown{};  // by the panels
     std::array<FaceMark, 2> shownMarks{};
-    Phase timed = Phase::Idle;  // by the timer of the blinks
-    RECT arranged{};            // the client area that the layout is for
+    Phase timed = Phase::Idle;                        // by the timer of the blinks
+    std::optional<std::pair<Side, TextId>> blinking;  // the word that blinks, and where
+    RECT arranged{};                                  // the client area that the layout is for
     Picture flagUp, flagDown, hand;
     UniqueCursor handHit, handPointBlue;
     ToolTips toolTips;

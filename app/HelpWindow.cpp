@@ -51,7 +51,7 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
     }
     // A viewer that has been started and shows no window yet will. A held F1 must not start one after the other.
     const bool wanted = page == HelpPage::Contents || page == started;
-    if (process && wanted && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT) return;
+    if (wanted && Waits()) return;
     const std::wstring& viewer = environment.HelpViewerPath;
     if (viewer.empty()) return messageBoxes.Inform(owner, texts(TextId::HelpViewerMissing));
     const std::wstring file = address.substr(0, address.rfind(L"::"));
@@ -81,6 +81,8 @@ void HelpWindow::Watch(HWND first) {
         }
     }
 }
+
+bool HelpWindow::Waits() const { return process && !held && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT; }
 
 void HelpWindow::Close(HWND first) {
     Watch(first);

@@ -23,6 +23,9 @@ class HelpWindow {
     // Looks from `first` downwards in the z-order for the viewer's window and holds it.
     void Watch(HWND first);
 
+    // A viewer has been started and shows no window yet.
+    bool Waits() const;
+
     // Asks the viewer's window to close. `first` as for Watch.
     void Close(HWND first);
 

@@ -126,7 +126,7 @@ void frmClock::ShowHelp(HelpPage page) {
 
 void frmClock::ShowHelp(HWND owner, HelpPage page) {
     help.Open(owner, page);
-    ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
+    if (help.Waits()) ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
 }
 
 void frmClock::ShowAbout() {
@@ -427,7 +427,10 @@ void frmClock::OnScreenChanged() {
 void frmClock::OnTimer(UINT_PTR id) {
     if (id == BlinkTimer) panels.Blink();
     if (id == PrintTimer) printer.Continue(Window());
-    if (id == HelpTimer) help.Watch(GetWindow(Window(), GW_HWNDFIRST));
+    if (id == HelpTimer) {
+        help.Watch(GetWindow(Window(), GW_HWNDFIRST));
+        if (!help.Waits()) KillTimer(Window(), HelpTimer);
+    }
 }
 
 void frmClock::FocusRightfulButton() {

@@ -41,7 +41,9 @@ class WindowDc {
   public:
     explicit WindowDc(HWND window) : WindowDc(window, GetDC(window)) {}
     // One that draws over the window's children too.
-    static WindowDc OverChildren(HWND window) { return {window, GetDCEx(window, nullptr, DCX_CACHE)}; }
+    static WindowDc OverChildren(HWND window) {
+        return {window, GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS)};
+    }
     ~WindowDc() { ReleaseDC(window, dc); }
     WindowDc(const WindowDc&) = delete;
     WindowDc& operator=(const WindowDc&) = delete;

@@ -152,7 +152,7 @@ HBITMAP Picture::OfSize(int size) const {
 UniqueBitmap Picture::Shrunk(int size, COLORREF outline) const {
     TopDownBitmap bitmap(size, size);
     std::vector<ChannelSums> sums(static_cast<size_t>(size));
-    // Row by row as the runs are unpacked: a copy of the whole would take longer to be had than to be filled.
+    // Row by row while the runs are unpacked, since getting memory for the whole takes longer than filling it.
     auto run = runs.begin();
     uint32_t left = run->Length;
     for (int y = 0; y < size; ++y) {

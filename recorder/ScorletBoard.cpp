@@ -91,6 +91,7 @@ void ScorletBoard::DrawNow() const {
     const HWND window = form.Window();
     const RECT area = RectOf(layout.Board);
     const WindowDc dc = WindowDc::OverChildren(window);
+    if (!dc.Dc()) return;
     const auto draw = [&](int id, const Box& place) {
         Draw({ODT_STATIC, static_cast<UINT>(id), 0, ODA_DRAWENTIRE, 0, form.Control(id), dc.Dc(), RectOf(place), 0});
     };

@@ -211,7 +211,7 @@ LRESULT frmScorlet::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             RECT client{};
             GetClientRect(Window(), &client);
             controls.Painter.DrawGround(reinterpret_cast<HDC>(wParam), client, controls.Layout);
-            // Here, since the controls' own turn comes next. The field for typing lies over the board.
+            // Before its controls are asked one by one, but not over the field for typing, which may lie on the board.
             if (std::exchange(boardWaits, false) && !controls.Typing.Open()) controls.Board.DrawNow();
             return TRUE;
         }
