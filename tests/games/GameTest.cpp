@@ -131,7 +131,7 @@ struct Play {
         if (word == "bonus") control.MoveBonus.fill(20), Played.Reset();
         if (word.starts_with("low=")) Beside.Own.LowTime = std::stoi(word.substr(4)), Played.Reset();
         if (word == "second") control.SecondPeriodEnabled = true, control.SecondPeriodTime.fill(30), Played.Reset();
-        if (word == "turn") Beside.Options.BoardTurned = true;
+        if (word == "turn") Played.TurnBoard();
         if (word == "up60") control.CountTimeDown = false, Played.Reset();
         if (word == "setup") Beside.Options.Control.PeriodLimit[White] += 60, Played.TakeSettings();
         if (word == "open") Record = &Played.OpenRecord(Beside);
@@ -295,7 +295,7 @@ TEST(GameTest, WhatEachCommandDoesToTheClockAndTheRecord) {
         open e2e4 setup => show W B all, lists; CP CP S 00:02:00; 1. e4 /
         setup reset => read, show W B all; CP CP S 00:01:00
         A loaded game takes the place of clock, record and settings, but not of the side from which the board is seen.
-        turn load3,2on => show W B all; Rp - 00:00:45 turned
+        turn load3,2on => show W B all; Rp - 00:00:45 turned | open turn => lists; CP CP S 00:01:00 turned;  /
         open W load3,2on => show W B all, new record; Rp - 00:00:45; 1. d4 /
         open load3,2on pause => show all; CPTm - 00:00:45; 1. d4 /
         open load3,2 => show W B all, new record; F - 00:00:45; 1. d4 /

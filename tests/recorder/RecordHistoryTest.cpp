@@ -87,7 +87,7 @@ TEST(RecordHistoryTest, WhatTheClockHasAddedStaysAndANewStepEndsRedo) {
     ExpectRows(HistoryOf, R"(
         => / ; <> White | e2e4 back => / ; <> White redo | e2e4 back redo => 1. e4 / ; <1. e4 > Black 10 back
         e2e4 e7e5 back back redo => 1. e4 / ; <1. e4 > Black 10 back redo
-        e2e4 e7e5 back c7c5 => 1. e4 / c5; 1. e4 <c5 > White 11 back
+        e2e4 e7e5 back c7c5 => 1. e4 / c5; 1. e4 <c5 > White 11 back | e2e4 e7e5 back load => 1. e4 / ; <1. e4 > Black 10
         What changes nothing is no step.
         e2e4 =Q deleteB W0=e4 => 1. e4 / ; <1. e4 > Black 10 back | check mate deleteW =>  / ; <> White 00
         e2e4 check check back back =>  / ; <> White redo
