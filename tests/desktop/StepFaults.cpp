@@ -37,6 +37,15 @@ void Steps::AddFaults() {
         }
         TerminateProcess(program->Process(), 99);
     });
+    // Does steps again and again until a file of theirs is no longer empty: a machine that is busy kills late.
+    Add("until-written", [this](Words& words) {
+        const std::wstring path = folder.Path() + Wide(words.Take());
+        const std::string steps = words.Take();
+        for (int left = 15; ReadFileText(path).empty(); --left) {
+            if (left == 0) return Fail("nothing is written");
+            Do(steps);
+        }
+    });
     // Notes what the game has come to, when it has changed.
     Add("note", [this](Words&) {
         std::string now;
