@@ -2,10 +2,11 @@
 
 #include "platform/Process.h"
 #include "platform/SystemError.h"
+#include "resources/resource.h"
 
 namespace {
 
-constexpr UINT Patience = 200;  // with the viewer, in milliseconds
+constexpr UINT WatchInterval = 2000, Patience = 200;  // with the viewer, in milliseconds
 
 // The folders of the languages in the help file.
 const wchar_t* FolderOf(int32_t language) {
@@ -37,11 +38,11 @@ std::wstring HelpWindow::AddressOf(HelpPage page) const {
 }
 
 void HelpWindow::Open(HWND owner, HelpPage page) {
-    Watch(GetWindow(owner, GW_HWNDFIRST));
+    Watch();
     const std::wstring address = AddressOf(page);
     // The viewer cannot be told to turn to a page: it is started anew.
     if (held && page != HelpPage::Contents) {
-        Close(held);
+        Close();
         process.reset();
     }
     if (held) {
@@ -62,17 +63,23 @@ void HelpWindow::Open(HWND owner, HelpPage page) {
     try {
         started = page;
         process = StartProgram(viewer, L"\"" + viewer + L"\" \"" + address + L"\"");
+        SetTimer(clock.Window(), HelpTimer, WatchInterval, nullptr);
     } catch (const SystemError& error) {
         const std::wstring reason = texts.Reason(error.Code());
         messageBoxes.Inform(owner, texts.Compose(TextId::HelpNotStarted, viewer, reason));
     }
 }
 
-void HelpWindow::Watch(HWND first) {
+void HelpWindow::OnTimer() {
+    Watch();
+    if (!Waits()) KillTimer(clock.Window(), HelpTimer);
+}
+
+void HelpWindow::Watch() {
     if (held && !IsWindow(held)) held = nullptr;
     if (held || !process) return;
     const DWORD viewerId = GetProcessId(process.get());
-    for (HWND window = first; window; window = GetWindow(window, GW_HWNDNEXT)) {
+    for (HWND window = GetWindow(clock.Window(), GW_HWNDFIRST); window; window = GetWindow(window, GW_HWNDNEXT)) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
         if (owner == viewerId && IsWindowVisible(window)) {
@@ -84,8 +91,8 @@ void HelpWindow::Watch(HWND first) {
 
 bool HelpWindow::Waits() const { return process && !held && WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT; }
 
-void HelpWindow::Close(HWND first) {
-    Watch(first);
+void HelpWindow::Close() {
+    Watch();
     // A viewer that hangs must not hold up the clock.
     if (held) SendMessageTimeoutA(held, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, Patience, nullptr);
     held = nullptr;

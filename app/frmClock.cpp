@@ -23,8 +23,6 @@ constexpr wchar_t ClassName[] = L"frmClock";
 
 constexpr int32_t ClockCorrectedCode = 31740;  // of the log
 
-constexpr UINT HelpInterval = 2000;  // milliseconds
-
 }  // namespace
 
 frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile, Settings& settings, Game& game,
@@ -34,7 +32,7 @@ frmClock::frmClock(const Surroundings& around, const SettingsFile& settingsFile,
       settings(settings),
       game(game),
       store(around.System.SavedGamesFolder),
-      help(around),
+      help(around, *this),
       title(game.Clock(), captions),
       panels(*this, game.Clock(), settings, captions, around.System.Look.BackgroundColour),
       placer(around.System.DataFolder + L"Places.txt"),
@@ -109,7 +107,7 @@ bool frmClock::TakeMessage(MSG& message) {
 void frmClock::ShowSetup() {
     if (!game.Clock().SetupEnabled())
         return messageBoxes.Inform(Window(), texts(TextId::HelpResetFirst) + L"\n" + texts(TextId::HelpSetup));
-    frmSetup setup(around, settingsFile, settings, [this](HWND owner) { ShowHelp(owner, HelpPage::Settings); });
+    frmSetup setup(around, settingsFile, settings, [this](HWND owner) { help.Open(owner, HelpPage::Settings); });
     setup.Open(Window());
     setup.RunModal();
     if (!setup.Accepted()) return;
@@ -121,12 +119,7 @@ void frmClock::ShowSetup() {
 // What is to be told comes over the window that is in front.
 void frmClock::ShowHelp(HelpPage page) {
     const HWND front = GetActiveWindow();
-    ShowHelp(front ? front : Window(), page);
-}
-
-void frmClock::ShowHelp(HWND owner, HelpPage page) {
-    help.Open(owner, page);
-    if (help.Waits()) ::SetTimer(Window(), HelpTimer, HelpInterval, nullptr);
+    help.Open(front ? front : Window(), page);
 }
 
 void frmClock::ShowAbout() {
@@ -155,7 +148,7 @@ void frmClock::TurnBoard() {
 }
 
 void frmClock::ShowFiles(FilesMode mode) {
-    frmFiles files(around, store, game, mode, [this](HWND owner) { ShowHelp(owner, HelpPage::SavedGames); });
+    frmFiles files(around, store, game, mode, [this](HWND owner) { help.Open(owner, HelpPage::SavedGames); });
     files.Open(Window());
     files.RunModal();
     if (files.Loaded()) TakeGame(files.Loaded()->Saved, files.Loaded()->Name, true);
@@ -427,10 +420,7 @@ void frmClock::OnScreenChanged() {
 void frmClock::OnTimer(UINT_PTR id) {
     if (id == BlinkTimer) panels.Blink();
     if (id == PrintTimer) printer.Continue(Window());
-    if (id == HelpTimer) {
-        help.Watch(GetWindow(Window(), GW_HWNDFIRST));
-        if (!help.Waits()) KillTimer(Window(), HelpTimer);
-    }
+    if (id == HelpTimer) help.OnTimer();
 }
 
 void frmClock::FocusRightfulButton() {
@@ -450,7 +440,7 @@ void frmClock::Unload() {
     LeaveFullScreen();
     placer.Keep(Window(), scorlet.Window());
     kept.Finish();
-    help.Close(GetWindow(Window(), GW_HWNDFIRST));
+    help.Close();
     game.Unload();
     Wakefulness::Show(Phase::Idle);
 }

@@ -51,7 +51,6 @@ class frmClock : public Form, private ClockView {
     void ShowAbout();
     void ShowCorrection();
     void ShowHelp(HelpPage page);
-    void ShowHelp(HWND owner, HelpPage page);
     void TurnBoard();
     void ShowFiles(FilesMode mode);
     void TakeGame(const SavedGame& saved, const std::wstring& name, bool opensScorlet);
