@@ -102,12 +102,11 @@ void ExpectFits(HWND control, const std::wstring& text, int taken, bool wraps) {
     RECT area{};
     GetClientRect(control, &area);
     RECT needed{0, 0, area.right - taken, 0};
-    const HDC dc = GetDC(control);
     {
-        const Selection font(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
-        DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE));
+        const WindowDc dc(control);
+        const Selection font(dc.Dc(), reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+        DrawTextW(dc.Dc(), text.c_str(), -1, &needed, DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE));
     }
-    ReleaseDC(control, dc);
     EXPECT_LE(needed.right + taken, area.right) << GetDlgCtrlID(control) << ": " << Utf8(text);
     EXPECT_LE(needed.bottom, area.bottom) << GetDlgCtrlID(control) << ": " << Utf8(text);
 }
@@ -154,14 +153,13 @@ void ExpectTextsFit(HWND form, bool drawnTexts) {
 GreyPicture GreyOf(HWND form, const Box& part) {
     RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     const TopDownBitmap bitmap(part.Width, part.Height);
-    const HDC window = GetDCEx(form, nullptr, DCX_CACHE);
     {
+        const WindowDc window = WindowDc::OverChildren(form);
         const UniqueDc dc(CreateCompatibleDC(nullptr));
         const Selection selection(dc.get(), bitmap.Handle());
-        BitBlt(dc.get(), 0, 0, part.Width, part.Height, window, part.Left, part.Top, SRCCOPY);
+        BitBlt(dc.get(), 0, 0, part.Width, part.Height, window.Dc(), part.Left, part.Top, SRCCOPY);
         GdiFlush();
     }
-    ReleaseDC(form, window);
     GreyPicture picture{part.Width, part.Height, {}};
     for (const uint32_t pixel : bitmap.Pixels()) {
         const auto linear = [&](int shift) { return std::pow((pixel >> shift & 0xFF) / 255.0, 2.2); };
